@@ -1,0 +1,44 @@
+# One folder under src/ is one library. A floor names the folders below it that it may use, and nothing else:
+#
+#   zqn_library(ado SOURCES connection.cpp recordset.cpp USES runtime)
+#   zqn_test(ado recordset_test.cpp find_test.cpp)
+#
+# Flags and include root are stated here once.
+
+find_program(ZQN_CCACHE ccache)
+if(ZQN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZQN_CCACHE})
+endif()
+
+add_library(zqn_flags INTERFACE)
+target_include_directories(zqn_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(zqn_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
+if(ZQN_SANITIZE)
+  target_compile_options(zqn_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zqn_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# zqn_library(name SOURCES ... [USES other folders] [LINKS outside libraries])
+function(zqn_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS" ${ARGN})
+  add_library(zqn_${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(zqn_${name} PUBLIC zqn_flags)
+  foreach(used IN LISTS ARG_USES)
+    target_link_libraries(zqn_${name} PUBLIC zqn_${used})
+  endforeach()
+  target_link_libraries(zqn_${name} PUBLIC ${ARG_LINKS})
+endfunction()
+
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+# zqn_test(name sources... [USES folders] [LINKS libraries]): a GoogleTest program <name>_test, one ctest entry a case.
+function(zqn_test name)
+  cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
+  add_executable(${name}_test ${ARG_UNPARSED_ARGUMENTS})
+  foreach(used IN LISTS ARG_USES)
+    target_link_libraries(${name}_test PRIVATE zqn_${used})
+  endforeach()
+  target_link_libraries(${name}_test PRIVATE zqn_flags ${ARG_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
+  gtest_discover_tests(${name}_test TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+endfunction()

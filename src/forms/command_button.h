@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+//
+// A push button. Enter and Space press it when it has the focus; the form's Cancel button is pressed by Esc
+// and its Default button by Enter from anywhere, without moving the focus, as long as it is visible and
+// enabled.
+#pragma once
+
+#include "forms/control.h"
+
+namespace zqn {
+
+class CommandButton : public Control {
+ public:
+  CommandButton(Form& form, const ControlDesign& design, int tabIndex);
+
+  const String& Caption() const noexcept { return caption_; }
+  void Caption(StringView caption);
+  bool Cancel() const noexcept { return cancel_; }
+  bool Default() const noexcept { return default_; }
+
+  bool ownKey(const KeyStroke& stroke) override;
+  String content() const override { return caption_; }
+
+ protected:
+  const PropertyEntry* findProperty(StringView name) const override;
+
+ private:
+  String caption_;
+  bool cancel_, default_;
+};
+
+}  // namespace zqn

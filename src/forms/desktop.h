@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+//
+// What a form needs from the world: windows, message boxes, a queue of keys, a clipboard, the screen. Each
+// toolkit implements it once; a form never sees a toolkit's type. The public functions state the order that
+// all toolkits share, the protected ones are what a toolkit must do.
+//
+//     qt::QtDesktop desktop;
+//     Desktop::Scope scope(desktop);     // forms shown from now on appear there
+//     ORBDialog dialog;
+//     dialog.Show(21, param);
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "forms/keys.h"
+#include "forms/message_box.h"
+#include "runtime/error.h"
+#include "runtime/string.h"
+
+namespace zqn {
+
+class Form;
+class Control;
+
+/// The window of one form. Calls come while the form is attached to it; each is cheap and may come for
+/// several changes in a row.
+class FormView {
+ public:
+  virtual ~FormView() = default;
+  /// Something of the control that is drawn has changed, place and visibility included.
+  virtual void controlChanged(Control& control) = 0;
+  /// Caption or size of the form has changed.
+  virtual void formChanged() = 0;
+  /// Form::ActiveControl is another one: the focus belongs there.
+  virtual void focusChanged() = 0;
+};
+
+/// Hears what happens on a desktop: a log, a transcript, a test.
+class DesktopListener {
+ public:
+  virtual ~DesktopListener() = default;
+  virtual void formShown(Form&) {}
+  virtual void formClosed(Form&) {}
+  virtual void messageBoxOpened(const MessageBox&) {}
+  /// A run-time error left an event procedure ("btnDelete_Click"). True: it is dealt with, no box tells the
+  /// person.
+  virtual bool runtimeErrorRaised(Form&, StringView /*procedure*/, const RuntimeError&) { return false; }
+};
+
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// The desktop that forms appear on. Error 429 when there is none.
+  static Desktop& current();
+  /// Makes a desktop the current one until the end of the scope.
+  class Scope {
+   public:
+    explicit Scope(Desktop& desktop) noexcept;
+    ~Scope();
+    Scope(const Scope&) = delete;
+    Scope& operator=(const Scope&) = delete;
+
+   private:
+    Desktop* former_;
+  };
+
+  // ---- what forms ask for
+
+  /// Opens a window for the form and returns when the form is unloaded. Forms nest.
+  void showModal(Form& form);
+  /// Opens a message box and returns the answer.
+  MsgBoxResult messageBox(const MessageBox& box);
+  /// A run-time error left an event procedure: the person is told its number and words, the form stays.
+  void runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure);
+  /// Queues keys, written as "{Tab}" or characters; they are pressed after the running handler has come back
+  /// to the modal loop. Error 5 for a name that is no key.
+  void sendKeys(StringView keys);
+  virtual void copyToClipboard(StringView text) = 0;
+  virtual String clipboardText() const = 0;
+  virtual double TwipsPerPixelX() const { return 15; }
+  virtual double TwipsPerPixelY() const { return 15; }
+
+  // ---- what hosts ask for
+
+  void addListener(DesktopListener* listener) { listeners_.push_back(listener); }
+  void removeListener(DesktopListener* listener) { std::erase(listeners_, listener); }
+  /// Called whenever a modal loop, of a form or of a message box, has nothing left to do. Each call may do
+  /// one thing.
+  void whenIdle(std::function<void()> step) { idle_ = std::move(step); }
+  /// The form that a person can act on; nullptr when none is open.
+  Form* activeForm() const noexcept { return forms_.empty() ? nullptr : forms_.back(); }
+  /// The message box that waits for an answer; nullptr when none is open.
+  const MessageBox* openMessageBox() const noexcept { return box_; }
+  /// How many message boxes have been opened since the desktop began: a form compares it to see that one came
+  /// up meanwhile.
+  int messageBoxCount() const noexcept { return boxCount_; }
+
+ protected:
+  /// Makes the window and attaches its view; it must stand when the function returns.
+  virtual void openWindow(Form& form) = 0;
+  /// Takes the window away and detaches the view. The form is no longer visible.
+  virtual void closeWindow(Form& form) = 0;
+  /// Handles input until `done` answers True. Presses the queued keys (nextQueuedKey) and runs idleStep when
+  /// nothing else is left.
+  virtual void runLoop(const std::function<bool()>& done) = 0;
+  /// Shows a box and waits; an implementation may run runLoop.
+  virtual MsgBoxResult runMessageBox(const MessageBox& box) = 0;
+
+  /// Takes the next queued key; False when there is none.
+  bool nextQueuedKey(KeyStroke& stroke);
+  bool hasIdleStep() const noexcept { return static_cast<bool>(idle_); }
+  void idleStep() {
+    if (idle_) idle_();
+  }
+
+ private:
+  std::vector<DesktopListener*> listeners_;
+  std::function<void()> idle_;
+  std::vector<Form*> forms_;
+  std::deque<KeyStroke> queue_;
+  const MessageBox* box_ = nullptr;
+  int boxCount_ = 0;
+};
+
+}  // namespace zqn

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//
+// Keys as the dialogs know them: the platform's key codes, the shift bits, and one stroke of a key.
+#pragma once
+
+#include <cstdint>
+
+namespace zqn {
+
+namespace key {
+constexpr int Backspace = 8;
+constexpr int Tab = 9;
+constexpr int Enter = 13;
+constexpr int Escape = 27;
+constexpr int Space = 32;
+constexpr int PageUp = 33;
+constexpr int PageDown = 34;
+constexpr int End = 35;
+constexpr int Home = 36;
+constexpr int Left = 37;
+constexpr int Up = 38;
+constexpr int Right = 39;
+constexpr int Down = 40;
+constexpr int Delete = 46;
+constexpr int F1 = 112;
+constexpr int F2 = 113;
+constexpr int F3 = 114;
+constexpr int F4 = 115;
+constexpr int F6 = 117;
+constexpr int F9 = 120;
+constexpr int F10 = 121;
+constexpr int F12 = 123;
+}  // namespace key
+
+namespace shift {
+constexpr int None = 0;
+constexpr int Shift = 1;
+constexpr int Ctrl = 2;
+constexpr int Alt = 4;
+}  // namespace shift
+
+/// One press of a key.
+struct KeyStroke {
+  /// The platform's key code: letters and digits by their capital character, the others as in namespace key.
+  int code = 0;
+  /// Sum of the shift bits.
+  int shift = 0;
+  /// What the press types, 0 for none. Enter, Tab, Backspace and Escape type 13, 9, 8, 27; Ctrl with a letter
+  /// types 1 to 26.
+  char16_t character = 0;
+
+  /// The stroke of a key that is named by its code alone, or of a character.
+  static KeyStroke ofCode(int code, int shift = 0);
+  static KeyStroke ofCharacter(char16_t character, int shift = 0);
+};
+
+}  // namespace zqn

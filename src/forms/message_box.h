@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+//
+// Message boxes, under the platform's names and numbers:
+//
+//     if (MsgBox(u"Datensatz löschen?", msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes)
+//     return;
+#pragma once
+
+#include <vector>
+
+#include "runtime/string.h"
+
+namespace zqn {
+
+namespace msgbox {
+constexpr int OKOnly = 0;
+constexpr int OKCancel = 1;
+constexpr int YesNoCancel = 3;
+constexpr int YesNo = 4;
+constexpr int Critical = 16;
+constexpr int Question = 32;
+constexpr int Exclamation = 48;
+constexpr int Information = 64;
+constexpr int DefaultButton1 = 0;
+constexpr int DefaultButton2 = 256;
+constexpr int DefaultButton3 = 512;
+}  // namespace msgbox
+
+enum class MsgBoxResult { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
+
+/// A message box that is to open: the text breaks at CR, LF and CR LF.
+struct MessageBox {
+  String text;
+  String title;
+  /// Sum of the numbers of namespace msgbox.
+  int style = 0;
+
+  /// The buttons from left to right.
+  std::vector<MsgBoxResult> buttons() const;
+  /// The default button, counted from 1.
+  int defaultButton() const noexcept;
+  /// What Esc and the close box mean: Cancel, OK on a box that has OK alone; nothing for Yes and No.
+  bool hasEscape(MsgBoxResult& result) const;
+};
+
+/// Opens a message box above the open form and waits for the answer.
+MsgBoxResult MsgBox(StringView text, int style, StringView title);
+
+}  // namespace zqn

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+//
+// The design of a form as a table: one row a control, in the order of the tab index, positions and sizes in
+// twips. It is the one place that says what a control is called, what kind it is, where it stands and what it
+// says:
+//
+//     constexpr ControlDesign roster[] = {
+//         {u"txtSchluessel", ControlKind::Label, u"Status", 120, 2640, 855, 255},
+//         {u"Schluessel", ControlKind::TextBox, u"", 120, 2880, 1455, 285, {.MaxLength = 3}},
+//     };
+//     constexpr FormDesign design{u"frmVertriebsstati", u"Vertriebsstati", 6420, 5145, roster};
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "runtime/string.h"
+
+namespace zqn {
+
+enum class ControlKind { TextBox, Label, CommandButton, CheckBox, TDBList };
+
+/// The kind's name as a roster, a script or a dump writes it: "TextBox".
+StringView kindName(ControlKind kind) noexcept;
+
+enum class Alignment { Left, Right, Center };
+
+/// What a row of the roster says beyond name, kind, text and place. Each value is the design state; logic may
+/// change it later.
+struct OtherDesign {
+  /// Longest text in UTF-16 units; 0 is no limit. TextBox.
+  int MaxLength = 0;
+  zqn::Alignment Alignment = zqn::Alignment::Left;
+  /// The button that Esc, or Enter, presses from anywhere on the form. CommandButton.
+  bool Cancel = false;
+  bool Default = false;
+  bool Visible = true;
+  bool Enabled = true;
+  bool TabStop = true;
+  /// May stand over another visible control, or outside the client area, on purpose.
+  bool Overlaps = false;
+  const char16_t* ToolTipText = u"";
+  /// Name of the control that it stands in; its place is then relative to that one. Empty: the form.
+  const char16_t* Container = u"";
+};
+
+struct ControlDesign {
+  /// Name, with the index behind it for an element of a control array: "Label1(0)".
+  const char16_t* name;
+  ControlKind kind;
+  /// Caption, or the text of a text box.
+  const char16_t* text;
+  int left, top, width, height;
+  OtherDesign other{};
+};
+
+struct FormDesign {
+  const char16_t* name;
+  const char16_t* caption;
+  /// Client area.
+  int width, height;
+  std::span<const ControlDesign> roster;
+};
+
+}  // namespace zqn

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+//
+// The list of a catalogue: rows and columns of a bound recordset, one row of them marked. It never copies the
+// rows; a view asks for the texts it draws, row by row. The marked row and the recordset's current row are
+// two things:
+//
+//     list.DataSource(rs);            // row 0 is marked, no event
+//     rs->Find(u"Status='20'");       // moves rs alone, the mark stays
+//     list.Bookmark(rs->Bookmark());  // marks that row, raises RowColChange
+//
+// Marking a row, by a person or by Bookmark, makes it the recordset's current row. Rows count from 0.
+#pragma once
+
+#include <vector>
+
+#include "ado/recordset.h"
+#include "forms/control.h"
+#include "runtime/ref.h"
+
+namespace zqn {
+
+class TDBList : public Control {
+ public:
+  TDBList(Form& form, const ControlDesign& design, int tabIndex);
+
+  /// One column of the list: column i shows field i of the recordset.
+  class Column {
+   public:
+    const String& Caption() const noexcept { return caption_; }
+    void Caption(StringView caption);
+    /// The field of the marked row; Empty when no row is marked.
+    Variant Value() const;
+    bool Visible() const noexcept { return visible_; }
+    void Visible(bool visible);
+    /// Twips; 0 hides the column from the eye but leaves it Visible.
+    int Width() const noexcept { return width_; }
+    void Width(int twips);
+    bool AllowSizing() const noexcept { return allowSizing_; }
+    void AllowSizing(bool allow) { allowSizing_ = allow; }
+
+   private:
+    friend class TDBList;
+    Column(TDBList& list, int ordinal, String caption)
+        : list_(&list), ordinal_(ordinal), caption_(std::move(caption)) {}
+    TDBList* list_;
+    int ordinal_;
+    String caption_;
+    bool visible_ = true;
+    int width_ = 1500;
+    bool allowSizing_ = true;
+  };
+  /// The list seen through one of its splits; there is one, number 0, and its columns are the list's.
+  class Split {
+   public:
+    TDBList::Column& Columns(int index) { return list_->Columns(index); }
+
+   private:
+    friend class TDBList;
+    explicit Split(TDBList& list) : list_(&list) {}
+    TDBList* list_;
+  };
+  struct RowStyle {
+    std::uint32_t BackColor = colour::Highlight;
+    std::uint32_t ForeColor = colour::HighlightText;
+  };
+
+  const Ref<ado::Recordset>& DataSource() const noexcept { return source_; }
+  /// Binds: marks row 0 when there is one, raises nothing. The columns are made anew from the fields unless
+  /// HoldFields was called before. A closed recordset, or Nothing, shows no columns and no rows.
+  void DataSource(Ref<ado::Recordset> source);
+  /// Leaves the column set-up alone at the next binding.
+  void HoldFields() { holdFields_ = true; }
+  /// Shows the data source anew: as DataSource with the same recordset.
+  void ReBind();
+
+  /// Error 9 outside the columns.
+  Column& Columns(int index);
+  int columnCount() const noexcept { return static_cast<int>(columns_.size()); }
+  Split Splits(int index);
+  bool ColumnHeaders() const noexcept { return columnHeaders_; }
+  void ColumnHeaders(bool show);
+  const RowStyle& HighlightRowStyle() const noexcept { return highlight_; }
+  void HighlightRowStyle(RowStyle style);
+
+  /// Bookmark of the marked row in the recordset's terms; Empty when none is marked.
+  Variant Bookmark() const;
+  /// Marks that row and makes it the recordset's current row. Raises RowColChange when it is another row, and
+  /// at the first assignment after a binding in any case. The recordset's errors for a bookmark that is not
+  /// its own (3001), 3704.
+  void Bookmark(const Variant& bookmark);
+  /// The list's default value: column 0 of the marked row as text, Null as ""; "" without a marked row.
+  String Text() const;
+
+  /// The marked row has changed, by a person or by Bookmark.
+  Event<> RowColChange{*this, u"RowColChange"};
+
+  // ---- for toolkits and automation
+
+  /// The marked row, -1 for none.
+  int Row() const noexcept { return row_; }
+  /// Rows known so far, and whether these are all. fetchRows makes more of them known, `atMost` in one call.
+  int knownRows() const;
+  bool rowsComplete() const;
+  void fetchRows(int atMost);
+  /// Text of a cell as the list shows it; Null and rows that cannot be read are "".
+  String cellText(int row, int column) const;
+  /// Counts up with each binding: a view with another number starts anew.
+  int bindings() const noexcept { return bindings_; }
+  /// Rows that a page of the list holds, from its height: PageUp and PageDown move by them.
+  int rowsPerPage() const noexcept;
+  static constexpr int rowHeight = 240;     // twips
+  static constexpr int headerHeight = 285;  // twips
+  /// Width of a column as drawn, in twips: the last visible one reaches to the right edge at least.
+  int drawnWidth(int column) const;
+
+  /// A person marks a row by mouse or key. Raises RowColChange when the row changes, or when none has come
+  /// since the binding.
+  void userSelect(int row);
+  void userDoubleClick(int row);
+  /// The marked row's visible texts, tabs between them: what Ctrl+C copies.
+  String rowAsText() const;
+  /// The list sees Enter before the form does.
+  void keepsEnter(bool keeps) { keepsEnter_ = keeps; }
+  bool wantsEnter() const noexcept override { return keepsEnter_; }
+  bool ownKey(const KeyStroke& stroke) override;
+  void clicked() override {}
+  Variant Property(StringView name) const override;
+  String content() const override { return Text(); }
+
+ protected:
+  const PropertyEntry* findProperty(StringView name) const override;
+
+ private:
+  bool hasRows() const;
+  void mark(int row, bool raise);
+  bool searchTyped(char16_t character);
+
+  Ref<ado::Recordset> source_;
+  std::vector<Column> columns_;
+  RowStyle highlight_;
+  bool columnHeaders_ = true;
+  bool holdFields_ = false;
+  bool keepsEnter_ = false;
+  /// No RowColChange has come since the binding.
+  bool unannounced_ = false;
+  int row_ = -1;
+  int bindings_ = 0;
+  String typed_;
+};
+
+}  // namespace zqn

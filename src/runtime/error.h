@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Run-time errors of the dialog language. There is one exception type; its number tells what happened, with the numbers that
-// the platform's `Err.Number` shows: the small ones of the language, ADO's own from 3001 on, and a provider's as a negative
-// 32-bit number. Nothing else is ever skipped by the error modes: a broken invariant or a lack of memory stays what it is.
+// Run-time errors of the dialog language. There is one exception type; its number tells what happened, with
+// the numbers that the platform's `Err.Number` shows: the small ones of the language, ADO's own from 3001 on,
+// and a provider's as a negative 32-bit number. Nothing else is ever skipped by the error modes: a broken
+// invariant or a lack of memory stays what it is.
 //
 //     throw RuntimeError(error::NoCurrentRecord);
 #pragma once
@@ -49,7 +50,7 @@ constexpr std::int32_t ObjectOpen = 3705;
 constexpr std::int32_t InvalidConnection = 3709;
 
 // Providers.
-constexpr std::int32_t CommandText = -2147217900;        // syntax error, unknown column
+constexpr std::int32_t CommandText = -2147217900;  // syntax error, unknown column
 constexpr std::int32_t TableNotFound = -2147217865;
 constexpr std::int32_t IntegrityViolation = -2147217873;  // duplicate key, Null where none may be
 constexpr std::int32_t RowConflict = -2147217864;         // the row is gone or has changed since it was read
@@ -57,7 +58,8 @@ constexpr std::int32_t MultipleStep = -2147217887;        // the field could not
 constexpr std::int32_t ProviderDataOverflow = -2147217833;
 constexpr std::int32_t PermissionDenied = -2147217911;
 constexpr std::int32_t ProviderTypeMismatch = -2147352571;  // "abc" into a number column
-constexpr std::int32_t ProviderFailure = -2147467259;       // anything else; the description has the provider's words
+constexpr std::int32_t ProviderFailure =
+    -2147467259;  // anything else; the description has the provider's words
 
 }  // namespace error
 
@@ -82,8 +84,8 @@ class RuntimeError : public std::exception {
 };
 
 namespace error {
-/// The platform's words for a number: German for the language and the forms, ADO's English texts for 3001 and above; "" if the
-/// number has none.
+/// The platform's words for a number: German for the language and the forms, ADO's English texts for 3001 and
+/// above; "" if the number has none.
 String description(std::int32_t number);
 }  // namespace error
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What depends on country and day, in one place. Every conversion takes it from Locale::current(); a test sets the day or the
-// decimal sign once, for a scope:
+// What depends on country and day, in one place. Every conversion takes it from Locale::current(); a test
+// sets the day or the decimal sign once, for a scope:
 //
 //     Locale fixed = Locale::german();
 //     fixed.now = [] { return dateSerial(2026, 3, 5); };
@@ -19,19 +19,23 @@ namespace zqn {
 char16_t upperUnit(char16_t unit) noexcept;
 char16_t lowerUnit(char16_t unit) noexcept;
 
-/// The order of texts on the embedded database and in criteria: case does not count, accents do, a letter with an accent sorts
-/// behind its plain letter; trailing blanks do not count, but a text of blanks only is one blank and greater than the empty
-/// text. Below 0, 0 or above 0. Takes UTF-8 or UTF-16; ASCII is compared without conversion.
+/// The order of texts on the embedded database and in criteria: case does not count, accents do, a letter
+/// with an accent sorts behind its plain letter; trailing blanks do not count, but a text of blanks only is
+/// one blank and greater than the empty text. Below 0, 0 or above 0. Takes UTF-8 or UTF-16; ASCII is compared
+/// without conversion.
 int compareCollated(StringView left, StringView right) noexcept;
 int compareCollated(std::string_view left, std::string_view right) noexcept;
 /// Two texts that compare as equal have the same hash.
 std::size_t hashCollated(StringView text) noexcept;
+/// The same order, but every blank counts: the comparison of the dialog language.
+int compareIgnoringCase(StringView left, StringView right) noexcept;
 
 struct Locale {
   enum class DateOrder { DayMonthYear, MonthDayYear, YearMonthDay };
 
   char16_t decimal = u',';
   char16_t thousands = u'.';
+  String currency = u"€";
   char16_t dateSeparator = u'.';
   DateOrder dateOrder = DateOrder::DayMonthYear;
   String shortDate = u"dd.mm.yyyy";

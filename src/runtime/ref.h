@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A reference that may be Nothing. Using it while it is Nothing raises run-time error 91, as in the dialog language, so that
-// a routine that runs statement by statement skips the statement instead of ending the host.
+// A reference that may be Nothing. Using it while it is Nothing raises run-time error 91, as in the dialog
+// language, so that a routine that runs statement by statement skips the statement instead of ending the
+// host.
 //
 //     Ref<ado::Recordset> rs;            // Nothing
 //     rs->Close();                       // RuntimeError 91
@@ -26,8 +27,7 @@ class Ref {
   Ref(Nothing) {}
   Ref(std::shared_ptr<T> object) : object_(std::move(object)) {}
   template <class U>
-    requires std::is_convertible_v<U*, T*>
-  Ref(const Ref<U>& other) : object_(other.shared()) {}
+  requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other) : object_(other.shared()) {}
 
   template <class... Args>
   static Ref make(Args&&... args) {

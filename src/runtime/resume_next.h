@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
-// The second of the two error modes. A routine without a handler is plain code: what fails leaves it. A routine that runs
-// statement by statement names its statements, and a failing one is skipped:
+// The second of the two error modes. A routine without a handler is plain code: what fails leaves it. A
+// routine that runs statement by statement names its statements, and a failing one is skipped:
 //
 //     ResumeNext step;
 //     step([&] { rsListe->Requery(); });
 //     step([&] { TDBList1.ReBind(); });
 //     if (step.test([&] { return rsListe->RecordCount() == 0; })) { ... }
 //
-// Only RuntimeError is skipped: a defect of the program is never swallowed. The mode belongs to one activation of one routine;
-// a routine called inside a statement has the mode that it states itself.
+// Only RuntimeError is skipped: a defect of the program is never swallowed. The mode belongs to one
+// activation of one routine; a routine called inside a statement has the mode that it states itself.
 #pragma once
 
 #include <cstdint>
@@ -31,7 +31,8 @@ class ResumeNext {
     }
   }
 
-  /// The condition of a block If. True when the condition itself fails: execution goes on with the first statement inside.
+  /// The condition of a block If. True when the condition itself fails: execution goes on with the first
+  /// statement inside.
   template <class Condition>
   bool test(Condition&& condition) {
     try {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Text of the dialogs: UTF-16, because every length, position and limit of a form counts UTF-16 units, and toolkits and
-// databases speak it. UTF-8 exists at the edges only (files, JSON, console, SQLite) and is converted there:
+// Text of the dialogs: UTF-16, because every length, position and limit of a form counts UTF-16 units, and
+// toolkits and databases speak it. UTF-8 exists at the edges only (files, JSON, console, SQLite) and is
+// converted there:
 //
 //     String key = fromUtf8("Müller");
 //     std::cout << toUtf8(key);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A value of the dialog language that carries its kind. A Variant converts nothing by itself; the functions of
-// runtime/convert.h do, and say which errors they raise.
+// A value of the dialog language that carries its kind. A Variant converts nothing by itself; the functions
+// of runtime/convert.h do, and say which errors they raise.
 //
 //     Variant key = u"10";
 //     if (key.isNull()) ...
@@ -32,7 +32,18 @@ class Object {
 
 class Variant {
  public:
-  enum class Kind : std::uint8_t { Empty, Null, Boolean, Integer, Long, Double, Date, String, Object, Missing };
+  enum class Kind : std::uint8_t {
+    Empty,
+    Null,
+    Boolean,
+    Integer,
+    Long,
+    Double,
+    Date,
+    String,
+    Object,
+    Missing
+  };
   struct NullValue {
     bool operator==(const NullValue&) const = default;
   };
@@ -62,14 +73,15 @@ class Variant {
   /// Boolean, Integer, Long or Double.
   bool isNumber() const noexcept { return kind() >= Kind::Boolean && kind() <= Kind::Double; }
 
-  /// The held value; nullptr when the kind is another one. T is bool, std::int16_t, std::int32_t, double, Date, String or
-  /// std::shared_ptr<Object>.
+  /// The held value; nullptr when the kind is another one. T is bool, std::int16_t, std::int32_t, double,
+  /// Date, String or std::shared_ptr<Object>.
   template <class T>
   const T* as() const noexcept {
     return std::get_if<T>(&value_);
   }
 
-  /// Same kind and same value; no conversion, no collation. For the language's own comparison see runtime/convert.h.
+  /// Same kind and same value; no conversion, no collation. For the language's own comparison see
+  /// runtime/convert.h.
   bool operator==(const Variant&) const = default;
 
  private:
@@ -82,7 +94,8 @@ class Variant {
 inline constexpr Variant::NullValue Null{};
 inline constexpr Variant::MissingValue Missing{};
 
-/// An array of Variants as a host hands it over. `Show` takes it by reference; what it reads and writes are single elements.
+/// An array of Variants as a host hands it over. `Show` takes it by reference; what it reads and writes are
+/// single elements.
 class VariantArray {
  public:
   VariantArray() = default;
@@ -90,7 +103,8 @@ class VariantArray {
   explicit VariantArray(std::vector<Variant> elements, int dimensions = 1)
       : elements_(std::move(elements)), dimensions_(dimensions) {}
 
-  /// Element `index`, counted from 0. Error 9 outside the bounds, and for every index when there is more than one dimension.
+  /// Element `index`, counted from 0. Error 9 outside the bounds, and for every index when there is more than
+  /// one dimension.
   Variant& at(std::size_t index);
   const Variant& at(std::size_t index) const;
   std::size_t size() const noexcept { return elements_.size(); }

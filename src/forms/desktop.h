@@ -109,7 +109,8 @@ class Desktop {
   /// Shows a box and waits; an implementation may run runLoop.
   virtual MsgBoxResult runMessageBox(const MessageBox& box) = 0;
 
-  /// Takes the next queued key; False when there is none.
+  /// Takes the next queued key; False when there is none, and while a message box is open: the keys wait for
+  /// the form.
   bool nextQueuedKey(KeyStroke& stroke);
   bool hasIdleStep() const noexcept { return static_cast<bool>(idle_); }
   void idleStep() {

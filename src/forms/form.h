@@ -137,10 +137,9 @@ class Form : public EventOwner {
 
   void unload(UnloadMode mode);
   bool moveFocus(Control& target, FocusCause cause);
-  void enter(Control& target);
   void leaveUnusable(const Control& gone);
-  CommandButton* buttonFor(bool cancel) const;
-  bool pressButtonOf(const KeyStroke& stroke);
+  CommandButton* buttonFor(int code) const;
+  bool pressesButton(const KeyStroke& stroke);
 
   String name_;
   String caption_;

@@ -7,7 +7,10 @@
 // desktop lets ownKey edit.
 #pragma once
 
+#include <concepts>
+
 #include "forms/control.h"
+#include "runtime/convert.h"
 
 namespace zqn {
 
@@ -19,7 +22,7 @@ class TextBox : public Control {
   /// Cut to MaxLength without an error; the caret goes to the front, nothing is selected.
   void Text(StringView text);
   /// Assigns a value: converted to text. Errors 94 (Null), 13.
-  void Text(const Variant& value);
+  void Text(const std::same_as<Variant> auto& value) { Text(StringView(CStr(value))); }
 
   int MaxLength() const noexcept { return maxLength_; }
   /// Does not touch the present text.

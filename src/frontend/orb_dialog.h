@@ -57,8 +57,9 @@ class ORBDialog : private EventOwner {
 
  private:
   void eventFailed(StringView event, const RuntimeError& failure) override;
-  bool evaluateAccess(std::int32_t kind);
-  bool listAllows(StringView list, std::int32_t kind);
+  /// Writes the access flag: what the present user may change in a dialog of this kind.
+  void evaluateAccess(std::int32_t kind);
+  static bool listAllows(StringView list, std::int32_t kind);
 
   bool multiselect_ = false;
   Variant result_;

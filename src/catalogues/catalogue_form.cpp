@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "catalogues/catalogue_form.h"
+
+#include "forms/message_box.h"
+#include "frontend/bas_basis.h"
+#include "runtime/convert.h"
+
+namespace zqn {
+
+CatalogueForm::CatalogueForm(const FormDesign& design) : Form(design) {
+  Load = [this] { Form_Load(); };
+  KeyDown = [this](int& KeyCode, int Shift) { Form_KeyDown(KeyCode, Shift); };
+  KeyPress = [this](int& KeyAscii) { Form_KeyPress(KeyAscii); };
+  Unload = [this](int&) { Form_Unload(); };
+  TDBList1.DblClick = [this] { TDBList1_DblClick(); };
+  TDBList1.KeyPress = [this](int& KeyAscii) {
+    if (KeyAscii == key::Enter) TDBList1_DblClick();
+  };
+  TDBList1.RowColChange = [this] { TDBList1_RowColChange(); };
+  Schluessel.GotFocus = [this] { SelectActiveText(); };
+  Schluessel.LostFocus = [this] { Schluessel_LostFocus(); };
+  btnOK.Click = [this] { btnOK_Click(); };
+  btnCancel.Click = [this] { btnCancel_Click(); };
+  btnNew.Click = [this] { btnNew_Click(); };
+  btnDelete.Click = [this] { btnDelete_Click(); };
+}
+
+void CatalogueForm::ShowData() {
+  ensureLoaded();
+  rsListe = Ref<ado::Recordset>::make();
+  rsListe->CursorLocation(ado::adUseServer);
+  RefreshList(false);
+  Schluessel.Text(concatenate(SelectedKey));
+  Schluessel_LostFocus();
+  UpdateButtons();
+  Show();
+}
+
+// ---- records
+
+void CatalogueForm::RefreshList(bool Rebind) {
+  ResumeNext step;
+  if (Rebind) step([&] { TDBList1.HoldFields(); });
+  step([&] { rsListe->Close(); });
+  step([&] { rsListe->Open(listStatement(), Connection, ado::adOpenKeyset, ado::adLockReadOnly); });
+  step([&] { TDBList1.DataSource(rsListe); });
+  if (Rebind) step([&] { TDBList1.ReBind(); });
+}
+
+void CatalogueForm::ReadRecord() {
+  ado::Recordset rs;
+  rs.Open(readStatement(), Connection, ado::adOpenKeyset, ado::adLockOptimistic);
+  if (rs.IsEOF()) {
+    ClearFields();
+  } else {
+    readFields(rs);
+  }
+  rs.Close();
+}
+
+void CatalogueForm::WriteRecord() {
+  ResumeNext step;
+  ado::Recordset rs;
+  step([&] { rs.Open(writeStatement(), Connection, ado::adOpenKeyset, ado::adLockOptimistic); });
+  if (step.test([&] { return rs.IsEOF(); })) step([&] { rs.AddNew(); });
+  writeFields(step, rs);
+  step([&] { rs.Update(); });
+  step([&] { rs.Close(); });
+}
+
+void CatalogueForm::DeleteRecord() { Connection->Execute(deleteStatement()); }
+
+Variant CatalogueForm::NullIfEmpty(const Variant& Value) {
+  String trimmed = Trim(concatenate(Value));
+  return trimmed.empty() ? Variant(Null) : Variant(std::move(trimmed));
+}
+
+// ---- fields and buttons
+
+void CatalogueForm::UpdateButtons() {
+  const bool hasKey = !Trim(Schluessel.Text()).empty();
+  btnOK.Enabled(hasKey);
+  btnDelete.Enabled(hasKey);
+}
+
+void CatalogueForm::SelectActiveText() {
+  ResumeNext step;
+  step([&] { requireActiveControl().Property(u"SelStart", std::int32_t{0}); });
+  step([&] {
+    Control& active = requireActiveControl();
+    active.Property(u"SelLength", static_cast<std::int32_t>(active.content().size()));
+  });
+}
+
+void CatalogueForm::Schluessel_LostFocus() {
+  ResumeNext step;
+  // The search runs from the list's current row downward: a key above it is not reached, the fields follow
+  // the key all the same.
+  step([&] { rsListe->Find(listCriterion()); });
+  step([&] { TDBList1.Bookmark(rsListe->Bookmark()); });
+  step([&] { ReadRecord(); });
+  step([&] { UpdateButtons(); });
+}
+
+// ---- buttons
+
+void CatalogueForm::btnNew_Click() {
+  ClearFields();
+  Schluessel.Text(u"");
+  Schluessel.SetFocus();
+  UpdateButtons();
+}
+
+void CatalogueForm::btnOK_Click() {
+  if (Trim(Schluessel.Text()).empty()) return;
+  if (!basBasis::bAllowChanges) {
+    MsgBox(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.",
+           msgbox::Information, u"TALVEX Software");
+    return;
+  }
+  WriteRecord();
+  TDBList1.HoldFields();
+  rsListe->Requery();
+  TDBList1.ReBind();
+  rsListe->MoveFirst();
+  rsListe->Find(listCriterion());
+  TDBList1.Bookmark(rsListe->Bookmark());
+  TDBList1.SetFocus();
+}
+
+void CatalogueForm::btnDelete_Click() {
+  if (!basBasis::bAllowChanges) {
+    MsgBox(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.",
+           msgbox::Information, u"TALVEX Software");
+    return;
+  }
+  if (MsgBox(u"Datensatz löschen?", msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes)
+    return;
+  DeleteRecord();
+  RefreshList(true);
+  if (rsListe->RecordCount() != 0) {
+    rsListe->MoveFirst();
+    TDBList1.Bookmark(rsListe->Bookmark());
+    TDBList1.SetFocus();
+  } else {
+    Schluessel.Text(u"");
+    ClearFields();
+    Schluessel.SetFocus();
+  }
+}
+
+void CatalogueForm::btnCancel_Click() {
+  ResumeNext step;
+  step([&] { UnloadMe(); });
+}
+
+// ---- list
+
+void CatalogueForm::TDBList1_DblClick() {
+  const String value = TDBList1.Text();
+  if (Trim(value).empty()) return;
+  Schluessel.Text(value);
+  ReadRecord();
+  SelectedKey = Schluessel.Text();
+  if (Multiselect) {
+    DblClick.raise(SelectedKey);
+  } else {
+    UnloadMe();
+  }
+}
+
+void CatalogueForm::TDBList1_RowColChange() {
+  const String value = TDBList1.Text();
+  if (!Trim(value).empty()) {
+    Schluessel.Text(value);
+    ReadRecord();
+  }
+  UpdateButtons();
+}
+
+// ---- form
+
+void CatalogueForm::Form_Load() {
+  objSendKeys = ObjectFactory::current().create<ZQSendKeys>(u"ZQBSendKeys.ZQSendKeys");
+}
+
+void CatalogueForm::Form_KeyDown(int KeyCode, int Shift) {
+  if (Shift != shift::None) return;
+  ResumeNext step;
+  switch (KeyCode) {
+    case key::F6:
+      step([&] { btnNew_Click(); });
+      break;
+    case key::F9:
+      if (step.test([&] { return UCase(requireActiveControl().Name()) == u"TDBLIST1"; })) {
+        step([&] { TDBList1_DblClick(); });
+      } else {
+        step([&] { btnOK_Click(); });
+      }
+      break;
+    case key::F10:
+      step([&] { btnCancel_Click(); });
+      break;
+    default:
+      break;
+  }
+}
+
+void CatalogueForm::Form_KeyPress(int& KeyAscii) {
+  if (KeyAscii != key::Enter) return;
+  String keys = u"{Tab}";
+  Variant wait;
+  objSendKeys->SendKeys(keys, wait);
+  KeyAscii = 0;
+}
+
+void CatalogueForm::Form_Unload() {
+  ResumeNext step;
+  step([&] { objSendKeys = nothing; });
+  step([&] { rsListe->Close(); });
+  step([&] { rsListe = nothing; });
+}
+
+}  // namespace zqn

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/headless/headless_desktop.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "forms/form.h"
+
+namespace zqn::headless {
+
+void HeadlessDesktop::press(const KeyStroke& stroke) {
+  Form* form = activeForm();
+  if (form == nullptr || openMessageBox() != nullptr) return;
+  const KeyOutcome outcome = form->keyPressed(stroke);
+  if (outcome.own) form->ActiveControl()->ownKey(outcome.stroke);
+  // The release belongs to whoever has the focus by now.
+  if (Form* receiver = activeForm()) receiver->keyReleased(stroke.code, stroke.shift);
+}
+
+void HeadlessDesktop::click(Control& control) {
+  if (openMessageBox() == nullptr && control.form().mousePressed(control))
+    control.form().mouseReleased(control);
+}
+
+bool HeadlessDesktop::answer(MsgBoxResult result) {
+  const MessageBox* box = openMessageBox();
+  if (box == nullptr) return false;
+  const auto buttons = box->buttons();
+  if (std::ranges::find(buttons, result) == buttons.end()) return false;
+  answer_ = result;
+  return true;
+}
+
+void HeadlessDesktop::runLoop(const std::function<bool()>& done) {
+  while (!done()) {
+    KeyStroke stroke;
+    if (nextQueuedKey(stroke)) {
+      press(stroke);
+    } else if (hasIdleStep()) {
+      idleStep();
+    } else {
+      leaveAlone();
+    }
+  }
+}
+
+MsgBoxResult HeadlessDesktop::runMessageBox(const MessageBox& box) {
+  const std::optional<MsgBoxResult> outer = std::exchange(answer_, std::nullopt);
+  if (!hasIdleStep()) answer(box.buttons()[static_cast<std::size_t>(box.defaultButton() - 1)]);
+  runLoop([this] { return answer_.has_value(); });
+  return *std::exchange(answer_, outer);
+}
+
+void HeadlessDesktop::leaveAlone() {
+  Form* form = activeForm();
+  form->closeBox();
+  if (form->Visible())
+    throw std::logic_error("a form refused its close box, and nobody is there to act on it");
+}
+
+}  // namespace zqn::headless

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// A desktop without a screen: forms run as they do in a window, and a program acts as the person. It acts
+// from the idle step:
+//
+//     HeadlessDesktop desktop;
+//     Desktop::Scope scope(desktop);
+//     desktop.whenIdle([&] { desktop.press(KeyStroke::ofCode(key::F9)); ... });
+//
+// Without an idle step nobody is there: open forms are closed by their close box, message boxes get their
+// default answer.
+#pragma once
+
+#include <optional>
+
+#include "forms/desktop.h"
+
+namespace zqn::headless {
+
+class HeadlessDesktop : public Desktop {
+ public:
+  // ---- the person; each acts on the form on top, and does nothing while a message box is open
+
+  /// Presses and releases a key.
+  void press(const KeyStroke& stroke);
+  /// A click of the left button on a control: moves the focus, and has its effect when the form lets it.
+  void click(Control& control);
+  /// Answers the open message box; false when none is open or it lacks the button.
+  bool answer(MsgBoxResult result);
+
+  void copyToClipboard(StringView text) override { clipboard_ = text; }
+  String clipboardText() const override { return clipboard_; }
+
+ protected:
+  void openWindow(Form&) override {}
+  void closeWindow(Form&) override {}
+  void runLoop(const std::function<bool()>& done) override;
+  MsgBoxResult runMessageBox(const MessageBox& box) override;
+
+ private:
+  void leaveAlone();
+
+  String clipboard_;
+  std::optional<MsgBoxResult> answer_;
+};
+
+}  // namespace zqn::headless

@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+#include "forms/form.h"
+
+#include <algorithm>
+
+#include "forms/check_box.h"
+#include "forms/command_button.h"
+#include "forms/desktop.h"
+#include "forms/label.h"
+#include "forms/names.h"
+#include "forms/tdb_list.h"
+#include "forms/text_box.h"
+#include "runtime/convert.h"
+
+namespace zqn {
+
+namespace {
+
+template <class C>
+std::unique_ptr<Control> make(Form& form, const ControlDesign& design, int tabIndex) {
+  return std::make_unique<C>(form, design, tabIndex);
+}
+
+std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& design, int tabIndex) {
+  switch (design.kind) {
+    case ControlKind::TextBox:
+      return make<TextBox>(form, design, tabIndex);
+    case ControlKind::Label:
+      return make<Label>(form, design, tabIndex);
+    case ControlKind::CommandButton:
+      return make<CommandButton>(form, design, tabIndex);
+    case ControlKind::CheckBox:
+      return make<CheckBox>(form, design, tabIndex);
+    case ControlKind::TDBList:
+      return make<TDBList>(form, design, tabIndex);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Form::Form(const FormDesign& design)
+    : name_(design.name), caption_(design.caption), scaleWidth_(design.width), scaleHeight_(design.height) {
+  controls_.reserve(design.roster.size());
+  for (const ControlDesign& row : design.roster) {
+    controls_.push_back(makeControl(*this, row, static_cast<int>(controls_.size())));
+  }
+  for (const auto& control : controls_) {
+    const StringView container = control->design().other.Container;
+    if (!container.empty()) control->container_ = findControl(container);
+  }
+}
+
+Form::~Form() = default;
+
+void Form::Caption(StringView caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  if (view_ != nullptr) view_->formChanged();
+}
+
+void Form::Width(int twips) {
+  scaleWidth_ = twips - (Width() - scaleWidth_);
+  if (view_ != nullptr) view_->formChanged();
+}
+
+void Form::Height(int twips) {
+  scaleHeight_ = twips - (Height() - scaleHeight_);
+  if (view_ != nullptr) view_->formChanged();
+}
+
+// ---- controls
+
+Control& Form::control(StringView name, int index) const {
+  for (const auto& control : controls_) {
+    if (control->Index() == index && sameName(control->Name(), name)) return *control;
+  }
+  throw RuntimeError(error::NoSuchControl);
+}
+
+Control* Form::findControl(StringView fullName) const noexcept {
+  const ControlName wanted = splitName(fullName);
+  for (const auto& control : controls_) {
+    if (control->Index() == wanted.index && sameName(control->Name(), wanted.name)) return control.get();
+  }
+  return nullptr;
+}
+
+Control& Form::requireActiveControl() const {
+  if (active_ == nullptr) throw RuntimeError(error::ObjectNotSet);
+  return *active_;
+}
+
+// ---- life
+
+void Form::ensureLoaded() {
+  if (loaded_) return;
+  loaded_ = true;
+  Load.raise();
+}
+
+void Form::Show() {
+  if (visible_) throw RuntimeError(error::FormAlreadyDisplayed);
+  ensureLoaded();
+  if (!loaded_) throw RuntimeError(error::ObjectUnloaded);
+  Desktop::current().showModal(*this);
+}
+
+void Form::UnloadMe() { unload(UnloadMode::Code); }
+
+void Form::unload(UnloadMode mode) {
+  if (!loaded_) return;
+  int cancel = 0;
+  QueryUnload.raise(cancel, static_cast<int>(mode));
+  if (cancel != 0) return;
+  Unload.raise(cancel);
+  if (cancel != 0) return;
+  loaded_ = visible_ = false;
+  active_ = entered_ = nullptr;
+}
+
+void Form::opened() {
+  visible_ = true;
+  Activate.raise();
+  if (!visible_ || active_ != nullptr) return;
+  const auto first = std::ranges::find_if(
+      controls_, [](const auto& control) { return control->takesFocus() && control->isUsable(); });
+  if (first != controls_.end()) moveFocus(**first, FocusCause::Code);
+}
+
+// ---- focus
+
+Control* Form::nextInTabOrder(const Control* from, bool backward) const {
+  const int count = static_cast<int>(controls_.size());
+  int position = from != nullptr ? from->TabIndex() : (backward ? 0 : -1);
+  for (int i = 0; i < count; ++i) {
+    position = (position + (backward ? count - 1 : 1)) % count;
+    Control& candidate = *controls_[static_cast<std::size_t>(position)];
+    if (&candidate != from && candidate.takesFocus() && candidate.TabStop() && candidate.isUsable())
+      return &candidate;
+  }
+  return nullptr;
+}
+
+bool Form::moveFocus(Control& target, FocusCause cause) {
+  if (active_ == &target) return true;
+  if (cause != FocusCause::Code && active_ != nullptr && target.CausesValidation()) {
+    Control* const validated = active_;
+    bool cancel = false;
+    validated->Validate.raise(cancel);
+    if (cancel || active_ != validated || !visible_ || !target.isUsable()) return false;
+  }
+  Control* const left = entered_;
+  entered_ = nullptr;
+  active_ = &target;
+  if (view_ != nullptr) view_->focusChanged();
+  if (left != nullptr) left->LostFocus.raise();
+  if (active_ == &target && entered_ != &target) {
+    entered_ = &target;
+    target.GotFocus.raise();
+  }
+  return active_ == &target;
+}
+
+void Form::leaveUnusable(const Control& gone) {
+  if (!visible_ || active_ == nullptr || active_->isUsable()) return;
+  if (Control* next = nextInTabOrder(&gone, false)) {
+    moveFocus(*next, FocusCause::Code);
+    return;
+  }
+  Control* const left = entered_;
+  active_ = entered_ = nullptr;
+  if (view_ != nullptr) view_->focusChanged();
+  if (left != nullptr) left->LostFocus.raise();
+}
+
+void Form::focusMovedTo(Control& control) {
+  if (visible_ && control.takesFocus() && control.isUsable()) moveFocus(control, FocusCause::Tab);
+  if (view_ != nullptr && active_ != &control) view_->focusChanged();
+}
+
+// ---- keys
+
+CommandButton* Form::buttonFor(int code) const {
+  for (const auto& control : controls_) {
+    auto* button = dynamic_cast<CommandButton*>(control.get());
+    if (button == nullptr || !button->isUsable()) continue;
+    if (code == key::Escape ? button->Cancel() : button->Default()) return button;
+  }
+  return nullptr;
+}
+
+bool Form::pressesButton(const KeyStroke& stroke) {
+  if (stroke.shift != shift::None || (stroke.code != key::Enter && stroke.code != key::Escape)) return false;
+  auto* button = dynamic_cast<CommandButton*>(active_);
+  if (stroke.code == key::Escape || button == nullptr) button = buttonFor(stroke.code);
+  if (button == nullptr) return false;
+  button->clicked();
+  return true;
+}
+
+KeyOutcome Form::keyPressed(KeyStroke stroke) {
+  KeyOutcome outcome{false, stroke};
+  if (!visible_) return outcome;
+  const bool movesOn = stroke.code == key::Tab && (stroke.shift & (shift::Ctrl | shift::Alt)) == 0;
+  if (movesOn) {
+    if (Control* next = nextInTabOrder(active_, (stroke.shift & shift::Shift) != 0)) {
+      moveFocus(*next, FocusCause::Tab);
+      return outcome;
+    }
+  }
+  Control* const target = active_;
+  const bool controlFirst = stroke.code == key::Enter && target != nullptr && target->wantsEnter();
+  if (!controlFirst && pressesButton(stroke)) return outcome;
+
+  const bool formSees = keyPreview_ && !controlFirst;
+  int code = stroke.code;
+  if (code != 0 && formSees) KeyDown.raise(code, stroke.shift);
+  if (code != 0 && visible_ && target != nullptr) target->KeyDown.raise(code, stroke.shift);
+  int character = stroke.character;
+  if (character != 0 && visible_ && formSees) KeyPress.raise(character);
+  if (character != 0 && visible_ && target != nullptr) target->KeyPress.raise(character);
+
+  const bool dropped = stroke.character != 0 ? character == 0 : code == 0;
+  outcome.stroke = {code, stroke.shift, static_cast<char16_t>(character)};
+  outcome.own = !dropped && visible_ && target != nullptr && target == active_ && target->isUsable();
+  return outcome;
+}
+
+void Form::keyReleased(int code, int shift) {
+  if (!visible_) return;
+  Control* const target = active_;
+  if (keyPreview_) KeyUp.raise(code, shift);
+  if (visible_ && target != nullptr) target->KeyUp.raise(code, shift);
+}
+
+// ---- mouse
+
+bool Form::mousePressed(Control& control) {
+  if (!visible_ || !control.isUsable()) return false;
+  const int boxes = Desktop::current().messageBoxCount();
+  if (control.takesFocus() && !moveFocus(control, FocusCause::Mouse)) return false;
+  const bool swallowed = Desktop::current().messageBoxCount() != boxes;
+  return !swallowed && visible_ && control.isUsable();
+}
+
+void Form::mouseReleased(Control& control) {
+  if (visible_ && control.isUsable()) control.clicked();
+}
+
+// ---- automation and errors
+
+Variant Form::Property(StringView name) const {
+  if (sameName(name, u"Name")) return name_;
+  if (sameName(name, u"Caption")) return caption_;
+  if (sameName(name, u"Width")) return std::int32_t{Width()};
+  if (sameName(name, u"Height")) return std::int32_t{Height()};
+  if (sameName(name, u"ScaleWidth")) return std::int32_t{scaleWidth_};
+  if (sameName(name, u"ScaleHeight")) return std::int32_t{scaleHeight_};
+  if (sameName(name, u"Visible")) return visible_;
+  if (sameName(name, u"ActiveControl"))
+    return active_ != nullptr ? Variant(active_->fullName()) : Variant(Null);
+  throw RuntimeError(error::NoSuchMember);
+}
+
+void Form::eventFailed(StringView event, const RuntimeError& failure) {
+  Desktop::current().runtimeErrorRaised(*this, u"Form_" + String(event), failure);
+}
+
+}  // namespace zqn

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "forms/names.h"
+
+#include <algorithm>
+
+#include "runtime/locale.h"
+
+namespace zqn {
+
+bool sameName(StringView left, StringView right) noexcept {
+  return std::ranges::equal(left, right, {}, upperUnit, upperUnit);
+}
+
+ControlName splitName(StringView fullName) noexcept {
+  const auto open = fullName.find(u'(');
+  if (open == StringView::npos || fullName.back() != u')') return {fullName};
+  const StringView digits = fullName.substr(open + 1, fullName.size() - open - 2);
+  if (digits.empty() || digits.size() > 4) return {fullName};
+  int index = 0;
+  for (const char16_t digit : digits) {
+    if (digit < u'0' || digit > u'9') return {fullName};
+    index = index * 10 + (digit - u'0');
+  }
+  return {fullName.substr(0, open), index};
+}
+
+}  // namespace zqn

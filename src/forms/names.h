@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+//
+// Names of forms, controls and properties: they compare without regard to case, and an element of a control
+// array is written with its index behind it, "Label1(0)".
+#pragma once
+
+#include "runtime/string.h"
+
+namespace zqn {
+
+/// Equal without regard to case.
+bool sameName(StringView left, StringView right) noexcept;
+
+struct ControlName {
+  StringView name;
+  /// -1 for a control that is no element of an array.
+  int index = -1;
+};
+
+/// Takes "Label1(0)" apart. A text without a well-formed index is a name as a whole.
+ControlName splitName(StringView fullName) noexcept;
+
+}  // namespace zqn

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// The numbers of ADO under ADO's names. The recordset's members take and give plain numbers, so a form may
+// write either:
+//
+//     rsListe->CursorLocation(adUseServer);  // the same as 2
+#pragma once
+
+namespace zqn::ado {
+
+enum CursorLocationEnum : int { adUseServer = 2, adUseClient = 3 };
+
+enum CursorTypeEnum : int { adOpenForwardOnly = 0, adOpenKeyset = 1, adOpenDynamic = 2, adOpenStatic = 3 };
+
+enum LockTypeEnum : int { adLockReadOnly = 1, adLockPessimistic = 2, adLockOptimistic = 3 };
+
+enum ObjectStateEnum : int { adStateClosed = 0, adStateOpen = 1 };
+
+enum EditModeEnum : int { adEditNone = 0, adEditInProgress = 1, adEditAdd = 2 };
+
+enum SearchDirectionEnum : int { adSearchBackward = -1, adSearchForward = 1 };
+
+enum CommandTypeEnum : int { adCmdUnspecified = -1, adCmdText = 1 };
+
+/// What a Field's Type reads.
+enum DataTypeEnum : int {
+  adSmallInt = 2,
+  adInteger = 3,
+  adDouble = 5,
+  adBoolean = 11,
+  adVariant = 12,  // an expression: the kind is that of each value
+  adBigInt = 20,
+  adNumeric = 131,
+  adVarWChar = 202,
+  adLongVarWChar = 203
+};
+
+}  // namespace zqn::ado

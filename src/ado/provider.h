@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+//
+// What a database must offer so that recordsets run on it: prepared statements, a description of their
+// columns, and, if it can, the keys of a SELECT's rows without the rows. One folder per database implements
+// it; forms and dialogs never see it. The smallest possible provider stands in empty_provider_test.cpp.
+//
+// All calls come from one thread. Failures are RuntimeErrors with the numbers of runtime/error.h (group
+// "Providers") and the database's own words; after a failure the object is as if the call had not been made.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "ado/row_store.h"
+#include "runtime/string.h"
+
+namespace zqn::ado {
+
+/// Names a row of a table for as long as the row exists.
+using RowHandle = std::int64_t;
+
+/// One column of a statement's result.
+struct Column {
+  String name;
+  /// DataTypeEnum, from the declaration; adVariant for an expression.
+  int type = 0;
+  /// Longest text in UTF-16 units, 0 for no limit.
+  int definedSize = 0;
+  /// Where the value is stored; both empty for an expression, which cannot be assigned.
+  String baseTable, baseColumn;
+  /// Part of what identifies the row: its value when read goes into the WHERE of an Update.
+  bool key = false;
+  /// Added by the provider behind the statement's own columns (Purpose::Update); no Field shows it.
+  bool hidden = false;
+  /// The value is the row's RowHandle.
+  bool rowHandle = false;
+};
+using Columns = std::vector<Column>;
+
+/// A prepared statement. It is kept and run again with other parameters; it is never left open while others
+/// run.
+class Statement {
+ public:
+  virtual ~Statement() = default;
+
+  /// Runs it from the start. A statement without result columns is finished when this returns.
+  virtual void open(std::span<const Value> parameters) = 0;
+  /// Adds the next rows, `atMost` of them, to `rows`. False when these were the last; the statement is closed
+  /// then.
+  virtual bool fetch(RowStore& rows, std::size_t atMost) = 0;
+  /// Gives up the remaining rows. Without effect on a closed one.
+  virtual void close() noexcept = 0;
+
+  /// Known once it is open, and kept after. Empty for a statement that returns no rows at all (DELETE,
+  /// UPDATE, CREATE).
+  virtual std::shared_ptr<const Columns> columns() const = 0;
+  /// Rows that the last open has changed.
+  virtual std::int64_t rowsAffected() const = 0;
+};
+
+/// A comparison that the database is asked to answer by its index.
+struct ColumnEquals {
+  int column = 0;
+  Value value;
+};
+
+/// The rows of a SELECT by their handles. Membership and order are those of the moment of the first
+/// fetchKeys; values are read anew each time.
+class Keyset {
+ public:
+  virtual ~Keyset() = default;
+
+  virtual std::shared_ptr<const Columns> columns() const = 0;
+  /// Adds the next handles, `atMost` of them. False when these were the last.
+  virtual bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) = 0;
+  /// Adds that row's values to `rows`; false (and nothing added) when the row is gone.
+  virtual bool readRow(RowHandle row, RowStore& rows) = 0;
+  /// Handles of the rows of the table, in any order, for which all comparisons may hold: none that holds is
+  /// missing. Texts compare by the database's collation. No value when the database cannot tell better than
+  /// by reading every row through readRow.
+  virtual std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) = 0;
+};
+
+enum class Purpose {
+  Read,
+  Update,  // rows are to be updated: add the key columns that the statement does not name, as hidden columns
+};
+
+class Provider {
+ public:
+  virtual ~Provider() = default;
+
+  /// `?` in `text` marks a parameter. A text of more than one statement is a syntax error (-2147217900).
+  virtual std::unique_ptr<Statement> prepare(StringView text, Purpose purpose) = 0;
+  /// The same SELECT by its keys, or nullptr where that is not possible; the engine then reads all rows.
+  /// `text` has no parameters.
+  virtual std::unique_ptr<Keyset> keyset(StringView text);
+  /// Handle of the row that the last INSERT made, where columns have handles.
+  virtual std::optional<RowHandle> insertedRow() const;
+
+  /// An identifier as it stands in a statement, whatever letters it has. Default: in double quotes.
+  virtual String quoted(StringView identifier) const;
+  /// A condition with one `?` that holds exactly when the stored value of the column is, byte for byte, the
+  /// parameter, Null included.
+  virtual String sameValue(const Column& column) const = 0;
+
+  /// Source of the errors, as in "SQLite".
+  virtual String name() const = 0;
+};
+
+}  // namespace zqn::ado

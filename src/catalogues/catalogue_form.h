@@ -49,13 +49,13 @@ class CatalogueForm : public Form {
   // ---- what a form states
 
   /// The statement of the list.
-  virtual sql::Text listStatement() const = 0;
+  virtual ado::sql::Text listStatement() const = 0;
   /// The statement that finds the row of the present key: to read it, and to write it.
-  virtual sql::Text readStatement() const = 0;
-  virtual sql::Text writeStatement() const = 0;
-  virtual sql::Text deleteStatement() const = 0;
+  virtual ado::sql::Text readStatement() const = 0;
+  virtual ado::sql::Text writeStatement() const = 0;
+  virtual ado::sql::Text deleteStatement() const = 0;
   /// The criterion that finds the present key in the list.
-  virtual sql::Text listCriterion() const = 0;
+  virtual ado::sql::Text listCriterion() const = 0;
   /// Empties all fields but the key.
   virtual void ClearFields() = 0;
   /// Shows the current row of `rs`, the key included. An error leaves ReadRecord.

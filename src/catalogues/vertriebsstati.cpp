@@ -47,24 +47,24 @@ frmVertriebsstati::frmVertriebsstati() : CatalogueForm(plan::form) {
   Gewichtung.LostFocus = [this] { Gewichtung_LostFocus(); };
 }
 
-sql::Text frmVertriebsstati::listStatement() const {
+ado::sql::Text frmVertriebsstati::listStatement() const {
   return u"SELECT Status, Bezeichnung FROM Vertriebsstati Where Status<>'-' ORDER BY Status";
 }
 
-sql::Text frmVertriebsstati::readStatement() const {
-  return u"SELECT * FROM Vertriebsstati WHERE Status ='" + sql::value(Schluessel.Text()) + u"'";
+ado::sql::Text frmVertriebsstati::readStatement() const {
+  return u"SELECT * FROM Vertriebsstati WHERE Status =" + ado::sql::value(Schluessel.Text());
 }
 
-sql::Text frmVertriebsstati::writeStatement() const {
-  return u"SELECT * FROM Vertriebsstati WHERE Status='" + sql::value(Schluessel.Text()) + u"'";
+ado::sql::Text frmVertriebsstati::writeStatement() const {
+  return u"SELECT * FROM Vertriebsstati WHERE Status=" + ado::sql::value(Schluessel.Text());
 }
 
-sql::Text frmVertriebsstati::deleteStatement() const {
-  return u"Delete FROM Vertriebsstati WHERE Status ='" + sql::value(Schluessel.Text()) + u"'";
+ado::sql::Text frmVertriebsstati::deleteStatement() const {
+  return u"Delete FROM Vertriebsstati WHERE Status =" + ado::sql::value(Schluessel.Text());
 }
 
-sql::Text frmVertriebsstati::listCriterion() const {
-  return u"Status='" + sql::value(Schluessel.Text()) + u"'";
+ado::sql::Text frmVertriebsstati::listCriterion() const {
+  return u"Status=" + ado::sql::value(Schluessel.Text());
 }
 
 void frmVertriebsstati::ClearFields() {

@@ -14,11 +14,11 @@ class frmVertriebsstati final : public CatalogueForm {
   frmVertriebsstati();
 
  private:
-  sql::Text listStatement() const override;
-  sql::Text readStatement() const override;
-  sql::Text writeStatement() const override;
-  sql::Text deleteStatement() const override;
-  sql::Text listCriterion() const override;
+  ado::sql::Text listStatement() const override;
+  ado::sql::Text readStatement() const override;
+  ado::sql::Text writeStatement() const override;
+  ado::sql::Text deleteStatement() const override;
+  ado::sql::Text listCriterion() const override;
   void ClearFields() override;
   void readFields(ado::Recordset& rs) override;
   void writeFields(ResumeNext& step, ado::Recordset& rs) override;

@@ -11,6 +11,7 @@
 // Marking a row, by a person or by Bookmark, makes it the recordset's current row. Rows count from 0.
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "ado/recordset.h"
@@ -133,7 +134,10 @@ class TDBList : public Control {
  private:
   bool hasRows() const;
   void mark(int row, bool raise);
+  /// A person's move: the row becomes the recordset's current one, too.
+  void moveTo(int row, bool raise);
   bool searchTyped(char16_t character);
+  int rowStartingWith(StringView prefix);
 
   Ref<ado::Recordset> source_;
   std::vector<Column> columns_;
@@ -145,7 +149,9 @@ class TDBList : public Control {
   bool unannounced_ = false;
   int row_ = -1;
   int bindings_ = 0;
+  /// What has been typed to find a row, and the row that it led to.
   String typed_;
+  int typedRow_ = -1;
 };
 
 }  // namespace zqn

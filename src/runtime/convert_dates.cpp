@@ -11,13 +11,15 @@ namespace zqn {
 namespace {
 
 constexpr std::chrono::sys_days Epoch = std::chrono::year(1899) / 12 / 30;
+constexpr double FirstDay = -657434;  // 1 January 100
+constexpr double LastDay = 2958465;   // 31 December 9999
 constexpr int SecondsOfDay = 24 * 60 * 60;
 // A little more than the years 100 to 9999, so that a day can be counted on from the last.
-constexpr double FurthestDay = 4'000'000;
+constexpr int FurthestDay = 4'000'000;
+constexpr int FurthestMonth = 100'000;
+constexpr int FurthestYear = 20'000;
 
-void checkRange(Date date) {
-  if (date.days < FirstDay || date.days >= LastDay + 1) throw RuntimeError(error::Overflow);
-}
+bool isWithin(int number, int limit) { return number >= -limit && number <= limit; }
 
 }  // namespace
 
@@ -27,7 +29,7 @@ Date CDate(const Variant& value) {
     throw RuntimeError(error::TypeMismatch);
   }
   const Date date{CDbl(value)};
-  checkRange(date);
+  if (!(date.days > FirstDay - 1 && date.days < LastDay + 1)) throw RuntimeError(error::Overflow);
   return date;
 }
 
@@ -56,6 +58,9 @@ CivilDate civil(Date date) {
 
 Date dateSerial(int year, int month, int day) {
   using namespace std::chrono;
+  if (!isWithin(year, FurthestYear) || !isWithin(month, FurthestMonth) || !isWithin(day, FurthestDay)) {
+    throw RuntimeError(error::InvalidProcedureCall);
+  }
   // From the first of January on, so that months run over by themselves.
   const year_month first = std::chrono::year(year) / January + months(month - 1);
   const sys_days date = sys_days(first / 1) + days(day - 1);

@@ -97,9 +97,9 @@ bool IsNumeric(const Variant& value) {
   return number && std::isfinite(*number);
 }
 
-double Val(const Variant& value) { return valOf(CStr(value)); }
+double Val(const Variant& value) { return valOfText(CStr(value)); }
 
-double valOf(StringView text) {
+double valOfText(StringView text) {
   String packed;
   for (const char16_t unit : text) {
     if (unit != u' ' && unit != u'\t' && unit != u'\r' && unit != u'\n') packed.push_back(unit);

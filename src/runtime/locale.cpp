@@ -8,14 +8,14 @@
 
 namespace zqn {
 
-namespace {
-
-Date systemMoment() {
+Date systemNow() {
   const std::time_t moment = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
   const std::tm* local = std::localtime(&moment);
   return dateSerial({local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour, local->tm_min,
                      local->tm_sec});
 }
+
+namespace {
 
 const Locale*& currentLocale() noexcept {
   static const Locale german = Locale::german();
@@ -25,12 +25,7 @@ const Locale*& currentLocale() noexcept {
 
 }  // namespace
 
-Locale Locale::german() {
-  Locale locale;
-  locale.compare = [](StringView left, StringView right) { return compareIgnoringCase(left, right); };
-  locale.now = systemMoment;
-  return locale;
-}
+Locale Locale::german() { return {}; }
 
 const Locale& Locale::current() noexcept { return *currentLocale(); }
 

@@ -8,7 +8,9 @@
 //     Locale::Scope scope(fixed);
 #pragma once
 
+#include <array>
 #include <functional>
+#include <memory>
 
 #include "runtime/string.h"
 #include "runtime/variant.h"
@@ -30,6 +32,9 @@ std::size_t hashCollated(StringView text) noexcept;
 /// The same order, but every blank counts: the comparison of the dialog language.
 int compareIgnoringCase(StringView left, StringView right) noexcept;
 
+/// Local day and time of the system's clock, in whole seconds.
+Date systemNow();
+
 struct Locale {
   enum class DateOrder { DayMonthYear, MonthDayYear, YearMonthDay };
 
@@ -41,10 +46,15 @@ struct Locale {
   String shortDate = u"dd.mm.yyyy";
   String trueText = u"Wahr";
   String falseText = u"Falsch";
+  std::array<String, 12> monthNames = {u"Januar",    u"Februar", u"März",     u"April",
+                                       u"Mai",       u"Juni",    u"Juli",     u"August",
+                                       u"September", u"Oktober", u"November", u"Dezember"};
+  std::array<String, 12> shortMonthNames = {u"Jan", u"Feb", u"Mrz", u"Apr", u"Mai", u"Jun",
+                                            u"Jul", u"Aug", u"Sep", u"Okt", u"Nov", u"Dez"};
   /// Language-wide text comparison, as StrComp uses it.
-  std::function<int(StringView, StringView)> compare;
-  /// The present moment; the system's clock unless set.
-  std::function<Date()> now;
+  std::function<int(StringView, StringView)> compare = compareIgnoringCase;
+  /// The present moment.
+  std::function<Date()> now = systemNow;
 
   static Locale german();
   static const Locale& current() noexcept;

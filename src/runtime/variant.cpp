@@ -5,6 +5,9 @@
 
 namespace zqn {
 
+// Not inline: GCC 12 takes the alternatives that a value does not hold for uninitialized ones.
+Variant::~Variant() = default;
+
 Variant& VariantArray::at(std::size_t index) { return const_cast<Variant&>(std::as_const(*this).at(index)); }
 
 const Variant& VariantArray::at(std::size_t index) const {

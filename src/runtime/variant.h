@@ -64,6 +64,11 @@ class Variant {
   Variant(const char16_t* value) : value_(zqn::String(value)) {}
   Variant(std::shared_ptr<zqn::Object> value) : value_(std::move(value)) {}
   Variant(const void*) = delete;
+  Variant(const Variant&) = default;
+  Variant(Variant&&) noexcept = default;
+  Variant& operator=(const Variant&) = default;
+  Variant& operator=(Variant&&) noexcept = default;
+  ~Variant();
 
   Kind kind() const noexcept { return static_cast<Kind>(value_.index()); }
   bool isEmpty() const noexcept { return kind() == Kind::Empty; }

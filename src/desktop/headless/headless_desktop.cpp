@@ -32,6 +32,11 @@ bool HeadlessDesktop::answer(MsgBoxResult result) {
   return true;
 }
 
+void HeadlessDesktop::pressQueuedKeys() {
+  KeyStroke stroke;
+  while (nextQueuedKey(stroke)) press(stroke);
+}
+
 void HeadlessDesktop::runLoop(const std::function<bool()>& done) {
   while (!done()) {
     KeyStroke stroke;

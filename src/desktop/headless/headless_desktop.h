@@ -23,6 +23,8 @@ class HeadlessDesktop : public Desktop {
 
   /// Presses and releases a key.
   void press(const KeyStroke& stroke);
+  /// Presses the keys that forms have queued until none is left.
+  void pressQueuedKeys();
   /// A click of the left button on a control: moves the focus, and has its effect when the form lets it.
   void click(Control& control);
   /// Answers the open message box; false when none is open or it lacks the button.

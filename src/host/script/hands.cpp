@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "host/script/hands.h"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+namespace zqn::script {
+
+bool Hands::pressAndRelease(const Spot& spot, void (UserInput::*down)(const Spot&)) {
+  const int before = interruptions_;
+  (input_.*down)(spot);
+  if (interruptions_ != before) return false;
+  input_.mouseUp(spot);
+  return interruptions_ == before;
+}
+
+void Hands::click(const Spot& spot) { pressAndRelease(spot, &UserInput::mouseDown); }
+
+void Hands::doubleClick(const Spot& spot) {
+  if (pressAndRelease(spot, &UserInput::mouseDown)) pressAndRelease(spot, &UserInput::mouseDownAgain);
+}
+
+void Hands::press(Form& form, const Key& key) {
+  held_ = key;
+  input_.keyDown(form, key);
+  letGo();
+}
+
+bool Hands::letGo() {
+  const std::optional<Key> key = std::exchange(held_, std::nullopt);
+  if (!key) return false;
+  Form* form = desktop_.activeForm();
+  if (desktop_.openMessageBox() == nullptr && form != nullptr && form->Visible()) input_.keyUp(*form, *key);
+  return true;
+}
+
+void Hands::type(Form& form, const std::vector<Key>& keys) {
+  if (!keys.empty()) typing_.push_back({&form, {keys.begin(), keys.end()}});
+}
+
+bool Hands::typeOn() {
+  Form* form = desktop_.activeForm();
+  if (typing_.empty() || typing_.back().form != form) return false;
+  if (desktop_.openMessageBox() != nullptr || !form->Visible()) return false;
+  Typing& typing = typing_.back();
+  const Key key = std::move(typing.keys.front());
+  typing.keys.pop_front();
+  if (typing.keys.empty()) typing_.pop_back();
+  press(*form, key);
+  return true;
+}
+
+void Hands::rest(std::chrono::milliseconds time) { restsUntil_ = std::chrono::steady_clock::now() + time; }
+
+bool Hands::restOn() {
+  using namespace std::chrono;
+  const auto left = restsUntil_ - steady_clock::now();
+  if (left <= steady_clock::duration::zero()) return false;
+  std::this_thread::sleep_for(std::min<steady_clock::duration>(left, milliseconds(1)));
+  return true;
+}
+
+void Hands::formClosed(const Form& form) {
+  ++interruptions_;
+  std::erase_if(typing_, [&](const Typing& typing) { return typing.form == &form; });
+}
+
+}  // namespace zqn::script

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// What a person does as one thing, a click, a double click, a key, a typed text, made of the movements of
+// UserInput; and what becomes of it when a message box or a form comes up in the middle: the rest of a click
+// goes nowhere, a key is released over whatever is on top by then, and typing goes on when the form is on top
+// again.
+#pragma once
+
+#include <chrono>
+#include <deque>
+#include <optional>
+#include <vector>
+
+#include "forms/desktop.h"
+#include "host/script/user_input.h"
+
+namespace zqn::script {
+
+class Hands {
+ public:
+  Hands(Desktop& desktop, UserInput& input) : desktop_(desktop), input_(input) {}
+
+  void click(const Spot& spot);
+  void doubleClick(const Spot& spot);
+  void press(Form& form, const Key& key);
+  /// Begins to type; typeOn presses key by key, so that what a key sets off is over before the next.
+  void type(Form& form, const std::vector<Key>& keys);
+  /// Presses the next key of the text being typed; False when there is none for the form on top.
+  bool typeOn();
+  /// Releases the key that is held down, False when none is. To be called before anything else is done in a
+  /// nested modal loop.
+  bool letGo();
+  /// Does nothing for so long; timers run.
+  void rest(std::chrono::milliseconds time);
+  /// A moment of the rest has passed; False when it is over.
+  bool restOn();
+
+  // ---- what has happened meanwhile
+
+  void somethingOpened() noexcept { ++interruptions_; }
+  void formClosed(const Form& form);
+
+ private:
+  struct Typing {
+    Form* form;
+    std::deque<Key> keys;
+  };
+
+  /// The press, and the release unless something came up: False when the click is over.
+  bool pressAndRelease(const Spot& spot, void (UserInput::*down)(const Spot&));
+
+  Desktop& desktop_;
+  UserInput& input_;
+  std::optional<Key> held_;
+  std::vector<Typing> typing_;
+  int interruptions_ = 0;
+  std::chrono::steady_clock::time_point restsUntil_{};
+};
+
+}  // namespace zqn::script

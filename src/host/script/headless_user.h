@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+//
+// The scripted user's hands on the desktop without a screen: each movement goes to the form, in the calls
+// that a window would make.
+#pragma once
+
+#include "desktop/headless/headless_desktop.h"
+#include "host/script/user_input.h"
+
+namespace zqn::script {
+
+class HeadlessUser : public UserInput {
+ public:
+  explicit HeadlessUser(headless::HeadlessDesktop& desktop) : desktop_(desktop) {}
+
+  void mouseDown(const Spot& spot) override;
+  void mouseUp(const Spot& spot) override;
+  void mouseDownAgain(const Spot& spot) override;
+  void keyDown(Form& form, const Key& key) override;
+  void keyUp(Form& form, const Key& key) override;
+  void closeBox(Form& form) override { form.closeBox(); }
+  void answer(MsgBoxResult button) override { desktop_.answer(button); }
+
+ private:
+  headless::HeadlessDesktop& desktop_;
+  /// The form let the press pass, so a release belongs to the control.
+  bool pressed_ = false;
+};
+
+}  // namespace zqn::script

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// What one line of a script works with: the desktop and what is open on it, the user's hands, the world, and
+// the transcript. Its functions find what a line names, and refuse what a person could not act on.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/desktop.h"
+#include "host/script/fault_injector.h"
+#include "host/script/hands.h"
+#include "host/script/json_values.h"
+#include "host/script/world.h"
+
+namespace zqn::script {
+
+struct Scene {
+  Desktop& desktop;
+  UserInput& input;
+  Hands& hands;
+  const ScriptWorld& world;
+  FaultInjector& faults;
+  AuskunftAnswer& auskunft;
+  /// Writes one line of the transcript.
+  std::function<void(const Json&)> write;
+
+  /// The form on top, also behind a message box. Refusal when none is open.
+  Form& form() const;
+  /// A control of it by its full name; ScriptError when there is none.
+  Control& control(const std::string& name) const;
+  /// The form on top, where a person can act on it; Refusal behind a message box, or when it has been closed.
+  Form& usableForm() const;
+  /// A control that a person can act on; Refusal when it is invisible or disabled.
+  Control& usableControl(const std::string& name) const;
+};
+
+}  // namespace zqn::script

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "host/script/transcript_lines.h"
+
+namespace zqn::script {
+
+namespace {
+
+const char* buttonsOf(const MessageBox& box) {
+  switch (box.style & 0xF) {
+    case msgbox::OKCancel:
+      return "okcancel";
+    case msgbox::YesNoCancel:
+      return "yesnocancel";
+    case msgbox::YesNo:
+      return "yesno";
+    default:
+      return "okonly";
+  }
+}
+
+const char* iconOf(const MessageBox& box) {
+  switch (box.style & 0xF0) {
+    case msgbox::Critical:
+      return "critical";
+    case msgbox::Question:
+      return "question";
+    case msgbox::Exclamation:
+      return "exclamation";
+    case msgbox::Information:
+      return "information";
+    default:
+      return "none";
+  }
+}
+
+}  // namespace
+
+Json shownLine(const Form& form) {
+  return {{"shown", jsonText(form.Name())}, {"caption", jsonText(form.Caption())}};
+}
+
+Json closedLine(const Form& form) { return {{"closed", jsonText(form.Name())}}; }
+
+Json messageBoxLine(const MessageBox& box) {
+  const Json entry{{"text", jsonText(box.text)},
+                   {"title", jsonText(box.title)},
+                   {"buttons", buttonsOf(box)},
+                   {"icon", iconOf(box)},
+                   {"default", box.defaultButton()}};
+  return {{"msgbox", entry}};
+}
+
+Json errorLine(StringView procedure, const RuntimeError& failure) {
+  const Json entry{{"in", jsonText(procedure)},
+                   {"number", failure.number()},
+                   {"description", jsonText(failure.description())}};
+  return {{"error", entry}};
+}
+
+Json eventLine(StringView event, const Variant& result) {
+  return {{"event", jsonText(event)}, {"result", jsonValue(result)}};
+}
+
+Json auskunftLine(StringView name, StringView title) {
+  const Json entry{{"name", jsonText(name)}, {"title", jsonText(title)}};
+  return {{"auskunft", entry}};
+}
+
+Json refusedLine(const std::string& reason, const Json& action) {
+  return {{"refused", reason}, {"action", action}};
+}
+
+Json resultLine(const ShowOutcome& outcome) {
+  Json param = Json::array();
+  for (const Variant& element : outcome.param.elements()) param.push_back(jsonValue(element));
+  const Json entry{{"return", jsonValue(outcome.returned)},
+                   {"param", std::move(param)},
+                   {"allowChanges", outcome.allowChanges},
+                   {"dialogResult", jsonValue(outcome.dialogResult)}};
+  return {{"result", entry}};
+}
+
+}  // namespace zqn::script

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// The lines that a transcript has for what happens on a desktop, one function each.
+#pragma once
+
+#include "forms/form.h"
+#include "forms/message_box.h"
+#include "host/script/json_values.h"
+
+namespace zqn::script {
+
+/// {"shown":"frmVertriebsstati","caption":"Vertriebsstati"}
+Json shownLine(const Form& form);
+/// {"closed":"frmVertriebsstati"}
+Json closedLine(const Form& form);
+/// {"msgbox":{"text":...,"title":...,"buttons":"yesno","icon":"question","default":1}}
+Json messageBoxLine(const MessageBox& box);
+/// {"error":{"in":"btnDelete_Click","number":-2147217900,"description":"..."}}
+Json errorLine(StringView procedure, const RuntimeError& failure);
+/// {"event":"DblClick","result":"10"}
+Json eventLine(StringView event, const Variant& result);
+/// {"auskunft":{"name":"AUSK_Kundenauskunft","title":"Kundenauskunft"}}
+Json auskunftLine(StringView name, StringView title);
+/// {"refused":"btnOK is disabled","action":{"click":"btnOK"}}
+Json refusedLine(const std::string& reason, const Json& action);
+
+/// What a call of Show came to.
+struct ShowOutcome {
+  Variant returned;
+  VariantArray param;
+  bool allowChanges = true;
+  Variant dialogResult;
+};
+/// {"result":{"return":"10","param":["10"],"allowChanges":true,"dialogResult":{"empty":true}}}
+Json resultLine(const ShowOutcome& outcome);
+
+}  // namespace zqn::script

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <utility>
+
+#include "host/script/control_kinds.h"
+#include "host/script/key_names.h"
+#include "host/script/line_functions.h"
+#include "host/script/script_error.h"
+
+namespace zqn::script::user {
+
+namespace {
+
+constexpr std::array<std::pair<const char*, MsgBoxResult>, 4> answers{{{"ok", MsgBoxResult::OK},
+                                                                       {"yes", MsgBoxResult::Yes},
+                                                                       {"no", MsgBoxResult::No},
+                                                                       {"cancel", MsgBoxResult::Cancel}}};
+
+std::string describe(const Control& control) { return nameOf(control) + " is a " + kindOf(control); }
+
+/// A row of a control that a person can click on.
+Spot rowSpot(const Scene& scene, const std::string& name, int row) {
+  Control& control = scene.usableControl(name);
+  const RowAccess* rows = traitsOf(control).rows;
+  if (rows == nullptr) throw Refusal(describe(control) + " and has no rows");
+  if (!rows->hasRow(control, row)) throw Refusal(nameOf(control) + " has no row " + std::to_string(row));
+  return {control, row};
+}
+
+Spot spotOf(Control& control) {
+  const RowAccess* rows = traitsOf(control).rows;
+  return {control, rows == nullptr ? -1 : rows->markedRow(control)};
+}
+
+}  // namespace
+
+void click(const Scene& scene, const Arguments& line) {
+  scene.hands.click(spotOf(scene.usableControl(line.text("click"))));
+}
+
+void focus(const Scene& scene, const Arguments& line) {
+  Control& control = scene.usableControl(line.text("focus"));
+  if (!traitsOf(control).entry) throw Refusal(describe(control) + ", which is no entry control");
+  scene.hands.click(spotOf(control));
+}
+
+void type(const Scene& scene, const Arguments& line) {
+  const std::string text = line.text("type");
+  scene.hands.type(scene.usableForm(), keysThatType(fromUtf8(text)));
+}
+
+void key(const Scene& scene, const Arguments& line) {
+  const std::string name = line.text("key");
+  const int shift = line.has("shift") ? line.wholeNumber("shift", 0, 7) : 0;
+  const std::optional<Key> key = keyOfName(name, shift);
+  if (!key) throw ScriptError("unknown key \"" + name + "\"; there is one character, " + keyNames());
+  scene.hands.press(scene.usableForm(), *key);
+}
+
+void select(const Scene& scene, const Arguments& line) {
+  const std::string name = line.text("select");
+  if (line.has("row")) {
+    const int row = line.wholeNumber("row");
+    scene.hands.click(rowSpot(scene, name, row));
+    return;
+  }
+  if (!line.has("rows") && !line.has("index") && !line.has("text"))
+    throw ScriptError(R"("select" needs "row", "rows", "index" or "text")");
+  const Control& control = scene.usableControl(name);
+  throw Refusal(describe(control) + ": it takes neither several rows nor an entry");
+}
+
+void dblclick(const Scene& scene, const Arguments& line) {
+  const int row = line.wholeNumber("row");
+  scene.hands.doubleClick(rowSpot(scene, line.text("dblclick"), row));
+}
+
+void mouse(const Scene& scene, const Arguments& line) {
+  throw Refusal(describe(scene.usableControl(line.text("mouse"))) + ", which is no grid");
+}
+
+void drag(const Scene& scene, const Arguments& line) {
+  throw Refusal(describe(scene.usableControl(line.text("drag"))) + ", which is no grid");
+}
+
+void menu(const Scene& scene, const Arguments& line) {
+  line.text("menu");
+  scene.usableForm();
+  throw Refusal("no popup menu is open");
+}
+
+void close(const Scene& scene, const Arguments& line) {
+  line.requireTrue("close");
+  scene.input.closeBox(scene.usableForm());
+}
+
+void answer(const Scene& scene, const Arguments& line) {
+  const std::string word = line.text("answer");
+  const auto named = std::ranges::find_if(answers, [&](const auto& each) { return word == each.first; });
+  const bool byDefault = word == "default";
+  if (named == answers.end() && !byDefault)
+    throw ScriptError("unknown answer \"" + word + "\"; there is ok, yes, no, cancel, default");
+  const MessageBox* box = scene.desktop.openMessageBox();
+  if (box == nullptr) throw Refusal("no message box is open");
+  const std::vector<MsgBoxResult> buttons = box->buttons();
+  const auto button =
+      byDefault ? buttons.begin() + (box->defaultButton() - 1) : std::ranges::find(buttons, named->second);
+  if (button == buttons.end()) throw Refusal("the message box has no button \"" + word + "\"");
+  scene.input.answer(*button);
+}
+
+void wait(const Scene& scene, const Arguments& line) {
+  constexpr int hour = 3'600'000;
+  const std::chrono::milliseconds time(line.wholeNumber("wait", 0, hour));
+  scene.form();
+  scene.hands.rest(time);
+}
+
+}  // namespace zqn::script::user

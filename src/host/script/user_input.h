@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+//
+// What a person's hands and eyes can do at a desktop, one movement each. A desktop with a screen delivers
+// real events to its widgets; the headless one feeds the form. Which movements make a click, and what a
+// person may do at all, is decided above (hands.h, user_actions.cpp).
+//
+//     input.mouseDown({form.control(u"btnOK")});
+//     input.mouseUp({form.control(u"btnOK")});
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/message_box.h"
+
+namespace zqn::script {
+
+/// One key as a person presses it.
+struct Key {
+  /// The platform's key code (forms/keys.h), 0 for a character without one.
+  int code = 0;
+  /// Sum of the shift bits.
+  int shift = 0;
+  /// What the press types: nothing, one character, or the two halves of one beyond U+FFFF.
+  String text;
+};
+
+/// Where the pointer is: on a control, and in a list on one of its rows, -1 for none.
+struct Spot {
+  Control& control;
+  int row = -1;
+};
+
+class UserInput {
+ public:
+  virtual ~UserInput() = default;
+
+  /// The left button goes down, or up again at the same spot. A row is scrolled into view first.
+  virtual void mouseDown(const Spot& spot) = 0;
+  virtual void mouseUp(const Spot& spot) = 0;
+  /// The second press of a double click.
+  virtual void mouseDownAgain(const Spot& spot) = 0;
+
+  /// A key goes down, or up, while the form is on top.
+  virtual void keyDown(Form& form, const Key& key) = 0;
+  virtual void keyUp(Form& form, const Key& key) = 0;
+
+  /// The close box of the form's window.
+  virtual void closeBox(Form& form) = 0;
+  /// A button that the open message box has.
+  virtual void answer(MsgBoxResult button) = 0;
+
+  /// Writes the form's window as a picture; nothing on a desktop without a screen. False when the file cannot
+  /// be written.
+  virtual bool screenshot(Form& /*form*/, const std::filesystem::path& /*file*/) { return true; }
+  /// Where the window shows something else than the form says, a sentence each.
+  virtual std::vector<String> differences(Form& /*form*/) { return {}; }
+};
+
+}  // namespace zqn::script

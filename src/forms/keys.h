@@ -41,7 +41,9 @@ constexpr int Alt = 4;
 
 /// One press of a key.
 struct KeyStroke {
-  /// The platform's key code: letters and digits by their capital character, the others as in namespace key.
+  /// The platform's key code: letters and digits by their capital character, other characters by their key on
+  /// a German keyboard (188 for the comma; 231 for a character that no key has), the rest as in namespace
+  /// key.
   int code = 0;
   /// Sum of the shift bits.
   int shift = 0;

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+//
+// What all fields with a text and a caret share: the text, the selection, and what typing does to them.
+// Positions and lengths count UTF-16 units. A derived kind says which texts a person may make of it (accepts)
+// and what follows an edit (edited).
+//
+// A toolkit that edits natively reports what came of it through userEdited and userSelected; the headless
+// desktop lets ownKey edit.
+#pragma once
+
+#include "forms/control.h"
+
+namespace zqn {
+
+class TextEntry : public Control {
+ public:
+  const String& Text() const noexcept { return text_; }
+
+  int SelStart() const noexcept { return selStart_; }
+  int SelLength() const noexcept { return selLength_; }
+  /// Beyond the end: at the end. Error 380 when negative. Assigning SelStart empties the selection.
+  void SelStart(int start);
+  void SelLength(int length);
+
+  /// The text has become another one, by code or by typing.
+  Event<> Change{*this, u"Change"};
+
+  // ---- for toolkits
+
+  /// Longest text that typing reaches, in UTF-16 units; 0 is no limit.
+  int lengthLimit() const noexcept { return lengthLimit_; }
+  /// A person's edit may lead to this text; one that does not changes nothing.
+  virtual bool accepts(StringView) const { return true; }
+  /// A person has edited: the whole text as it is now. Raises Change when it differs.
+  void userEdited(StringView text, int selStart, int selLength);
+  /// A person has moved the caret or the selection.
+  void userSelected(int selStart, int selLength);
+  /// A person pastes; the part that the limit leaves room for goes in, line breaks become blanks.
+  void userPasted(StringView text);
+  bool ownKey(const KeyStroke& stroke) override;
+  String content() const override { return text_; }
+
+ protected:
+  TextEntry(Form& form, const ControlDesign& design, int tabIndex);
+
+  /// Code assigns: the caret goes to the front, nothing is selected, and edited follows when the text
+  /// differs.
+  void assignText(StringView text);
+  /// The text is another one. Raises Change; a derived kind may do more.
+  virtual void edited() { Change.raise(); }
+  void limitLength(int units) { lengthLimit_ = units; }
+  const PropertyEntry* findProperty(StringView name) const override;
+
+ private:
+  void replaceSelection(StringView text);
+  void moveCaret(int position, bool extend);
+  bool ownControlKey(const KeyStroke& stroke);
+
+  String text_;
+  int lengthLimit_ = 0;
+  int selStart_ = 0;
+  int selLength_ = 0;
+  /// The end of the selection that arrow keys with Shift move.
+  bool caretAtStart_ = false;
+};
+
+}  // namespace zqn

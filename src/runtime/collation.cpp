@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 #include "runtime/locale.h"
 #include "runtime/unicode.h"
@@ -95,8 +98,11 @@ template <class Text>
 int compareLetters(Text left, Text right) noexcept {
   int accents = 0;
   while (!left.empty() && !right.empty()) {
-    const Weight one = weigh(unicode::take(left));
-    const Weight other = weigh(unicode::take(right));
+    const char32_t character = unicode::take(left);
+    const char32_t opposite = unicode::take(right);
+    if (character == opposite) continue;
+    const Weight one = weigh(character);
+    const Weight other = weigh(opposite);
     if (one.base != other.base) return order(one.base, other.base);
     if (accents == 0) accents = order(one.accent, other.accent);
   }
@@ -104,10 +110,31 @@ int compareLetters(Text left, Text right) noexcept {
   return left.empty() ? -1 : 1;
 }
 
+// How many units at the beginning are ASCII and the same, found in steps of eight bytes (the last few are
+// left to the caller): keys often share a beginning.
+template <class Text>
+std::size_t sameAsciiBeginning(Text left, Text right, std::size_t common) noexcept {
+  using Unit = typename Text::value_type;
+  constexpr std::uint64_t beyondAscii = sizeof(Unit) == 1 ? 0x8080808080808080 : 0xFF80FF80FF80FF80;
+  constexpr std::size_t step = sizeof(std::uint64_t) / sizeof(Unit);
+  std::size_t same = 0;
+  for (; common - same >= step; same += step) {
+    std::uint64_t one, other;
+    std::memcpy(&one, left.data() + same, sizeof one);
+    std::memcpy(&other, right.data() + same, sizeof other);
+    const std::uint64_t stop = (one ^ other) | (one & beyondAscii);
+    if (stop == 0) continue;
+    const int sameBits =
+        std::endian::native == std::endian::little ? std::countr_zero(stop) : std::countl_zero(stop);
+    return same + static_cast<std::size_t>(sameBits) / (8 * sizeof(Unit));
+  }
+  return same;
+}
+
 template <class Text>
 int compareTexts(Text left, Text right) noexcept {
   const std::size_t common = std::min(left.size(), right.size());
-  for (std::size_t i = 0; i < common; ++i) {
+  for (std::size_t i = sameAsciiBeginning(left, right, common); i < common; ++i) {
     const auto one = static_cast<std::make_unsigned_t<typename Text::value_type>>(left[i]);
     const auto other = static_cast<std::make_unsigned_t<typename Text::value_type>>(right[i]);
     if ((one | other) >= 0x80) {

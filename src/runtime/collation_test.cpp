@@ -57,6 +57,34 @@ TEST(Collation, AccentsCountWhenTheLettersAreTheSame) {
   EXPECT_EQ(order(u"aä", u"äa"), -1) << "the first accent decides";
 }
 
+TEST(Collation, EveryAccentedLetterSortsBetweenItsPlainLetterAndTheNextOne) {
+  struct Row {
+    char16_t plain;
+    StringView accented;
+    char16_t next;
+  };
+  const Row rows[] = {
+      {u'a', u"áàâäãåæąāă", u'b'}, {u'c', u"çćčĉċ", u'd'},   {u'd', u"ďđð", u'e'},
+      {u'e', u"éèêëęēĕėě", u'f'},  {u'g', u"ğĝġģ", u'h'},    {u'h', u"ĥħ", u'i'},
+      {u'i', u"íìîïĩīĭįı", u'j'},  {u'j', u"ĵ", u'k'},       {u'k', u"ķ", u'l'},
+      {u'l', u"łĺļľŀ", u'm'},      {u'n', u"ñńņňŋ", u'o'},   {u'o', u"óòôöõøœőōŏ", u'p'},
+      {u'r', u"ŕŗř", u's'},        {u's', u"ßśŝşšșſ", u't'}, {u't', u"ţťŧț", u'u'},
+      {u'u', u"úùûüũūŭůűų", u'v'}, {u'w', u"ŵ", u'x'},       {u'y', u"ýÿŷ", u'z'},
+      {u'z', u"źżž", u'þ'},        {u'α', u"ά", u'β'},       {u'ι', u"ίϊΐ", u'κ'},
+      {u'υ', u"ύϋΰ", u'φ'},        {u'е', u"ёѐ", u'ж'},      {u'и', u"ѝ", u'й'},
+  };
+  for (const Row& row : rows) {
+    for (const char16_t accented : row.accented) {
+      for (const char16_t letter : {lowerUnit(accented), upperUnit(accented)}) {
+        EXPECT_EQ(order(String{row.plain}, String{letter}), -1) << toUtf8(String{letter});
+        EXPECT_EQ(order(String{letter}, String{row.next}), -1) << toUtf8(String{letter});
+        EXPECT_EQ(order(String{upperUnit(row.plain), u'b'}, String{letter, u'a'}), 1)
+            << toUtf8(String{letter});
+      }
+    }
+  }
+}
+
 TEST(Collation, TrailingBlanksDoNotCountBehindSomethingElse) {
   EXPECT_EQ(order(u"B ", u"B"), 0);
   EXPECT_EQ(order(u"B   ", u"b "), 0);
@@ -82,13 +110,24 @@ TEST(Collation, BrokenEncodingsCompareAsTheirReplacement) {
   EXPECT_NE(order(String{0xD83D, 0xDE00}, String{0xD83D, 0xDE01}), 0);
 }
 
+TEST(Collation, CharactersOfSeveralUnitsAreNeverCutInTwo) {
+  for (std::size_t position = 0; position < 12; ++position) {
+    const String before(position, u'x');
+    EXPECT_EQ(order(before + u"\xD83D\xDE00 rest of it", before + u"\xD83D\xDE01 rest of it"), -1)
+        << position;
+    EXPECT_EQ(order(before + u"ä rest of it", before + u"å rest of it"), -1) << position;
+    EXPECT_EQ(order(before + u"ÿ rest of it", before + u"Ÿ REST OF IT"), 0) << position;
+  }
+}
+
 class RandomTexts {
  public:
   explicit RandomTexts(unsigned seed) : random_(seed) {}
   String next() {
-    // Few letters, so that texts often differ by case, accent or blanks alone.
+    // Few beginnings and few letters, so that texts often differ by case, accent or blanks alone.
+    static constexpr StringView beginnings[] = {u"", u"", u"Auftrag Nr. ", u"auftrag nr. ", u"Aufträge "};
     static constexpr StringView units = u"aAäÄàbBsSßẞ  zÿ1-_[σςΣ€\xD83D\xDE00";
-    String text;
+    String text(beginnings[random_() % std::size(beginnings)]);
     for (auto left = random_() % 5; left > 0; --left) text += units[random_() % units.size()];
     return text;
   }

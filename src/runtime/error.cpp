@@ -29,7 +29,7 @@ constexpr Words words[] = {
     {error::FormAlreadyDisplayed,
      u"Formular wird bereits angezeigt; Anzeige als modales Formular nicht möglich"},
     {error::ObjectRequired, u"Objekt erforderlich"},
-    {error::CannotCreateObject, u"Objekterstellung durch ActiveX-Komponente nicht möglich"},
+    {error::CannotCreateObject, u"Komponente kann das Objekt nicht erstellen"},
     {error::NoSuchMember, u"Objekt unterstützt diese Eigenschaft oder Methode nicht"},
     {error::InvalidArgument,
      u"Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."},

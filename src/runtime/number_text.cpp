@@ -227,7 +227,7 @@ std::string Decimal::whole() const {
 }
 
 std::string Decimal::fraction(int places) const {
-  std::string text(static_cast<std::size_t>(std::clamp(-point, 0, places)), '0');
+  std::string text(static_cast<std::size_t>(std::max(-point, 0)), '0');
   if (point < static_cast<int>(digits.size()))
     text += digits.substr(static_cast<std::size_t>(std::max(point, 0)));
   text.resize(static_cast<std::size_t>(places), '0');

@@ -47,8 +47,10 @@ class Connection {
 
   /// Error 3709 when closed.
   Provider& provider() const;
-  /// The prepared statement for a text, kept for the next one of the same shape. Valid until the next call.
-  CachedStatement statement(StringView text, Purpose purpose);
+  /// The prepared statement for a text, kept for the next time. Valid until the next call.
+  Statement& statement(StringView text, Purpose purpose);
+  /// Error -2147217900 for a text that a value has broken.
+  void requireRunnable(const sql::Text& statement) const;
   /// Recordsets are told when the connection closes.
   void enlist(Recordset& recordset) { recordsets_.push_back(&recordset); }
   void dismiss(Recordset& recordset) noexcept;

@@ -31,6 +31,7 @@ enum DataTypeEnum : int {
   adVariant = 12,  // an expression: the kind is that of each value
   adBigInt = 20,
   adNumeric = 131,
+  adDBTimeStamp = 135,  // declared DATE or DATETIME; its Value is the stored text
   adVarWChar = 202,
   adLongVarWChar = 203
 };

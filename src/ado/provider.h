@@ -33,9 +33,9 @@ struct Column {
   String baseTable, baseColumn;
   /// Part of what identifies the row: its value when read goes into the WHERE of an Update.
   bool key = false;
-  /// Added by the provider behind the statement's own columns (Purpose::Update); no Field shows it.
+  /// Added by the provider behind the statement's own columns (Purpose::Keyed); no Field shows it.
   bool hidden = false;
-  /// The value is the row's RowHandle.
+  /// The value is the row's RowHandle; `keyset` of the same SELECT can read the row by it.
   bool rowHandle = false;
 };
 using Columns = std::vector<Column>;
@@ -85,8 +85,10 @@ class Keyset {
 };
 
 enum class Purpose {
-  Read,
-  Update,  // rows are to be updated: add the key columns that the statement does not name, as hidden columns
+  Plain,
+  /// The rows must be found again: add what identifies a row and is not among the statement's own columns, as
+  /// hidden columns.
+  Keyed,
 };
 
 class Provider {
@@ -98,7 +100,7 @@ class Provider {
   /// The same SELECT by its keys, or nullptr where that is not possible; the engine then reads all rows.
   /// `text` has no parameters.
   virtual std::unique_ptr<Keyset> keyset(StringView text);
-  /// Handle of the row that the last INSERT made, where columns have handles.
+  /// Handle of the row that the last INSERT made, where rows have handles.
   virtual std::optional<RowHandle> insertedRow() const;
 
   /// An identifier as it stands in a statement, whatever letters it has. Default: in double quotes.

@@ -30,7 +30,6 @@
 
 namespace zqn::ado {
 
-class Criterion;
 class Cursor;
 
 class Recordset {
@@ -112,8 +111,9 @@ class Recordset {
   int EditMode() const;
 
   ado::Fields Fields() const;
-  Field Fields(StringView name) const { return Fields().Item(name); }
-  Field Fields(int ordinal) const { return Fields().Item(ordinal); }
+  /// As Fields().Item.
+  Field Fields(StringView name) const;
+  Field Fields(int ordinal) const;
 
   // ---- for lists that show the recordset: nothing here moves it, tells the observer, or sees a pending
   // edit. Rows count from 0.
@@ -144,22 +144,30 @@ class Recordset {
   enum class Place { Bof, Row, Eof, Empty, Added };
 
   void requireOpen() const;
+  void requireClosed() const;
+  void requireBookmarks() const;
   void before(Operation operation, StringView criterion = {}) const;
   void execute();
   void shut() noexcept;
-  void place(Place place, int row = -1) noexcept;
-  void placeAt(int row);
+
+  bool forwardOnly() const noexcept { return location_ == adUseServer && cursorType_ == adOpenForwardOnly; }
+  bool isOnRow() const noexcept { return place_ == Place::Row || place_ == Place::Added; }
+  void leaveTo(Place place) noexcept;
+  void goTo(int row) noexcept;
+  /// Whether there is such a row; reads keys as far as that needs.
+  bool hasRow(int row) const;
   void finishEdit();
 
   const Column& column(int ordinal) const;
-  ado::Value stored(int ordinal) const;
+  /// The current row as it was read; error 3021 when it is gone.
+  const RowView& current() const;
   Variant fieldValue(int ordinal) const;
   void fieldValue(int ordinal, const Variant& value);
-  const String& updatableTable() const;
+
+  void requireUpdatable() const;
   void insertRow();
   void updateRow();
-
-  void search(const Criterion& criterion, int from, int direction);
+  void endEdit() noexcept;
 
   int location_ = adUseServer;
   int cursorType_ = adOpenForwardOnly;
@@ -168,18 +176,21 @@ class Recordset {
   Ref<Connection> connection_;
 
   std::unique_ptr<Cursor> cursor_;
+  int fieldCount_ = 0;  // columns of the statement, hidden ones not counted
   std::shared_ptr<FieldAnchor> anchor_;
-  mutable std::int64_t generation_ = 0;
+  mutable std::int64_t generation_ = 0;  // of the bookmarks; given when the first one is asked for
+
   Place place_ = Place::Empty;
   int row_ = -1;
+  mutable RowView current_;  // empty until it is read
+  mutable RowStore buffer_;
 
-  /// Values assigned since the edit began, by ordinal; Empty stands for "not assigned".
-  std::vector<Variant> assigned_;
   int editMode_ = adEditNone;
+  std::vector<Variant> assigned_;  // a column each while an edit is pending; Empty is not assigned
   Place placeBeforeAdd_ = Place::Empty;
-  int rowBeforeAdd_ = -1;
 
-  RowCache painted_;
+  RowCache drawn_;
+  RowStore scratch_;
 };
 
 }  // namespace zqn::ado

@@ -30,6 +30,8 @@ struct Value {
   static Value of(StringView value) { return {Kind::Text, 0, 0, value}; }
 };
 
+struct RowView;
+
 class RowStore {
  public:
   /// Columns of a row; at least 1 before cells are added.
@@ -48,6 +50,8 @@ class RowStore {
   void addText(std::string_view utf8);
   void addText(StringView text);
   void add(const Value& value);
+  /// A copy of a row of another store with as many columns.
+  void addRow(const RowView& row);
 
   /// Row and column from 0, inside the bounds.
   Value at(int row, int column) const noexcept;
@@ -77,6 +81,15 @@ class RowStore {
   int columns_;
   std::vector<Cell> cells_;
   String texts_;
+};
+
+/// One row of a store.
+struct RowView {
+  const RowStore* store = nullptr;
+  int row = 0;
+
+  explicit operator bool() const noexcept { return store != nullptr; }
+  Value at(int column) const noexcept { return store->at(row, column); }
 };
 
 }  // namespace zqn::ado

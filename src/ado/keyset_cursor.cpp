@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "ado/keyset_cursor.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "runtime/error.h"
+
+namespace zqn::ado {
+
+namespace {
+constexpr int FirstKeys = 64;
+constexpr int KeysPerBatch = 1024;
+}  // namespace
+
+KeysetCursor::KeysetCursor(Provider& provider, StringView statement, std::unique_ptr<Keyset> keyset)
+    : provider_(provider), statement_(statement), keyset_(std::move(keyset)), columns_(keyset_->columns()) {
+  fetch(FirstKeys);
+}
+
+KeysetCursor::KeysetCursor(Provider& provider, StringView statement, std::shared_ptr<const Columns> columns,
+                           RowStore rows)
+    : provider_(provider),
+      statement_(statement),
+      columns_(std::move(columns)),
+      complete_(true),
+      first_(std::move(rows)) {
+  const auto handle = std::ranges::find_if(*columns_, &Column::rowHandle);
+  const int column = static_cast<int>(handle - columns_->begin());
+  for (int row = 0; row < first_.rows(); ++row) handles_.push_back(first_.at(row, column).integer);
+}
+
+Keyset& KeysetCursor::keyset() {
+  if (!keyset_) keyset_ = provider_.keyset(statement_);
+  if (!keyset_)
+    throw RuntimeError(error::ProviderFailure, u"The rows of this statement cannot be read by their keys.");
+  return *keyset_;
+}
+
+void KeysetCursor::fetch(int atMost) {
+  while (!complete_ && atMost > 0) {
+    const int count = std::min(atMost, KeysPerBatch);
+    batch_.clear();
+    complete_ = !keyset().fetchKeys(batch_, static_cast<std::size_t>(count));
+    handles_.insert(handles_.end(), batch_.begin(), batch_.end());
+    atMost -= count;
+  }
+}
+
+RowView KeysetCursor::row(int row, RowStore& buffer) {
+  if (row == 0 && first_.rows() > 0) {
+    buffer = std::move(first_);
+    first_.clear(0);
+    return {&buffer, 0};
+  }
+  buffer.clear(static_cast<int>(columns_->size()));
+  const bool there = keyset().readRow(handles_[static_cast<std::size_t>(row)], buffer);
+  return there ? RowView{&buffer, 0} : RowView{};
+}
+
+int KeysetCursor::find(const Criterion& criterion, int from, int direction, RowStore& buffer) {
+  const std::vector<ColumnEquals> equalities = criterion.equalities();
+  if (equalities.empty()) return scan(criterion, from, direction, buffer);
+  auto matches = keyset().rowsWhere(equalities);
+  if (!matches) return scan(criterion, from, direction, buffer);
+  return findAmong(std::move(*matches), criterion, from, direction, buffer);
+}
+
+int KeysetCursor::findAmong(std::vector<RowHandle> matches, const Criterion& criterion, int from,
+                            int direction, RowStore& buffer) {
+  const auto fits = [&](int at) {
+    const RowView view = row(at, buffer);
+    return view && criterion.holds(view);
+  };
+  index_.extend(handles_);
+  std::vector<int> rows;
+  std::vector<RowHandle> unknown;
+  for (const RowHandle match : matches) {
+    const auto at = index_.rowOf(handles_, match);
+    if (!at) {
+      unknown.push_back(match);
+    } else if ((*at - from) * direction >= 0) {
+      rows.push_back(*at);
+    }
+  }
+  std::ranges::sort(rows);
+  if (direction < 0) std::ranges::reverse(rows);
+  for (const int at : rows) {
+    if (fits(at)) return at;
+  }
+  // What is not known yet stands below all that is.
+  std::ranges::sort(unknown);
+  while (direction > 0 && !unknown.empty() && !complete_) {
+    const int known = knownRows();
+    fetch(KeysPerBatch);
+    for (int at = known; at < knownRows(); ++at) {
+      if (at >= from && std::ranges::binary_search(unknown, handles_[static_cast<std::size_t>(at)]) &&
+          fits(at))
+        return at;
+    }
+  }
+  return -1;
+}
+
+void KeysetCursor::inserted(std::optional<RowHandle> handle, const std::vector<Variant>&) {
+  fetchAll();
+  first_.clear(0);
+  if (handle) handles_.push_back(*handle);
+}
+
+}  // namespace zqn::ado

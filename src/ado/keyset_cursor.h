@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+//
+// The keys of a SELECT's rows, read as they are needed; values are read from the database each time a row is
+// asked for.
+#pragma once
+
+#include "ado/cursor.h"
+#include "ado/handle_index.h"
+
+namespace zqn::ado {
+
+class KeysetCursor : public Cursor {
+ public:
+  /// The keys are read through `keyset`, the first ones now.
+  KeysetCursor(Provider& provider, StringView statement, std::unique_ptr<Keyset> keyset);
+  /// `rows` are all there are, with their handles in a column of their own; the first one need not be read
+  /// again.
+  KeysetCursor(Provider& provider, StringView statement, std::shared_ptr<const Columns> columns,
+               RowStore rows);
+
+  const Columns& columns() const override { return *columns_; }
+  int knownRows() const noexcept override { return static_cast<int>(handles_.size()); }
+  bool complete() const noexcept override { return complete_; }
+  void fetch(int atMost) override;
+  RowView row(int row, RowStore& buffer) override;
+  bool readsRows() const noexcept override { return true; }
+  int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
+  void updated(int, const std::vector<Variant>&) override { first_.clear(0); }
+  void inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) override;
+
+ private:
+  Keyset& keyset();
+  int findAmong(std::vector<RowHandle> matches, const Criterion& criterion, int from, int direction,
+                RowStore& buffer);
+
+  Provider& provider_;
+  String statement_;
+  std::unique_ptr<Keyset> keyset_;
+  std::shared_ptr<const Columns> columns_;
+  Handles handles_;
+  HandleIndex index_;
+  bool complete_ = false;
+  /// Row 0 as it was read when the recordset was opened, until it has been asked for.
+  RowStore first_;
+  std::vector<RowHandle> batch_;
+};
+
+}  // namespace zqn::ado

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "ado/snapshot_cursor.h"
+
+#include "ado/field_values.h"
+
+namespace zqn::ado {
+
+namespace {
+/// Below it, comparing all rows costs less than an index.
+constexpr int RowsForIndex = 64;
+}  // namespace
+
+SnapshotCursor::SnapshotCursor(Connection& connection, StringView statement,
+                               std::shared_ptr<const Columns> columns, RowStore rows)
+    : connection_(connection), statement_(statement), columns_(std::move(columns)), rows_(std::move(rows)) {}
+
+RowView SnapshotCursor::row(int row, RowStore&) {
+  if (unread_ && row == rows_.rows() - 1) readInserted();
+  return {&rows_, row};
+}
+
+const ValueIndex& SnapshotCursor::index(int column) {
+  const auto known = indexes_.find(column);
+  return known != indexes_.end() ? known->second : indexes_.try_emplace(column, rows_, column).first->second;
+}
+
+int SnapshotCursor::find(const Criterion& criterion, int from, int direction, RowStore& buffer) {
+  const std::vector<ColumnEquals> equalities = criterion.equalities();
+  if (unread_) readInserted();
+  if (equalities.empty() || rows_.rows() < RowsForIndex) return scan(criterion, from, direction, buffer);
+  const ValueIndex& rows = index(equalities.front().column);
+  if (!rows.usable()) return scan(criterion, from, direction, buffer);
+  return rows.first(equalities.front().value, from, direction, [&](int candidate) {
+    return criterion.holds({&rows_, candidate});
+  });
+}
+
+void SnapshotCursor::updated(int row, const std::vector<Variant>& values) {
+  indexes_.clear();
+  for (std::size_t column = 0; column < values.size(); ++column) {
+    if (!values[column].isEmpty()) rows_.set(row, static_cast<int>(column), storedAs(values[column]));
+  }
+}
+
+void SnapshotCursor::inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) {
+  indexes_.clear();
+  unread_ = handle;
+  for (std::size_t column = 0; column < columns_->size(); ++column) {
+    rows_.add(column < values.size() ? storedAs(values[column]) : Value{});
+  }
+}
+
+void SnapshotCursor::readInserted() {
+  const RowHandle handle = *unread_;
+  const auto keyset = connection_.provider().keyset(statement_);
+  unread_.reset();
+  RowStore read(rows_.columns());
+  if (!keyset || !keyset->readRow(handle, read)) return;
+  for (int column = 0; column < rows_.columns(); ++column)
+    rows_.set(rows_.rows() - 1, column, read.at(0, column));
+}
+
+}  // namespace zqn::ado

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+//
+// All rows of a SELECT, read once. Finds by equality go through an index per column, made when it is first
+// needed.
+#pragma once
+
+#include <map>
+
+#include "ado/cursor.h"
+#include "ado/value_index.h"
+
+namespace zqn::ado {
+
+class SnapshotCursor : public Cursor {
+ public:
+  /// `statement` is kept to read a row that this recordset has inserted, defaults included.
+  SnapshotCursor(Connection& connection, StringView statement, std::shared_ptr<const Columns> columns,
+                 RowStore rows);
+
+  const Columns& columns() const override { return *columns_; }
+  int knownRows() const noexcept override { return rows_.rows(); }
+  bool complete() const noexcept override { return true; }
+  void fetch(int) override {}
+  RowView row(int row, RowStore& buffer) override;
+  bool readsRows() const noexcept override { return false; }
+  int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
+  void updated(int row, const std::vector<Variant>& values) override;
+  void inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) override;
+
+ private:
+  const ValueIndex& index(int column);
+  void readInserted();
+
+  Connection& connection_;
+  String statement_;
+  std::shared_ptr<const Columns> columns_;
+  RowStore rows_;
+  std::map<int, ValueIndex> indexes_;
+  /// The last row, inserted and not read back so far.
+  std::optional<RowHandle> unread_;
+};
+
+}  // namespace zqn::ado

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// Inside the SQLite provider: a SELECT by its row handles. They are read through a connection of their own,
+// so that a list that is not read to its end does not hold back what the clerk writes; where that connection
+// could not see the same rows, all handles are read at once.
+#pragma once
+
+#include "ado/sqlite/select.h"
+
+namespace zqn::ado::sqlite {
+
+class SqliteKeyset;
+
+/// The connections to one file.
+struct Session {
+  std::shared_ptr<Database> database;
+  /// Path for a second connection; empty when a second one would not see the same rows (in memory, or without
+  /// a write-ahead log).
+  std::string path;
+  int busyMilliseconds = 0;
+  /// Opened when the first keyset needs it.
+  std::shared_ptr<Database> reader;
+  /// The keyset that reads through `reader`; one at a time, as all share its view of the file.
+  SqliteKeyset* reading = nullptr;
+};
+
+class SqliteKeyset : public Keyset {
+ public:
+  /// nullptr where the statement has no handles.
+  static std::unique_ptr<SqliteKeyset> make(std::shared_ptr<Session> session, StringView text);
+  ~SqliteKeyset() override;
+
+  std::shared_ptr<const Columns> columns() const override { return columns_; }
+  bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) override;
+  bool readRow(RowHandle row, RowStore& rows) override;
+  std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) override;
+
+ private:
+  SqliteKeyset(std::shared_ptr<Session> session, const KeyedSelect& keyed);
+  void begin();
+  bool beginThroughReader();
+  void readKeys(std::size_t atMost);
+  void end() noexcept;
+
+  std::shared_ptr<Session> session_;
+  std::shared_ptr<const Columns> columns_;
+  KeysOnly keysOnly_;
+  String from_, rowId_;
+  StatementHandle rowStatement_;
+  StatementHandle whereStatement_;
+  String whereText_;
+
+  enum class Reading { NotBegun, ThroughReader, Read } state_ = Reading::NotBegun;
+  std::shared_ptr<Database> keyDatabase_;
+  StatementHandle keyStatement_;
+  std::vector<RowHandle> read_;  // handles read and not delivered, from delivered_ on
+  std::size_t delivered_ = 0;
+};
+
+}  // namespace zqn::ado::sqlite

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "ado/sqlite/sqlite.h"
+
+#include "ado/field_values.h"
+#include "ado/sqlite/keyset.h"
+#include "ado/sqlite/statement.h"
+
+namespace zqn::ado {
+
+namespace {
+
+using Mode = SqliteOptions::Mode;
+using sqlite::Database;
+
+class SqliteProvider : public Provider {
+ public:
+  explicit SqliteProvider(std::shared_ptr<sqlite::Session> session) : session_(std::move(session)) {}
+  ~SqliteProvider() override {
+    // What a recordset still holds of them must not keep the file open.
+    session_->reader.reset();
+  }
+
+  std::unique_ptr<Statement> prepare(StringView text, Purpose purpose) override {
+    return std::make_unique<sqlite::SqliteStatement>(session_->database, text, purpose);
+  }
+  std::unique_ptr<Keyset> keyset(StringView text) override {
+    return sqlite::SqliteKeyset::make(session_, text);
+  }
+  std::optional<RowHandle> insertedRow() const override {
+    return sqlite3_last_insert_rowid(session_->database->get());
+  }
+  String sameValue(const Column& column) const override {
+    if (column.rowHandle) return column.baseColumn + u"=?";
+    return quoted(column.baseColumn) + (isTextType(column.type) ? u" COLLATE BINARY IS ?" : u" IS ?");
+  }
+  String name() const override { return sqlite::SourceName; }
+
+ private:
+  std::shared_ptr<sqlite::Session> session_;
+};
+
+[[noreturn]] void refuse(std::int32_t number, const std::filesystem::path& path, StringView rest) {
+  throw RuntimeError(number, u"\"" + path.u16string() + u"\" " + String(rest), sqlite::SourceName);
+}
+
+void checkPath(const std::filesystem::path& path, Mode mode) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(path, ignored)) {
+    refuse(error::ProviderFailure, path, u"is a folder. Name a database file inside it.");
+  }
+  if (std::filesystem::exists(path, ignored)) return;
+  const std::filesystem::path folder = path.parent_path();
+  if (!std::filesystem::is_directory(folder, ignored)) {
+    refuse(error::ProviderFailure, path,
+           u"cannot be opened: there is no folder \"" + folder.u16string() +
+               u"\". Make the folder first, or name another one.");
+  }
+  if (mode != Mode::Create) {
+    refuse(error::ProviderFailure, path,
+           u"does not exist. Name an existing database file, or allow a new one to be made.");
+  }
+}
+
+/// What SQLite said, and what would help.
+[[noreturn]] void explain(const Database& database, const RuntimeError& failure,
+                          const std::filesystem::path& path) {
+  const String words = u" (" + failure.description() + u"). ";
+  switch (sqlite3_errcode(database.get()) & 0xFF) {
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+      refuse(failure.number(), path,
+             u"is no SQLite database" + words + u"Name a database file, or restore it from a copy.");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      refuse(failure.number(), path,
+             u"is in use by another program" + words + u"End that program, or try again later.");
+    default:
+      refuse(failure.number(), path,
+             u"cannot be read" + words +
+                 u"The file and its folder must be readable and writable for this user.");
+  }
+}
+
+std::shared_ptr<Database> openFile(const std::string& path, const std::filesystem::path& shown,
+                                   const SqliteOptions& options) {
+  const int flags = options.mode == Mode::ReadOnly   ? SQLITE_OPEN_READONLY
+                    : options.mode == Mode::Existing ? SQLITE_OPEN_READWRITE
+                                                     : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+  try {
+    return std::make_shared<Database>(path, flags, static_cast<int>(options.busyTimeout.count()));
+  } catch (const RuntimeError& failure) {
+    refuse(failure.number(), shown,
+           u"cannot be opened (" + failure.description() +
+               u"). This user must have the right to read and write the file and its folder.");
+  }
+}
+
+/// Whether the database has a write-ahead log now. One that cannot have it works with what it has.
+bool prepareFile(const Database& database, const std::filesystem::path& path, Mode mode) {
+  try {
+    database.run("SELECT count(*) FROM sqlite_schema");
+  } catch (const RuntimeError& failure) {
+    explain(database, failure, path);
+  }
+  if (mode != Mode::ReadOnly && sqlite3_db_readonly(database.get(), "main") == 1) {
+    refuse(error::PermissionDenied, path,
+           u"can only be read. Give this user the right to write the file and its folder, or open it for "
+           u"reading only.");
+  }
+  database.run("PRAGMA foreign_keys=ON");
+  database.run("PRAGMA synchronous=FULL");
+  try {
+    return database.text(mode == Mode::ReadOnly ? "PRAGMA journal_mode" : "PRAGMA journal_mode=WAL") == "wal";
+  } catch (const RuntimeError&) {
+    return database.text("PRAGMA journal_mode") == "wal";
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<Provider> sqliteProvider(const std::filesystem::path& path, const SqliteOptions& options) {
+  auto session = std::make_shared<sqlite::Session>();
+  session->busyMilliseconds = static_cast<int>(options.busyTimeout.count());
+  if (path == ":memory:") {
+    session->database = openFile(":memory:", path, options);
+    session->database->run("PRAGMA foreign_keys=ON");
+    return std::make_unique<SqliteProvider>(std::move(session));
+  }
+  // An absolute path is never taken for a URI.
+  const std::filesystem::path file = std::filesystem::absolute(path);
+  checkPath(file, options.mode);
+  const std::u8string utf8 = file.u8string();
+  const std::string name(utf8.begin(), utf8.end());
+  session->database = openFile(name, file, options);
+  if (prepareFile(*session->database, file, options.mode)) session->path = name;
+  return std::make_unique<SqliteProvider>(std::move(session));
+}
+
+Ref<Connection> openSqlite(const std::filesystem::path& path, const SqliteOptions& options) {
+  return Ref<Connection>::make(sqliteProvider(path, options));
+}
+
+}  // namespace zqn::ado

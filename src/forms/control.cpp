@@ -75,13 +75,13 @@ void Control::Height(int twips) {
 void Control::Visible(bool visible) {
   if (!assign(visible_, visible)) return;
   changed();
-  if (!visible) form_.leaveUnusable(*this);
+  if (!visible) form_.leaveUnusable();
 }
 
 void Control::Enabled(bool enabled) {
   if (!assign(enabled_, enabled)) return;
   changed();
-  if (!enabled) form_.leaveUnusable(*this);
+  if (!enabled) form_.leaveUnusable();
 }
 
 void Control::TabStop(bool tabStop) { tabStop_ = tabStop; }

@@ -2,6 +2,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/check_box.h"
 #include "forms/command_button.h"
@@ -35,6 +36,12 @@ std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& design, in
       return make<TDBList>(form, design, tabIndex);
   }
   return nullptr;
+}
+
+/// The stroke of the character that a KeyPress handler put in the place of another.
+KeyStroke typing(int character, int shift) {
+  if (character < u' ') return KeyStroke::ofCode(character);
+  return KeyStroke::ofCharacter(static_cast<char16_t>(character), shift & shift::Shift);
 }
 
 }  // namespace
@@ -148,7 +155,8 @@ bool Form::moveFocus(Control& target, FocusCause cause) {
     Control* const validated = active_;
     bool cancel = false;
     validated->Validate.raise(cancel);
-    if (cancel || active_ != validated || !visible_ || !target.isUsable()) return false;
+    if (cancel || !visible_ || !target.isUsable()) return false;
+    if (active_ != validated) return active_ == &target;
   }
   Control* const left = entered_;
   entered_ = nullptr;
@@ -162,9 +170,9 @@ bool Form::moveFocus(Control& target, FocusCause cause) {
   return active_ == &target;
 }
 
-void Form::leaveUnusable(const Control& gone) {
+void Form::leaveUnusable() {
   if (!visible_ || active_ == nullptr || active_->isUsable()) return;
-  if (Control* next = nextInTabOrder(&gone, false)) {
+  if (Control* next = nextInTabOrder(active_, false)) {
     moveFocus(*next, FocusCause::Code);
     return;
   }
@@ -202,12 +210,13 @@ bool Form::pressesButton(const KeyStroke& stroke) {
 KeyOutcome Form::keyPressed(KeyStroke stroke) {
   KeyOutcome outcome{false, stroke};
   if (!visible_) return outcome;
-  const bool movesOn = stroke.code == key::Tab && (stroke.shift & (shift::Ctrl | shift::Alt)) == 0;
-  if (movesOn) {
-    if (Control* next = nextInTabOrder(active_, (stroke.shift & shift::Shift) != 0)) {
-      moveFocus(*next, FocusCause::Tab);
-      return outcome;
-    }
+  Control* next = nullptr;
+  if (stroke.code == key::Tab && (stroke.shift & (shift::Ctrl | shift::Alt)) == 0)
+    next = nextInTabOrder(active_, (stroke.shift & shift::Shift) != 0);
+  tabMovedOn_ = next != nullptr;
+  if (tabMovedOn_) {
+    moveFocus(*next, FocusCause::Tab);
+    return outcome;
   }
   Control* const target = active_;
   const bool controlFirst = stroke.code == key::Enter && target != nullptr && target->wantsEnter();
@@ -221,14 +230,17 @@ KeyOutcome Form::keyPressed(KeyStroke stroke) {
   if (character != 0 && visible_ && formSees) KeyPress.raise(character);
   if (character != 0 && visible_ && target != nullptr) target->KeyPress.raise(character);
 
+  // What a key types has its effect by KeyPress, whatever KeyDown did; all other keys by KeyDown.
   const bool dropped = stroke.character != 0 ? character == 0 : code == 0;
-  outcome.stroke = {code, stroke.shift, static_cast<char16_t>(character)};
+  if (stroke.character == 0) outcome.stroke.code = code;
+  if (character != stroke.character) outcome.stroke = typing(character, stroke.shift);
   outcome.own = !dropped && visible_ && target != nullptr && target == active_ && target->isUsable();
   return outcome;
 }
 
 void Form::keyReleased(int code, int shift) {
-  if (!visible_) return;
+  if (!visible_ || code == 0) return;
+  if (code == key::Tab && std::exchange(tabMovedOn_, false)) return;
   Control* const target = active_;
   if (keyPreview_) KeyUp.raise(code, shift);
   if (visible_ && target != nullptr) target->KeyUp.raise(code, shift);

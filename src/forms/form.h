@@ -137,7 +137,8 @@ class Form : public EventOwner {
 
   void unload(UnloadMode mode);
   bool moveFocus(Control& target, FocusCause cause);
-  void leaveUnusable(const Control& gone);
+  /// The control with the focus was hidden or disabled: the next one in the tab order gets it.
+  void leaveUnusable();
   CommandButton* buttonFor(int code) const;
   bool pressesButton(const KeyStroke& stroke);
 
@@ -152,6 +153,8 @@ class Form : public EventOwner {
   bool loaded_ = false;
   bool visible_ = false;
   bool keyPreview_ = true;
+  /// The Tab that is down has moved the focus: its release tells nobody.
+  bool tabMovedOn_ = false;
 };
 
 }  // namespace zqn

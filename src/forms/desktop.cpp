@@ -14,8 +14,8 @@ namespace {
 
 Desktop* currentDesktop = nullptr;
 
-/// Names of keys between braces, as queued keys write them.
-constexpr std::array<std::pair<StringView, int>, 18> keyNames{{{u"Tab", key::Tab},
+/// Names of keys between braces, as queued keys write them; F1 to F12 follow a rule.
+constexpr std::array<std::pair<StringView, int>, 13> keyNames{{{u"Tab", key::Tab},
                                                                {u"Enter", key::Enter},
                                                                {u"Esc", key::Escape},
                                                                {u"Backspace", key::Backspace},
@@ -27,16 +27,14 @@ constexpr std::array<std::pair<StringView, int>, 18> keyNames{{{u"Tab", key::Tab
                                                                {u"Right", key::Right},
                                                                {u"Down", key::Down},
                                                                {u"PgUp", key::PageUp},
-                                                               {u"PgDn", key::PageDown},
-                                                               {u"F2", key::F2},
-                                                               {u"F4", key::F4},
-                                                               {u"F6", key::F6},
-                                                               {u"F9", key::F9},
-                                                               {u"F10", key::F10}}};
+                                                               {u"PgDn", key::PageDown}}};
 
 KeyStroke namedKey(StringView name) {
   for (const auto& [known, code] : keyNames) {
     if (sameName(known, name)) return KeyStroke::ofCode(code);
+  }
+  for (int number = 1; number <= 12; ++number) {
+    if (sameName(u"F" + CStr(std::int32_t{number}), name)) return KeyStroke::ofCode(key::F1 + number - 1);
   }
   throw RuntimeError(error::InvalidProcedureCall);
 }
@@ -53,6 +51,20 @@ class OpenForm {
   std::vector<Form*>& forms_;
 };
 
+/// The message box that waits for an answer; boxes nest.
+class OpenBox {
+ public:
+  OpenBox(const MessageBox*& current, const MessageBox& box)
+      : current_(current), outer_(std::exchange(current, &box)) {}
+  ~OpenBox() { current_ = outer_; }
+  OpenBox(const OpenBox&) = delete;
+  OpenBox& operator=(const OpenBox&) = delete;
+
+ private:
+  const MessageBox*& current_;
+  const MessageBox* outer_;
+};
+
 }  // namespace
 
 Desktop& Desktop::current() {
@@ -64,25 +76,29 @@ Desktop::Scope::Scope(Desktop& desktop) noexcept : former_(std::exchange(current
 Desktop::Scope::~Scope() { currentDesktop = former_; }
 
 void Desktop::showModal(Form& form) {
-  const OpenForm open(forms_, form);
-  openWindow(form);
-  form.opened();
-  if (form.Visible()) {
-    for (DesktopListener* listener : listeners_) listener->formShown(form);
-    runLoop([&form] { return !form.Visible(); });
+  {
+    const OpenForm open(forms_, form);
+    openWindow(form);
+    form.opened();
+    if (form.Visible()) {
+      for (DesktopListener* listener : listeners_) listener->formShown(form);
+      runLoop([&form] { return !form.Visible(); });
+    }
+    closeWindow(form);
+    for (DesktopListener* listener : listeners_) listener->formClosed(form);
   }
-  closeWindow(form);
-  if (forms_.size() == 1) queue_.clear();
-  for (DesktopListener* listener : listeners_) listener->formClosed(form);
+  if (forms_.empty()) {
+    queue_.clear();
+  } else if (activeForm()->Visible()) {
+    activeForm()->Activate.raise();
+  }
 }
 
 MsgBoxResult Desktop::messageBox(const MessageBox& box) {
   ++boxCount_;
-  const MessageBox* const outer = std::exchange(box_, &box);
+  const OpenBox open(box_, box);
   for (DesktopListener* listener : listeners_) listener->messageBoxOpened(box);
-  const MsgBoxResult answer = runMessageBox(box);
-  box_ = outer;
-  return answer;
+  return runMessageBox(box);
 }
 
 void Desktop::runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure) {
@@ -90,23 +106,29 @@ void Desktop::runtimeErrorRaised(Form& form, StringView procedure, const Runtime
   for (DesktopListener* listener : listeners_) {
     dealtWith = listener->runtimeErrorRaised(form, procedure, failure) || dealtWith;
   }
-  if (dealtWith) return;
+  if (dealtWith) {
+    // Whoever dealt with it stood in for the person, who would have closed a box.
+    ++boxCount_;
+    return;
+  }
   MsgBox(u"Laufzeitfehler '" + CStr(failure.number()) + u"':\n\n" + failure.description(), msgbox::Critical,
          u"TALVEX Software");
 }
 
 void Desktop::sendKeys(StringView keys) {
+  std::vector<KeyStroke> strokes;
   while (!keys.empty()) {
     if (keys.front() != u'{') {
-      queue_.push_back(KeyStroke::ofCharacter(keys.front()));
+      strokes.push_back(KeyStroke::ofCharacter(keys.front()));
       keys.remove_prefix(1);
       continue;
     }
     const auto close = keys.find(u'}');
     if (close == StringView::npos) throw RuntimeError(error::InvalidProcedureCall);
-    queue_.push_back(namedKey(keys.substr(1, close - 1)));
+    strokes.push_back(namedKey(keys.substr(1, close - 1)));
     keys.remove_prefix(close + 1);
   }
+  queue_.insert(queue_.end(), strokes.begin(), strokes.end());
 }
 
 bool Desktop::nextQueuedKey(KeyStroke& stroke) {

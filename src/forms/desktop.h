@@ -69,14 +69,16 @@ class Desktop {
 
   // ---- what forms ask for
 
-  /// Opens a window for the form and returns when the form is unloaded. Forms nest.
+  /// Opens a window for the form and returns when the form is unloaded. Forms nest: the one below is active
+  /// again afterwards and its Activate is raised.
   void showModal(Form& form);
   /// Opens a message box and returns the answer.
   MsgBoxResult messageBox(const MessageBox& box);
   /// A run-time error left an event procedure: the person is told its number and words, the form stays.
   void runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure);
   /// Queues keys, written as "{Tab}" or characters; they are pressed after the running handler has come back
-  /// to the modal loop. Error 5 for a name that is no key.
+  /// to the modal loop, and dropped when the last form closes. Error 5 for a name that is no key; then
+  /// nothing is queued.
   void sendKeys(StringView keys);
   virtual void copyToClipboard(StringView text) = 0;
   virtual String clipboardText() const = 0;
@@ -94,8 +96,8 @@ class Desktop {
   Form* activeForm() const noexcept { return forms_.empty() ? nullptr : forms_.back(); }
   /// The message box that waits for an answer; nullptr when none is open.
   const MessageBox* openMessageBox() const noexcept { return box_; }
-  /// How many message boxes have been opened since the desktop began: a form compares it to see that one came
-  /// up meanwhile.
+  /// How many message boxes have been opened since the desktop began, run-time errors that a listener dealt
+  /// with included: a form compares it to see that one came up meanwhile.
   int messageBoxCount() const noexcept { return boxCount_; }
 
  protected:

@@ -18,23 +18,15 @@ std::vector<MsgBoxResult> MessageBox::buttons() const {
   }
 }
 
-int MessageBox::defaultButton() const noexcept {
-  switch (style & 0x300) {
-    case msgbox::DefaultButton2:
-      return 2;
-    case msgbox::DefaultButton3:
-      return 3;
-    default:
-      return 1;
-  }
+int MessageBox::defaultButton() const {
+  const int wanted = 1 + (style & 0x300) / msgbox::DefaultButton2;
+  return wanted <= static_cast<int>(buttons().size()) ? wanted : 1;
 }
 
-bool MessageBox::hasEscape(MsgBoxResult& result) const {
-  const std::vector<MsgBoxResult> all = buttons();
-  const MsgBoxResult last = all.back();
-  if (last == MsgBoxResult::No) return false;
-  result = last;
-  return true;
+std::optional<MsgBoxResult> MessageBox::escapeResult() const {
+  const MsgBoxResult last = buttons().back();
+  if (last == MsgBoxResult::No) return std::nullopt;
+  return last;
 }
 
 MsgBoxResult MsgBox(StringView text, int style, StringView title) {

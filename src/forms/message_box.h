@@ -6,6 +6,7 @@
 //     return;
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "runtime/string.h"
@@ -37,10 +38,15 @@ struct MessageBox {
 
   /// The buttons from left to right.
   std::vector<MsgBoxResult> buttons() const;
-  /// The default button, counted from 1.
-  int defaultButton() const noexcept;
+  /// The default button, counted from 1; the first one when the style asks for a button that is not there.
+  int defaultButton() const;
   /// What Esc and the close box mean: Cancel, OK on a box that has OK alone; nothing for Yes and No.
-  bool hasEscape(MsgBoxResult& result) const;
+  std::optional<MsgBoxResult> escapeResult() const;
+  /// The same, for desktops that still ask this way.
+  bool hasEscape(MsgBoxResult& result) const {
+    result = escapeResult().value_or(result);
+    return escapeResult().has_value();
+  }
 };
 
 /// Opens a message box above the open form and waits for the answer.

@@ -49,8 +49,17 @@ void TDBList::Column::Width(int twips) {
 TDBList::TDBList(Form& form, const ControlDesign& design, int tabIndex) : Control(form, design, tabIndex) {}
 
 TDBList::Column& TDBList::Columns(int index) {
-  if (index < 0 || index >= columnCount()) throw RuntimeError(error::SubscriptOutOfRange);
+  requireColumn(index);
   return columns_[static_cast<std::size_t>(index)];
+}
+
+const TDBList::Column& TDBList::Columns(int index) const {
+  requireColumn(index);
+  return columns_[static_cast<std::size_t>(index)];
+}
+
+void TDBList::requireColumn(int index) const {
+  if (index < 0 || index >= columnCount()) throw RuntimeError(error::SubscriptOutOfRange);
 }
 
 TDBList::Split TDBList::Splits(int index) {
@@ -274,7 +283,7 @@ Variant TDBList::Property(StringView name) const {
   if (name.size() > columnsOpen.size() && sameName(name.substr(0, columnsOpen.size()), columnsOpen) &&
       dot != StringView::npos) {
     const Variant index = String(name.substr(columnsOpen.size(), dot - columnsOpen.size()));
-    Column& column = const_cast<TDBList*>(this)->Columns(CLng(index));
+    const Column& column = Columns(CLng(index));
     const StringView member = name.substr(dot + 2);
     if (sameName(member, u"Caption")) return column.Caption();
     if (sameName(member, u"Value")) return column.Value();

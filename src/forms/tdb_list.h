@@ -76,6 +76,7 @@ class TDBList : public Control {
 
   /// Error 9 outside the columns.
   Column& Columns(int index);
+  const Column& Columns(int index) const;
   int columnCount() const noexcept { return static_cast<int>(columns_.size()); }
   Split Splits(int index);
   bool ColumnHeaders() const noexcept { return columnHeaders_; }
@@ -133,6 +134,7 @@ class TDBList : public Control {
 
  private:
   bool hasRows() const;
+  void requireColumn(int index) const;
   void mark(int row, bool raise);
   /// A person's move: the row becomes the recordset's current one, too.
   void moveTo(int row, bool raise);

@@ -12,15 +12,21 @@ namespace zqn::headless {
 void HeadlessDesktop::press(const KeyStroke& stroke) {
   Form* form = activeForm();
   if (form == nullptr || openMessageBox() != nullptr) return;
+  down_ = stroke;
   const KeyOutcome outcome = form->keyPressed(stroke);
   if (outcome.own) form->ActiveControl()->ownKey(outcome.stroke);
-  // The release belongs to whoever has the focus by now.
-  if (Form* receiver = activeForm()) receiver->keyReleased(stroke.code, stroke.shift);
+  release();
+}
+
+void HeadlessDesktop::release() {
+  const std::optional<KeyStroke> stroke = std::exchange(down_, std::nullopt);
+  if (!stroke || openMessageBox() != nullptr || activeForm() == nullptr) return;
+  activeForm()->keyReleased(stroke->code, stroke->shift);
 }
 
 void HeadlessDesktop::click(Control& control) {
-  if (openMessageBox() == nullptr && control.form().mousePressed(control))
-    control.form().mouseReleased(control);
+  if (openMessageBox() != nullptr || &control.form() != activeForm()) return;
+  if (control.form().mousePressed(control)) control.form().mouseReleased(control);
 }
 
 bool HeadlessDesktop::answer(MsgBoxResult result) {
@@ -38,6 +44,8 @@ void HeadlessDesktop::pressQueuedKeys() {
 }
 
 void HeadlessDesktop::runLoop(const std::function<bool()>& done) {
+  // A key that opened the form or the box comes up again over it.
+  release();
   while (!done()) {
     KeyStroke stroke;
     if (nextQueuedKey(stroke)) {

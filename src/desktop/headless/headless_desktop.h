@@ -21,7 +21,8 @@ class HeadlessDesktop : public Desktop {
  public:
   // ---- the person; each acts on the form on top, and does nothing while a message box is open
 
-  /// Presses and releases a key.
+  /// Presses and releases a key. The release belongs to whoever has the focus by then: a form that the press
+  /// has opened.
   void press(const KeyStroke& stroke);
   /// Presses the keys that forms have queued until none is left.
   void pressQueuedKeys();
@@ -40,10 +41,13 @@ class HeadlessDesktop : public Desktop {
   MsgBoxResult runMessageBox(const MessageBox& box) override;
 
  private:
+  void release();
   void leaveAlone();
 
   String clipboard_;
   std::optional<MsgBoxResult> answer_;
+  /// The key that is down.
+  std::optional<KeyStroke> down_;
 };
 
 }  // namespace zqn::headless

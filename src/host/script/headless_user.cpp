@@ -5,29 +5,58 @@
 
 namespace zqn::script {
 
+namespace {
+
+/// Nobody above could catch what leaves the form's own doing: it counts as an error of the event.
+template <class Act>
+void guarded(EventOwner& owner, StringView event, Act&& act) {
+  try {
+    act();
+  } catch (const RuntimeError& failure) {
+    owner.eventFailed(event, failure);
+  }
+}
+
+}  // namespace
+
 void HeadlessUser::mouseDown(const Spot& spot) {
-  pressed_ = spot.control.form().mousePressed(spot.control);
-  auto* list = dynamic_cast<TDBList*>(&spot.control);
-  if (pressed_ && list != nullptr && spot.row >= 0) list->userSelect(spot.row);
+  guarded(spot.control, u"MouseDown", [&] {
+    pressed_ = spot.control.form().mousePressed(spot.control);
+    auto* list = dynamic_cast<TDBList*>(&spot.control);
+    if (pressed_ && list != nullptr) list->userSelect(spot.row);
+  });
 }
 
 void HeadlessUser::mouseUp(const Spot& spot) {
-  if (pressed_) spot.control.form().mouseReleased(spot.control);
+  if (!pressed_) return;
   pressed_ = false;
+  guarded(spot.control, u"Click", [&] { spot.control.form().mouseReleased(spot.control); });
 }
 
 void HeadlessUser::mouseDownAgain(const Spot& spot) {
-  if (auto* list = dynamic_cast<TDBList*>(&spot.control)) list->userDoubleClick(spot.row);
+  guarded(spot.control, u"MouseDown", [&] {
+    auto* list = dynamic_cast<TDBList*>(&spot.control);
+    const bool passes = spot.control.form().mousePressed(spot.control);
+    if (passes && list != nullptr) list->userDoubleClick(spot.row);
+  });
 }
 
 void HeadlessUser::keyDown(Form& form, const Key& key) {
   const String units = key.text.empty() ? String(1, u'\0') : key.text;
-  for (const char16_t unit : units) {
-    const KeyOutcome outcome = form.keyPressed({key.code, key.shift, unit});
-    if (outcome.own) form.ActiveControl()->ownKey(outcome.stroke);
-  }
+  guarded(form, u"KeyDown", [&] {
+    for (const char16_t unit : units) {
+      const KeyOutcome outcome = form.keyPressed({key.code, key.shift, unit});
+      if (outcome.own) form.ActiveControl()->ownKey(outcome.stroke);
+    }
+  });
 }
 
-void HeadlessUser::keyUp(Form& form, const Key& key) { form.keyReleased(key.code, key.shift); }
+void HeadlessUser::keyUp(Form& form, const Key& key) {
+  guarded(form, u"KeyUp", [&] { form.keyReleased(key.code, key.shift); });
+}
+
+void HeadlessUser::closeBox(Form& form) {
+  guarded(form, u"QueryUnload", [&] { form.closeBox(); });
+}
 
 }  // namespace zqn::script

@@ -18,7 +18,7 @@ class HeadlessUser : public UserInput {
   void mouseDownAgain(const Spot& spot) override;
   void keyDown(Form& form, const Key& key) override;
   void keyUp(Form& form, const Key& key) override;
-  void closeBox(Form& form) override { form.closeBox(); }
+  void closeBox(Form& form) override;
   void answer(MsgBoxResult button) override { desktop_.answer(button); }
 
  private:

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "host/script/qt_user.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QTableView>
+
+#include "desktop/qt/key_events.h"
+#include "desktop/qt/text.h"
+
+namespace zqn::script {
+
+namespace {
+
+void sendMouse(QWidget& widget, QEvent::Type type, QPoint place) {
+  const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &event);
+}
+
+/// A point of the widget that a person would click on: in the middle, but on the box itself of a check box.
+QPoint placeOn(const QWidget& widget) {
+  const auto* box = qobject_cast<const QCheckBox*>(&widget);
+  if (box == nullptr) return widget.rect().center();
+  QStyleOptionButton option;
+  option.initFrom(box);
+  return box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
+}
+
+/// The middle of a row, which is scrolled into view.
+QPoint placeOfRow(QTableView& list, int row) {
+  int column = 0;
+  while (list.isColumnHidden(column) && column + 1 < list.model()->columnCount()) ++column;
+  list.scrollTo(list.model()->index(row, column));
+  return {list.viewport()->width() / 2, list.rowViewportPosition(row) + list.rowHeight(row) / 2};
+}
+
+QKeyEvent keyEvent(const Key& key, QEvent::Type type) {
+  if (key.text.size() < 2)
+    return qt::eventOf({key.code, key.shift, key.text.empty() ? u'\0' : key.text.front()}, type);
+  // Beyond U+FFFF a press types both halves at once.
+  const QString text = qt::toQt(key.text);
+  return {type, static_cast<int>(text.toUcs4().front()), Qt::NoModifier, text};
+}
+
+}  // namespace
+
+// ---- mouse
+
+void QtUser::mouseDown(const Spot& spot) {
+  QWidget& area = *desktop_.mouseAreaOf(spot.control);
+  auto* list = qobject_cast<QTableView*>(desktop_.widgetOf(spot.control));
+  pressed_ = list != nullptr && spot.row >= 0 ? placeOfRow(*list, spot.row) : placeOn(area);
+  sendMouse(area, QEvent::MouseButtonPress, pressed_);
+}
+
+void QtUser::mouseUp(const Spot& spot) {
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonRelease, pressed_);
+}
+
+void QtUser::mouseDownAgain(const Spot& spot) {
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pressed_);
+}
+
+// ---- keys
+
+void QtUser::keyDown(Form& form, const Key& key) {
+  QDialog& window = *desktop_.windowOf(form);
+  QKeyEvent event = keyEvent(key, QEvent::KeyPress);
+  QApplication::sendEvent(window.focusWidget() != nullptr ? window.focusWidget() : &window, &event);
+}
+
+void QtUser::keyUp(Form& form, const Key& key) {
+  QDialog& window = *desktop_.windowOf(form);
+  QKeyEvent event = keyEvent(key, QEvent::KeyRelease);
+  QApplication::sendEvent(window.focusWidget() != nullptr ? window.focusWidget() : &window, &event);
+}
+
+// ---- windows
+
+void QtUser::closeBox(Form& form) { desktop_.windowOf(form)->close(); }
+
+void QtUser::answer(MsgBoxResult button) {
+  QAbstractButton& widget = *desktop_.boxButton(button);
+  sendMouse(widget, QEvent::MouseButtonPress, widget.rect().center());
+  sendMouse(widget, QEvent::MouseButtonRelease, widget.rect().center());
+}
+
+bool QtUser::screenshot(Form& form, const std::filesystem::path& file) {
+  return desktop_.windowOf(form)->grab().save(qt::toQt(file.u16string()));
+}
+
+std::vector<String> QtUser::differences(Form& form) {
+  std::vector<String> lines;
+  for (const QString& line : desktop_.differences(form).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+    lines.emplace_back(qt::fromQt(line));
+  return lines;
+}
+
+}  // namespace zqn::script

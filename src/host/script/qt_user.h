@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// The scripted user's hands on the desktop of Qt: real mouse and key events for the widgets, on Qt's
+// offscreen platform as well as on a display. The models are never touched.
+#pragma once
+
+#include <QPoint>
+
+#include "desktop/qt/qt_desktop.h"
+#include "host/script/user_input.h"
+
+namespace zqn::script {
+
+class QtUser : public UserInput {
+ public:
+  explicit QtUser(qt::QtDesktop& desktop) : desktop_(desktop) {}
+
+  void mouseDown(const Spot& spot) override;
+  void mouseUp(const Spot& spot) override;
+  void mouseDownAgain(const Spot& spot) override;
+  void keyDown(Form& form, const Key& key) override;
+  void keyUp(Form& form, const Key& key) override;
+  void closeBox(Form& form) override;
+  void answer(MsgBoxResult button) override;
+  bool screenshot(Form& form, const std::filesystem::path& file) override;
+  std::vector<String> differences(Form& form) override;
+
+ private:
+  qt::QtDesktop& desktop_;
+  /// Where the button went down, in the widget: it comes up there, wherever a list has scrolled meanwhile.
+  QPoint pressed_;
+};
+
+}  // namespace zqn::script

@@ -201,7 +201,8 @@ String formatNumber(double number, Symbols symbols) {
   const NumberSection negative = section(1);
   // What is rounded to zero shows no sign.
   const bool sign = !ownNegative && negative.rounded(decimal).negative;
-  return (sign ? u"-" : u"") + negative.write(decimal);
+  String text(sign ? 1 : 0, u'-');
+  return text.append(negative.write(decimal));
 }
 
 }  // namespace

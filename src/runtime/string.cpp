@@ -1,9 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "runtime/string.h"
 
+#include <array>
+#include <cstdint>
+#include <cstring>
+
 #include "runtime/unicode.h"
 
 namespace zqn {
+
+namespace {
+
+// Most text is ASCII; the compiler converts a block of it in one go.
+constexpr std::size_t AsciiBlock = 8;
+
+bool startsWithAsciiBlock(std::string_view utf8) {
+  std::uint64_t block;
+  static_assert(sizeof block == AsciiBlock);
+  if (utf8.size() < AsciiBlock) return false;
+  std::memcpy(&block, utf8.data(), AsciiBlock);
+  return (block & 0x8080808080808080) == 0;
+}
+
+}  // namespace
 
 String fromUtf8(std::string_view utf8) {
   String text;
@@ -12,26 +31,28 @@ String fromUtf8(std::string_view utf8) {
 }
 
 void appendUtf8(String& out, std::string_view utf8) {
-  const std::size_t start = out.size();
-  // A byte of UTF-8 never needs more than one unit.
-  out.resize(start + utf8.size());
-  char16_t* target = out.data() + start;
+  // By way of a buffer: growing the text first would write every unit twice.
+  std::array<char16_t, 256> buffer;
   while (!utf8.empty()) {
-    std::size_t ascii = 0;
-    while (ascii < utf8.size() && static_cast<unsigned char>(utf8[ascii]) < 0x80) {
-      *target++ = static_cast<unsigned char>(utf8[ascii++]);
+    char16_t* target = buffer.data();
+    char16_t* const full = target + buffer.size() - AsciiBlock;
+    while (!utf8.empty() && target <= full) {
+      if (startsWithAsciiBlock(utf8)) {
+        for (std::size_t i = 0; i < AsciiBlock; ++i) target[i] = static_cast<char16_t>(utf8[i]);
+        target += AsciiBlock;
+        utf8.remove_prefix(AsciiBlock);
+        continue;
+      }
+      const char32_t character = unicode::take(utf8);
+      if (character < 0x10000) {
+        *target++ = static_cast<char16_t>(character);
+      } else {
+        *target++ = static_cast<char16_t>(0xD7C0 + (character >> 10));
+        *target++ = static_cast<char16_t>(0xDC00 + (character & 0x3FF));
+      }
     }
-    utf8.remove_prefix(ascii);
-    if (utf8.empty()) break;
-    const char32_t character = unicode::take(utf8);
-    if (character < 0x10000) {
-      *target++ = static_cast<char16_t>(character);
-    } else {
-      *target++ = static_cast<char16_t>(0xD7C0 + (character >> 10));
-      *target++ = static_cast<char16_t>(0xDC00 + (character & 0x3FF));
-    }
+    out.append(buffer.data(), target);
   }
-  out.resize(static_cast<std::size_t>(target - out.data()));
 }
 
 std::string toUtf8(StringView text) {

@@ -84,6 +84,14 @@ TEST(Utf8, AnyBytesGiveATextThatSurvives) {
   }
 }
 
+TEST(Utf8, ALetterIsReadAtEveryPlaceOfALongText) {
+  for (std::size_t position = 0; position < 20; ++position) {
+    const std::size_t behind = 20 - position;
+    const std::string utf8 = std::string(position, 'x') + "\xC3\xA4" + std::string(behind, 'y');
+    EXPECT_EQ(fromUtf8(utf8), String(position, u'x') + u'ä' + String(behind, u'y')) << position;
+  }
+}
+
 TEST(Utf8, AppendingKeepsWhatStandsInTheBuffer) {
   String buffer = u"Zeile ";
   appendUtf8(buffer, "\xC3\xA4");

@@ -62,8 +62,8 @@ struct PrintMarks {
   /// A mark that takes part: True prints its letter, False a hyphen. A missing one (std::nullopt) leaves no
   /// trace.
   using Mark = std::optional<bool>;
-  Mark AN, AB, LS, RG, GS;  // "N", "B", "L", "R", "G": the sales side
-  Mark AF, BS, LM;          // "A", "E", "M": the purchase side
+  Mark AN{}, AB{}, LS{}, RG{}, GS{};  // "N", "B", "L", "R", "G": the sales side
+  Mark AF{}, BS{}, LM{};          // "A", "E", "M": the purchase side
   bool operator==(const PrintMarks&) const = default;
 };
 

@@ -13,7 +13,7 @@ namespace zqn::testing {
 
 String TestSession::GetSetting(StringView Section, StringView Key, StringView Default, std::int32_t Mode) {
   if (fails != 0) throw RuntimeError(fails);
-  const std::pair key(String(Section), String(Key));
+  const std::pair<String, String> key{Section, Key};
   const bool userFirst = Mode == zqnGetUserSettingsOnly || Mode == zqnGetUserSettingsFirst;
   const bool both = Mode == zqnGetUserSettingsFirst || Mode == zqnGetGlobalSettingsFirst;
   const auto& first = userFirst ? user_ : global_;

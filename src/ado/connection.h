@@ -54,6 +54,8 @@ class Connection {
   /// Recordsets are told when the connection closes.
   void enlist(Recordset& recordset) { recordsets_.push_back(&recordset); }
   void dismiss(Recordset& recordset) noexcept;
+  /// How many recordsets are open on this connection.
+  std::size_t openRecordsets() const noexcept { return recordsets_.size(); }
   void before(Operation operation, StringView statement, StringView criterion = {}) const {
     if (observer_) observer_->Before(operation, statement, criterion);
   }

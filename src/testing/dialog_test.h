@@ -65,7 +65,9 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
 
   /// The next `times` operations of this kind whose statement holds `match` fail with this number.
   void fail(ado::Operation operation, StringView match, std::int32_t number, int times = 1);
-  /// Operations that have run so far, for counting.
+  /// The operation number `position`, counted from 1, fails, whatever it is; 0 for none.
+  void failAt(std::size_t position) { failingPosition_ = position; }
+  /// Operations that have run so far.
   std::vector<std::pair<ado::Operation, String>> operations;
 
   // ---- the dialog
@@ -89,6 +91,10 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
   void expectBox(StringView text, StringView title, int style, MsgBoxResult answer = MsgBoxResult::OK);
   /// The next run-time error must leave this procedure with this number.
   void expectError(StringView procedure, std::int32_t number);
+  /// From now on every question is answered with Yes, and run-time errors are only written down, by their
+  /// procedure.
+  void tolerateEverything() { tolerant_ = true; }
+  std::vector<String> reportedErrors;
 
   Variant get(StringView control, StringView property) const;
   String text(StringView control) const { return *get(control, u"Text").as<String>(); }
@@ -128,6 +134,8 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
   std::deque<ExpectedBox> boxes_;
   std::deque<std::pair<String, std::int32_t>> errors_;
   std::vector<Fault> faults_;
+  std::size_t failingPosition_ = 0;
+  bool tolerant_ = false;
 };
 
 }  // namespace zqn::testing

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// The rules of recordsets on SQLite.
+#include "ado/suite/suite.h"
+#include "ado/sqlite/temporary_file.h"
+
+namespace zqn::ado::suite {
+
+namespace {
+
+class SqliteContext : public Context {
+ public:
+  Ref<Connection> connect() override {
+    auto connection = openSqlite(file_.path());
+    // No case pulls the plug, and waiting for the disk takes most of the time.
+    connection->Execute(u"PRAGMA synchronous=OFF");
+    return connection;
+  }
+  String textColumn(int size) const override {
+    return u"VARCHAR(" + fromUtf8(std::to_string(size)) + u") COLLATE ZQN_TEXT";
+  }
+  bool hasKeysets() const override { return true; }
+
+ private:
+  sqlite::TemporaryFile file_;
+};
+
+std::unique_ptr<Context> sqliteContext() { return std::make_unique<SqliteContext>(); }
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Sqlite, RecordsetTest, testing::ValuesIn(anywhere(sqliteContext)), nameOf);
+INSTANTIATE_TEST_SUITE_P(Sqlite, KeysetTest, testing::ValuesIn(onServer(sqliteContext)), nameOf);
+INSTANTIATE_TEST_SUITE_P(Sqlite, SnapshotTest, testing::ValuesIn(onClient(sqliteContext)), nameOf);
+INSTANTIATE_TEST_SUITE_P(Sqlite, ConnectionTest, testing::ValuesIn(onServer(sqliteContext)), nameOf);
+
+}  // namespace zqn::ado::suite

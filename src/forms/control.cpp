@@ -8,22 +8,6 @@
 
 namespace zqn {
 
-StringView kindName(ControlKind kind) noexcept {
-  switch (kind) {
-    case ControlKind::TextBox:
-      return u"TextBox";
-    case ControlKind::Label:
-      return u"Label";
-    case ControlKind::CommandButton:
-      return u"CommandButton";
-    case ControlKind::CheckBox:
-      return u"CheckBox";
-    case ControlKind::TDBList:
-      return u"TDBList";
-  }
-  return u"";
-}
-
 Control::Control(Form& form, const ControlDesign& design, int tabIndex)
     : form_(form),
       design_(design),

@@ -119,6 +119,9 @@ class Control : public EventOwner {
   virtual bool wantsEnter() const noexcept { return false; }
   /// A complete click of the left button, after the focus has moved here.
   virtual void clicked();
+  /// The focus has come here, or has left: what the kind itself does, before GotFocus and LostFocus.
+  virtual void focusEntered() {}
+  virtual void focusLeft() {}
 
   // ---- for automation
 

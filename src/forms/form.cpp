@@ -4,39 +4,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/check_box.h"
 #include "forms/command_button.h"
+#include "forms/control_kinds.h"
 #include "forms/desktop.h"
-#include "forms/label.h"
 #include "forms/names.h"
-#include "forms/tdb_list.h"
-#include "forms/text_box.h"
 #include "runtime/convert.h"
 
 namespace zqn {
 
 namespace {
-
-template <class C>
-std::unique_ptr<Control> make(Form& form, const ControlDesign& design, int tabIndex) {
-  return std::make_unique<C>(form, design, tabIndex);
-}
-
-std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& design, int tabIndex) {
-  switch (design.kind) {
-    case ControlKind::TextBox:
-      return make<TextBox>(form, design, tabIndex);
-    case ControlKind::Label:
-      return make<Label>(form, design, tabIndex);
-    case ControlKind::CommandButton:
-      return make<CommandButton>(form, design, tabIndex);
-    case ControlKind::CheckBox:
-      return make<CheckBox>(form, design, tabIndex);
-    case ControlKind::TDBList:
-      return make<TDBList>(form, design, tabIndex);
-  }
-  return nullptr;
-}
 
 /// The stroke of the character that a KeyPress handler put in the place of another.
 KeyStroke typing(int character, int shift) {
@@ -162,9 +138,10 @@ bool Form::moveFocus(Control& target, FocusCause cause) {
   entered_ = nullptr;
   active_ = &target;
   if (view_ != nullptr) view_->focusChanged();
-  if (left != nullptr) left->LostFocus.raise();
+  if (left != nullptr) leave(*left);
   if (active_ == &target && entered_ != &target) {
     entered_ = &target;
+    target.focusEntered();
     target.GotFocus.raise();
   }
   return active_ == &target;
@@ -179,7 +156,12 @@ void Form::leaveUnusable() {
   Control* const left = entered_;
   active_ = entered_ = nullptr;
   if (view_ != nullptr) view_->focusChanged();
-  if (left != nullptr) left->LostFocus.raise();
+  if (left != nullptr) leave(*left);
+}
+
+void Form::leave(Control& left) {
+  left.focusLeft();
+  left.LostFocus.raise();
 }
 
 void Form::focusMovedTo(Control& control) {

@@ -137,6 +137,7 @@ class Form : public EventOwner {
 
   void unload(UnloadMode mode);
   bool moveFocus(Control& target, FocusCause cause);
+  static void leave(Control& left);
   /// The control with the focus was hidden or disabled: the next one in the tab order gets it.
   void leaveUnusable();
   CommandButton* buttonFor(int code) const;

@@ -18,7 +18,18 @@
 
 namespace zqn {
 
-enum class ControlKind { TextBox, Label, CommandButton, CheckBox, TDBList };
+enum class ControlKind {
+  CheckBox,
+  ComboBox,
+  CommandButton,
+  Frame,
+  Label,
+  TDBDate,
+  TDBList,
+  TDBNumber,
+  TextBox,
+  ToggleButton
+};
 
 /// The kind's name as a roster, a script or a dump writes it: "TextBox".
 StringView kindName(ControlKind kind) noexcept;
@@ -31,6 +42,10 @@ struct OtherDesign {
   /// Longest text in UTF-16 units; 0 is no limit. TextBox.
   int MaxLength = 0;
   zqn::Alignment Alignment = zqn::Alignment::Left;
+  /// Takes several lines. TextBox.
+  bool MultiLine = false;
+  /// Digits and looks of a number: positive, negative, zero and Null, semicolons between them. TDBNumber.
+  const char16_t* Format = u"";
   /// The button that Esc, or Enter, presses from anywhere on the form. CommandButton.
   bool Cancel = false;
   bool Default = false;

@@ -3,6 +3,7 @@
 
 #include "forms/check_box.h"
 #include "forms/command_button.h"
+#include "forms/frame.h"
 #include "forms/label.h"
 #include "runtime/convert.h"
 
@@ -33,6 +34,25 @@ void Label::Caption(StringView caption) {
 
 const PropertyEntry* Label::findProperty(StringView name) const {
   static constexpr PropertyEntry entries[] = {captionEntry<Label>};
+  const PropertyEntry* entry = findIn(entries, name);
+  return entry != nullptr ? entry : Control::findProperty(name);
+}
+
+// ---- Frame
+
+Frame::Frame(Form& form, const ControlDesign& design, int tabIndex)
+    : Control(form, design, tabIndex), caption_(design.text) {
+  BackColor(colour::ButtonFace);
+}
+
+void Frame::Caption(StringView caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  changed();
+}
+
+const PropertyEntry* Frame::findProperty(StringView name) const {
+  static constexpr PropertyEntry entries[] = {captionEntry<Frame>};
   const PropertyEntry* entry = findIn(entries, name);
   return entry != nullptr ? entry : Control::findProperty(name);
 }

@@ -9,7 +9,7 @@ TextBox::TextBox(Form& form, const ControlDesign& design, int tabIndex)
 }
 
 void TextBox::Text(StringView text) {
-  if (MaxLength() > 0) text = text.substr(0, static_cast<std::size_t>(MaxLength()));
+  if (MaxLength() > 0) text = cutToLength(text, MaxLength());
   assignText(text);
 }
 

@@ -3,11 +3,36 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "forms/desktop.h"
 #include "runtime/convert.h"
+#include "runtime/unicode.h"
 
 namespace zqn {
+
+namespace {
+
+/// The two units of a character beyond U+FFFF meet at this position: a caret cannot stand there.
+bool splitsPair(StringView text, int position) {
+  const auto at = static_cast<std::size_t>(position);
+  return position > 0 && at < text.size() && unicode::isHighSurrogate(text[at - 1]) &&
+         unicode::isLowSurrogate(text[at]);
+}
+
+int before(StringView text, int position) {
+  return splitsPair(text, position - 1) ? position - 2 : position - 1;
+}
+int behind(StringView text, int position) {
+  return splitsPair(text, position + 1) ? position + 2 : position + 1;
+}
+
+}  // namespace
+
+StringView cutToLength(StringView text, int units) {
+  if (units >= static_cast<int>(text.size())) return text;
+  return text.substr(0, static_cast<std::size_t>(splitsPair(text, units) ? units - 1 : units));
+}
 
 TextEntry::TextEntry(Form& form, const ControlDesign& design, int tabIndex)
     : Control(form, design, tabIndex), text_(design.text) {}
@@ -52,6 +77,7 @@ void TextEntry::userSelected(int selStart, int selLength) {
 }
 
 void TextEntry::userPasted(StringView text) {
+  if (text.empty()) return;
   // A one-line field takes the lines of a text as words of one line.
   String line;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -64,7 +90,7 @@ void TextEntry::userPasted(StringView text) {
 void TextEntry::replaceSelection(StringView text) {
   if (lengthLimit_ > 0) {
     const int room = std::max(0, lengthLimit_ - (static_cast<int>(text_.size()) - selLength_));
-    text = text.substr(0, static_cast<std::size_t>(room));
+    text = cutToLength(text, room);
   }
   String edited = text_;
   edited.replace(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_), text);
@@ -104,16 +130,17 @@ bool TextEntry::ownControlKey(const KeyStroke& stroke) {
 }
 
 bool TextEntry::ownKey(const KeyStroke& stroke) {
+  const char16_t firstHalf = std::exchange(firstHalf_, u'\0');
   if ((stroke.shift & shift::Ctrl) != 0 && ownControlKey(stroke)) return true;
   const bool extend = (stroke.shift & shift::Shift) != 0;
   const bool collapse = selLength_ > 0 && !extend;
   const int caret = caretAtStart_ ? selStart_ : selStart_ + selLength_;
   switch (stroke.code) {
     case key::Left:
-      moveCaret(collapse ? selStart_ : caret - 1, extend);
+      moveCaret(collapse ? selStart_ : before(text_, caret), extend);
       return true;
     case key::Right:
-      moveCaret(collapse ? selStart_ + selLength_ : caret + 1, extend);
+      moveCaret(collapse ? selStart_ + selLength_ : behind(text_, caret), extend);
       return true;
     case key::Home:
       moveCaret(0, extend);
@@ -122,18 +149,27 @@ bool TextEntry::ownKey(const KeyStroke& stroke) {
       moveCaret(static_cast<int>(text_.size()), extend);
       return true;
     case key::Delete:
-      if (selLength_ == 0) userSelected(selStart_, 1);
+      if (selLength_ == 0) userSelected(selStart_, behind(text_, selStart_) - selStart_);
       replaceSelection(u"");
       return true;
     case key::Backspace:
-      if (selLength_ == 0 && selStart_ > 0) userSelected(selStart_ - 1, 1);
+      if (selLength_ == 0 && selStart_ > 0) {
+        const int start = before(text_, selStart_);
+        userSelected(start, selStart_ - start);
+      }
       replaceSelection(u"");
       return true;
     default:
       break;
   }
   if (stroke.character < u' ' || stroke.character == u'\x7f') return false;
-  replaceSelection(StringView(&stroke.character, 1));
+  if (unicode::isHighSurrogate(stroke.character)) {
+    firstHalf_ = stroke.character;
+  } else if (!unicode::isLowSurrogate(stroke.character)) {
+    replaceSelection(StringView(&stroke.character, 1));
+  } else if (firstHalf != u'\0') {
+    replaceSelection(String{firstHalf, stroke.character});
+  }
   return true;
 }
 

@@ -12,6 +12,9 @@
 
 namespace zqn {
 
+/// The front of a text, at most so many units, and never half a character.
+StringView cutToLength(StringView text, int units);
+
 class TextEntry : public Control {
  public:
   const String& Text() const noexcept { return text_; }
@@ -31,6 +34,8 @@ class TextEntry : public Control {
   int lengthLimit() const noexcept { return lengthLimit_; }
   /// A person's edit may lead to this text; one that does not changes nothing.
   virtual bool accepts(StringView) const { return true; }
+  /// What a typed character stands for in this field.
+  virtual char16_t typedAs(char16_t character) const { return character; }
   /// A person has edited: the whole text as it is now. Raises Change when it differs.
   void userEdited(StringView text, int selStart, int selLength);
   /// A person has moved the caret or the selection.
@@ -62,6 +67,8 @@ class TextEntry : public Control {
   int selLength_ = 0;
   /// The end of the selection that arrow keys with Shift move.
   bool caretAtStart_ = false;
+  /// The first unit of a character that comes as two key strokes; 0 for none.
+  char16_t firstHalf_ = u'\0';
 };
 
 }  // namespace zqn

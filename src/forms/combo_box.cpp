@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "forms/combo_box.h"
+
+#include <algorithm>
+
+#include "forms/names.h"
+#include "runtime/convert.h"
+#include "runtime/locale.h"
+
+namespace zqn {
+
+ComboBox::ComboBox(Form& form, const ControlDesign& design, int tabIndex) : Control(form, design, tabIndex) {}
+
+const String& ComboBox::List(int index) const noexcept {
+  static const String none;
+  return index >= 0 && index < ListCount() ? entries_[static_cast<std::size_t>(index)] : none;
+}
+
+void ComboBox::ListIndex(int index) {
+  if (index < -1 || index >= ListCount()) throw RuntimeError(error::InvalidPropertyValue);
+  if (listIndex_ == index) return;
+  listIndex_ = index;
+  changed();
+  Click.raise();
+}
+
+void ComboBox::Text(StringView text) {
+  const auto found =
+      std::ranges::find_if(entries_, [&](const String& entry) { return sameName(entry, text); });
+  if (found == entries_.end()) throw RuntimeError(error::PropertyIsReadOnly);
+  ListIndex(static_cast<int>(found - entries_.begin()));
+}
+
+void ComboBox::Clear() {
+  entries_.clear();
+  listIndex_ = -1;
+  changed();
+}
+
+void ComboBox::AddItem(StringView text) {
+  entries_.emplace_back(text);
+  changed();
+}
+
+void ComboBox::userChose(int index) {
+  if (index >= 0 && index < ListCount()) ListIndex(index);
+}
+
+bool ComboBox::ownKey(const KeyStroke& stroke) {
+  if ((stroke.shift & (shift::Ctrl | shift::Alt)) != 0) return false;
+  const int last = ListCount() - 1;
+  switch (stroke.code) {
+    case key::Up:
+      userChose(std::max(listIndex_ - 1, 0));
+      return true;
+    case key::Down:
+      userChose(std::min(listIndex_ + 1, last));
+      return true;
+    case key::Home:
+    case key::PageUp:
+      userChose(0);
+      return true;
+    case key::End:
+    case key::PageDown:
+      userChose(last);
+      return true;
+    default:
+      return stroke.character > u' ' && chooseByLetter(stroke.character);
+  }
+}
+
+bool ComboBox::chooseByLetter(char16_t letter) {
+  for (int step = 1; step <= ListCount(); ++step) {
+    const int index = (std::max(listIndex_, -1) + step) % ListCount();
+    const String& entry = List(index);
+    if (entry.empty() || upperUnit(entry.front()) != upperUnit(letter)) continue;
+    userChose(index);
+    return true;
+  }
+  return true;
+}
+
+const PropertyEntry* ComboBox::findProperty(StringView name) const {
+  static constexpr auto combo = [](const Control& c) -> const ComboBox& {
+    return static_cast<const ComboBox&>(c);
+  };
+  static constexpr PropertyEntry entries[] = {
+      {u"Text", [](const Control& c) { return Variant(combo(c).Text()); },
+       [](Control& c, const Variant& value) { static_cast<ComboBox&>(c).Text(CStr(value)); }},
+      {u"ListIndex", [](const Control& c) { return Variant(std::int32_t{combo(c).ListIndex()}); },
+       [](Control& c, const Variant& value) { static_cast<ComboBox&>(c).ListIndex(CLng(value)); }},
+      {u"ListCount", [](const Control& c) { return Variant(std::int32_t{combo(c).ListCount()}); }, nullptr},
+  };
+  const PropertyEntry* entry = findIn(entries, name);
+  return entry != nullptr ? entry : Control::findProperty(name);
+}
+
+}  // namespace zqn

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "forms/control_kinds.h"
+
+#include <algorithm>
+
+#include "forms/check_box.h"
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/tdb_date.h"
+#include "forms/tdb_list.h"
+#include "forms/tdb_number.h"
+#include "forms/text_box.h"
+#include "forms/toggle_button.h"
+
+namespace zqn {
+
+namespace {
+
+template <class C>
+std::unique_ptr<Control> make(Form& form, const ControlDesign& design, int tabIndex) {
+  return std::make_unique<C>(form, design, tabIndex);
+}
+
+struct Kind {
+  ControlKind kind;
+  StringView name;
+  std::unique_ptr<Control> (*make)(Form&, const ControlDesign&, int);
+};
+
+constexpr Kind kinds[] = {
+    {ControlKind::CheckBox, u"CheckBox", make<CheckBox>},
+    {ControlKind::ComboBox, u"ComboBox", make<ComboBox>},
+    {ControlKind::CommandButton, u"CommandButton", make<CommandButton>},
+    {ControlKind::Frame, u"Frame", make<Frame>},
+    {ControlKind::Label, u"Label", make<Label>},
+    {ControlKind::TDBDate, u"TDBDate", make<TDBDate>},
+    {ControlKind::TDBList, u"TDBList", make<TDBList>},
+    {ControlKind::TDBNumber, u"TDBNumber", make<TDBNumber>},
+    {ControlKind::TextBox, u"TextBox", make<TextBox>},
+    {ControlKind::ToggleButton, u"ToggleButton", make<ToggleButton>},
+};
+
+const Kind& row(ControlKind kind) noexcept { return *std::ranges::find(kinds, kind, &Kind::kind); }
+
+}  // namespace
+
+StringView kindName(ControlKind kind) noexcept { return row(kind).name; }
+
+std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& design, int tabIndex) {
+  return row(design.kind).make(form, design, tabIndex);
+}
+
+}  // namespace zqn

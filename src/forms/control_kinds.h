@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+//
+// Every kind of control, one row each: its name in rosters and dumps, and how one is made. A new kind starts
+// here.
+#pragma once
+
+#include <memory>
+
+#include "forms/control.h"
+
+namespace zqn {
+
+/// A control as its row of the roster describes it.
+std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& design, int tabIndex);
+
+}  // namespace zqn

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+#include "desktop/qt/accessible_names.h"
+#include "desktop/qt/control_input.h"
+#include "desktop/qt/control_widgets.h"
+#include "desktop/qt/key_events.h"
+#include "desktop/qt/scale.h"
+#include "desktop/qt/shield.h"
+#include "desktop/qt/text.h"
+
+namespace zqn::qt {
+
+namespace {
+
+/// Counts how deep code stands in something.
+class Within {
+ public:
+  explicit Within(int& depth) noexcept : depth_(depth) { ++depth_; }
+  ~Within() { --depth_; }
+  Within(const Within&) = delete;
+  Within& operator=(const Within&) = delete;
+
+ private:
+  int& depth_;
+};
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+  setObjectName(toQt(form.Name()));
+  setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
+  setModal(true);
+  widgets_.resize(form.controls().size(), nullptr);
+  for (const auto& control : form.controls()) makeWidget(*control);
+  for (ControlWidget* each : widgets_) {
+    inputs_.push_back(std::make_unique<ControlInput>(*this, *each));
+    // A label stands below what can be entered, wherever the two meet.
+    if (!each->control().takesFocus()) each->widget().lower();
+  }
+  sync();
+}
+
+FormWindow::~FormWindow() = default;
+
+QWidget& FormWindow::makeWidget(Control& control) {
+  ControlWidget*& place = widgets_[static_cast<std::size_t>(control.TabIndex())];
+  if (place == nullptr) {
+    Control* const container = control.container();
+    place = makeControlWidget(control, container != nullptr ? makeWidget(*container) : *this);
+  }
+  return place->widget();
+}
+
+ControlWidget* FormWindow::widgetOf(const Control& control) const noexcept {
+  return &control.form() == &form_ ? widgets_[static_cast<std::size_t>(control.TabIndex())] : nullptr;
+}
+
+void FormWindow::sync() {
+  formChanged();
+  for (ControlWidget* each : widgets_) each->sync();
+  nameControls();
+}
+
+void FormWindow::nameControls() {
+  for (const ControlWidget* each : widgets_) {
+    const QString name = accessibleNameOf(each->control());
+    if (each->widget().accessibleName() != name) each->widget().setAccessibleName(name);
+  }
+}
+
+QString FormWindow::differences() const {
+  QStringList lines;
+  if (windowTitle() != toQt(form_.Caption()))
+    lines += QStringLiteral("the window's title is \"%1\"").arg(windowTitle());
+  if (size() != Scale(*this).size(form_.ScaleWidth(), form_.ScaleHeight()))
+    lines += QStringLiteral("the window is %1 by %2 pixels").arg(width()).arg(height());
+  for (const ControlWidget* each : widgets_) {
+    const QString difference = each->shows();
+    if (!difference.isEmpty()) lines += difference;
+  }
+  const Control* const active = form_.ActiveControl();
+  const QWidget* const wanted = active != nullptr ? &widgetOf(*active)->widget() : nullptr;
+  const QWidget* const focused = focusWidget() == this ? nullptr : focusWidget();
+  if (form_.Visible() && focused != wanted)
+    lines += QStringLiteral("the focus is on \"%1\", not on \"%2\"")
+                 .arg(focused != nullptr ? focused->objectName() : QString(),
+                      wanted != nullptr ? wanted->objectName() : QString());
+  return lines.join(QLatin1Char('\n'));
+}
+
+// ---- FormView
+
+void FormWindow::controlChanged(Control& control) {
+  ControlWidget* const changed = widgetOf(control);
+  {
+    // Qt moves the focus away from what is disabled or hidden; the form decides where it goes.
+    const Within placing(placing_);
+    changed->sync();
+  }
+  if (!control.takesFocus()) nameControls();
+  placeFocus();
+}
+
+void FormWindow::formChanged() {
+  if (windowTitle() != toQt(form_.Caption())) setWindowTitle(toQt(form_.Caption()));
+  const QSize wanted = Scale(*this).size(form_.ScaleWidth(), form_.ScaleHeight());
+  if (size() != wanted || minimumSize() != wanted || maximumSize() != wanted) setFixedSize(wanted);
+}
+
+void FormWindow::focusChanged() {
+  placeFocus();
+  // A field drops its selection when it loses the focus; the model keeps it.
+  if (Control* active = form_.ActiveControl()) widgetOf(*active)->sync();
+}
+
+void FormWindow::placeFocus() {
+  if (!form_.Visible()) return;
+  const Within placing(placing_);
+  Control* const active = form_.ActiveControl();
+  QWidget* const wanted = active != nullptr ? &widgetOf(*active)->widget() : this;
+  if (focusWidget() != wanted) wanted->setFocus(Qt::OtherFocusReason);
+}
+
+// ---- input
+
+bool FormWindow::keyPressed(QKeyEvent& event) {
+  const std::optional<KeyStroke> stroke = strokeOf(event);
+  if (!stroke) return false;
+  shielded(form_, u"KeyDown", [&] {
+    const KeyOutcome outcome = form_.keyPressed(*stroke);
+    if (!outcome.own) return;
+    const bool asTyped = outcome.stroke.code == stroke->code && outcome.stroke.character == stroke->character;
+    widgetOf(*form_.ActiveControl())->ownKey(event, outcome.stroke, asTyped);
+  });
+  // Whatever a native edit made of it: the key has been here and goes nowhere else.
+  event.accept();
+  return true;
+}
+
+bool FormWindow::keyReleased(QKeyEvent& event) {
+  const std::optional<KeyStroke> stroke = strokeOf(event);
+  if (!stroke) return false;
+  event.accept();
+  // A key that is held comes as presses alone.
+  if (!event.isAutoRepeat())
+    shielded(form_, u"KeyUp", [&] { form_.keyReleased(stroke->code, stroke->shift); });
+  return true;
+}
+
+void FormWindow::reject() { close(); }
+
+bool FormWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    event->accept();
+    return true;
+  }
+  return QDialog::event(event);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  // The desktop takes the window away once the form is unloaded.
+  event->ignore();
+  shielded(form_, u"QueryUnload", [this] { form_.closeBox(); });
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (event->spontaneous()) return;
+  const auto redraw = [this] { sync(); };
+  connect(windowHandle(), &QWindow::screenChanged, this, [this, redraw](QScreen* screen) {
+    redraw();
+    connect(screen, &QScreen::logicalDotsPerInchChanged, this, redraw);
+  });
+  connect(screen(), &QScreen::logicalDotsPerInchChanged, this, redraw);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) { keyPressed(*event); }
+
+void FormWindow::keyReleaseEvent(QKeyEvent* event) { keyReleased(*event); }
+
+bool FormWindow::focusNextPrevChild(bool) { return false; }
+
+}  // namespace zqn::qt

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/qt/text_entry.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QValidator>
+#include <algorithm>
+#include <climits>
+
+#include "desktop/qt/key_events.h"
+#include "desktop/qt/shield.h"
+#include "desktop/qt/text.h"
+#include "forms/form.h"
+
+namespace zqn::qt {
+
+namespace {
+
+/// Line breaks become blanks, CR LF one of them.
+QString joined(QString text) {
+  text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+  text.replace(QLatin1Char('\r'), QLatin1Char(' '));
+  text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+  return text;
+}
+
+/// Refuses an edit that the model does not accept, and Qt takes it back.
+class ModelValidator : public QValidator {
+ public:
+  ModelValidator(const zqn::TextEntry& model, QObject* parent) : QValidator(parent), model_(model) {}
+  State validate(QString& text, int&) const override {
+    return model_.accepts(fromQt(text)) ? Acceptable : Invalid;
+  }
+
+ private:
+  const zqn::TextEntry& model_;
+};
+
+}  // namespace
+
+TextEntry::TextEntry(zqn::TextEntry& model, QWidget* parent)
+    : QLineEdit(parent),
+      ControlWidget(model, *this, {QPalette::Base, QPalette::Text, colour::WindowBackground}),
+      model_(model) {
+  setAcceptDrops(false);
+  setValidator(new ModelValidator(model, this));
+  const auto changed = [this] { report(); };
+  connect(this, &QLineEdit::textChanged, this, changed);
+  connect(this, &QLineEdit::selectionChanged, this, changed);
+  connect(this, &QLineEdit::cursorPositionChanged, this, changed);
+}
+
+TextEntry::~TextEntry() = default;
+
+void TextEntry::draw() {
+  const QString wanted = toQt(model_.Text());
+  const int size = static_cast<int>(wanted.size());
+  // A text that is longer than the limit stays; it can become shorter only.
+  const int longest = model_.lengthLimit() > 0 ? std::max(model_.lengthLimit(), size) : INT_MAX;
+  if (maxLength() < longest) setMaxLength(longest);
+  if (text() != wanted) setText(wanted);
+  if (maxLength() != longest) setMaxLength(longest);
+  if (shownSelStart() == model_.SelStart() && shownSelLength() == model_.SelLength()) return;
+  if (model_.SelLength() > 0) {
+    setSelection(model_.SelStart(), model_.SelLength());
+  } else {
+    setCursorPosition(model_.SelStart());
+    deselect();
+  }
+}
+
+void TextEntry::compare(Differences& found) const {
+  found.expect("Text", text(), toQt(model_.Text()));
+  // Without the focus a field shows no selection.
+  if (model_.form().ActiveControl() != &model_) return;
+  found.expect("SelStart", shownSelStart(), model_.SelStart());
+  found.expect("SelLength", shownSelLength(), model_.SelLength());
+}
+
+// ---- native editing
+
+void TextEntry::edit(const std::function<void()>& natively) {
+  ++editing_;
+  natively();
+  --editing_;
+  report();
+}
+
+void TextEntry::report() {
+  if (isDrawing() || editing_ > 0) return;
+  joinLines();
+  shielded(model_, u"Change", [this] {
+    const QString now = text();
+    if (fromQt(now) != model_.Text()) {
+      model_.userEdited(fromQt(now), shownSelStart(), shownSelLength());
+    } else if (hasFocus()) {
+      // A field without the focus drops its selection by itself; the model keeps it.
+      model_.userSelected(shownSelStart(), shownSelLength());
+    }
+  });
+}
+
+void TextEntry::joinLines() {
+  const QString plain = joined(text());
+  if (plain == text()) return;
+  const auto caret = joined(text().left(cursorPosition())).size();
+  ++editing_;
+  selectAll();
+  insert(plain);  // one step that can be undone
+  setCursorPosition(static_cast<int>(caret));
+  --editing_;
+}
+
+void TextEntry::pasteLine() { insert(joined(QGuiApplication::clipboard()->text())); }
+
+void TextEntry::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
+  edit([&] {
+    if (event.matches(QKeySequence::Paste)) {
+      pasteLine();
+    } else if (asTyped) {
+      QLineEdit::keyPressEvent(&event);
+    } else {
+      QKeyEvent other = eventOf(stroke, QEvent::KeyPress);
+      QLineEdit::keyPressEvent(&other);
+    }
+  });
+}
+
+void TextEntry::inputMethodEvent(QInputMethodEvent* event) {
+  // What is committed as one character is a key press like any other.
+  const QString committed = event->commitString();
+  QString left = committed;
+  if (committed.size() == 1) {
+    shielded(model_, u"KeyPress", [&] {
+      const KeyOutcome outcome = model_.form().keyPressed(KeyStroke::ofCharacter(committed.at(0).unicode()));
+      left =
+          outcome.own && outcome.stroke.character != 0 ? QString(QChar(outcome.stroke.character)) : QString();
+    });
+  }
+  event->setCommitString(left, event->replacementStart(), event->replacementLength());
+  edit([&] { QLineEdit::inputMethodEvent(event); });
+}
+
+bool TextEntry::pressed(const QMouseEvent&, bool focusCame) { return focusCame && model_.SelLength() > 0; }
+
+void TextEntry::focusOutEvent(QFocusEvent* event) {
+  const Drawing drawing(*this);
+  QLineEdit::focusOutEvent(event);
+}
+
+void TextEntry::contextMenuEvent(QContextMenuEvent* event) {
+  const auto add = [this](const char16_t* words, bool enabled, auto act) {
+    menu_->addAction(QString::fromUtf16(words), this, act)->setEnabled(enabled);
+  };
+  const bool writable = isEnabled() && !isReadOnly();
+  const bool selected = hasSelectedText();
+  menu_ = std::make_unique<QMenu>(this);
+  add(u"Rückgängig", writable && isUndoAvailable(), &QLineEdit::undo);
+  add(u"Wiederherstellen", writable && isRedoAvailable(), &QLineEdit::redo);
+  menu_->addSeparator();
+  add(u"Ausschneiden", writable && selected, &QLineEdit::cut);
+  add(u"Kopieren", selected, &QLineEdit::copy);
+  add(u"Einfügen", writable && !QGuiApplication::clipboard()->text().isEmpty(), &TextEntry::pasteLine);
+  add(u"Löschen", writable && selected, &QLineEdit::del);
+  menu_->addSeparator();
+  add(u"Alles auswählen", !text().isEmpty(), &QLineEdit::selectAll);
+  menu_->popup(event->globalPos());
+  event->accept();
+}
+
+}  // namespace zqn::qt

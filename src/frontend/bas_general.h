@@ -63,7 +63,7 @@ struct PrintMarks {
   /// trace.
   using Mark = std::optional<bool>;
   Mark AN{}, AB{}, LS{}, RG{}, GS{};  // "N", "B", "L", "R", "G": the sales side
-  Mark AF{}, BS{}, LM{};          // "A", "E", "M": the purchase side
+  Mark AF{}, BS{}, LM{};              // "A", "E", "M": the purchase side
   bool operator==(const PrintMarks&) const = default;
 };
 

@@ -33,14 +33,9 @@ struct KindInfo {
 std::span<const KindInfo> dialogKinds() noexcept;
 /// The kind of a number; nullptr outside 1 to 37.
 const KindInfo* findKind(std::int32_t number) noexcept;
-/// Show opens a form for this number.
+/// Show opens a form with its catalogue for this number: the library has it.
 bool isOffered(std::int32_t number) noexcept;
-
-/// A form of this library, for checks that run on every one of them.
-struct RegisteredForm {
-  const char16_t* name;
-  std::unique_ptr<Form> (*make)();
-};
-std::span<const RegisteredForm> registeredForms() noexcept;
+/// The form of an offered kind as it stands before it is filled, for checks that run on every form.
+std::unique_ptr<Form> makeForm(std::int32_t number);
 
 }  // namespace zqn

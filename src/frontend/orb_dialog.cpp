@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "frontend/orb_dialog.h"
 
-#include <array>
+#include <algorithm>
 
 #include "catalogues/vertriebsstati.h"
+#include "definitions/definitions.h"
+#include "dialog/frm_dialog.h"
 #include "frontend/bas_basis.h"
 #include "frontend/kinds.h"
 #include "runtime/convert.h"
@@ -11,10 +13,10 @@
 
 namespace zqn {
 
-/// The road of a dedicated form through Show. Every statement stands by itself: one that fails is skipped.
-class DedicatedShow {
+/// The road of a form through Show. Every statement stands by itself: one that fails is skipped.
+class ShowSteps {
  public:
-  DedicatedShow(ORBDialog& dialog, VariantArray& param) : dialog_(dialog), param_(param) {}
+  ShowSteps(ORBDialog& dialog, VariantArray& param) : dialog_(dialog), param_(param) {}
 
   /// A catalogue that takes Connection, Multiselect and a key, gives the key back, and reports picks to the
   /// host.
@@ -34,6 +36,21 @@ class DedicatedShow {
     return returned;
   }
 
+  /// The generic form. All of Init is one statement: when it fails the form stands empty.
+  Variant generic(std::int32_t kind) {
+    ResumeNext step;
+    std::unique_ptr<frmDialog> form;
+    Variant returned;
+    step([&] { form = std::make_unique<frmDialog>(); });
+    step([&] { form->DblClick = [this](const Variant& Result) { reported(Result); }; });
+    step([&] { form->Init(dialog_.Connection(), param_.at(0), kind); });
+    step([&] { form->Multiselect = dialog_.Multiselect(); });
+    step([&] { form->ShowData(); });
+    step([&] { param_.at(0) = form->Key(); });
+    step([&] { returned = form->Key(); });
+    return returned;
+  }
+
  private:
   void reported(const Variant& Result) {
     ResumeNext step;
@@ -47,11 +64,11 @@ class DedicatedShow {
 
 namespace {
 
-/// What Show opens, and how. A kind gets its form by one row here.
+/// The kinds with a form of their own. Such a kind gets its form by one row here.
 struct Dispatch {
   std::int32_t kind;
-  Variant (DedicatedShow::*show)();
-  RegisteredForm form;
+  Variant (ShowSteps::*show)();
+  std::unique_ptr<Form> (*make)();
 };
 
 template <class F>
@@ -59,29 +76,31 @@ std::unique_ptr<Form> make() {
   return std::make_unique<F>();
 }
 
-constexpr std::array dispatch{
-    Dispatch{
-        21, &DedicatedShow::catalogue<frmVertriebsstati>, {u"frmVertriebsstati", make<frmVertriebsstati>}},
+constexpr Dispatch dispatch[] = {
+    {21, &ShowSteps::catalogue<frmVertriebsstati>, make<frmVertriebsstati>},
 };
 
 const Dispatch* findDispatch(std::int32_t kind) noexcept {
-  for (const Dispatch& row : dispatch) {
-    if (row.kind == kind) return &row;
-  }
-  return nullptr;
+  const Dispatch* row = std::ranges::find(dispatch, kind, &Dispatch::kind);
+  return row != std::end(dispatch) ? row : nullptr;
+}
+
+bool isDedicated(std::int32_t kind) noexcept {
+  const KindInfo* info = findKind(kind);
+  return info != nullptr && info->server == KindServer::Dedicated;
 }
 
 }  // namespace
 
-bool isOffered(std::int32_t number) noexcept { return findDispatch(number) != nullptr; }
+bool isOffered(std::int32_t number) noexcept {
+  return findDispatch(number) != nullptr || (!isDedicated(number) && hasDefinition(number));
+}
 
-std::span<const RegisteredForm> registeredForms() noexcept {
-  static constexpr auto forms = [] {
-    std::array<RegisteredForm, dispatch.size()> all{};
-    for (std::size_t i = 0; i < dispatch.size(); ++i) all[i] = dispatch[i].form;
-    return all;
-  }();
-  return forms;
+std::unique_ptr<Form> makeForm(std::int32_t number) {
+  if (const Dispatch* row = findDispatch(number)) return row->make();
+  auto generic = std::make_unique<frmDialog>();
+  generic->Init(nothing, u"", number);
+  return generic;
 }
 
 void ORBDialog::Session(Ref<zqn::Session> session) {
@@ -91,10 +110,15 @@ void ORBDialog::Session(Ref<zqn::Session> session) {
 
 Variant ORBDialog::Show(std::int32_t zqnDataType, VariantArray& Param) {
   evaluateAccess(zqnDataType);
-  const Dispatch* row = findDispatch(zqnDataType);
-  if (row == nullptr) return {};
-  DedicatedShow show(*this, Param);
-  return (show.*row->show)();
+  ShowSteps steps(*this, Param);
+  if (const Dispatch* row = findDispatch(zqnDataType)) return (steps.*row->show)();
+  if (isDedicated(zqnDataType)) return {};
+  return steps.generic(zqnDataType);
+}
+
+Variant ORBDialog::ShowGeneric(std::int32_t zqnDataType, VariantArray& Param) {
+  evaluateAccess(zqnDataType);
+  return ShowSteps(*this, Param).generic(zqnDataType);
 }
 
 void ORBDialog::evaluateAccess(std::int32_t kind) {

@@ -51,6 +51,9 @@ class ORBDialog : private EventOwner {
   /// when there is none. No run-time error leaves it: a statement that fails is skipped.
   Variant Show(std::int32_t zqnDataType, VariantArray& Param);
 
+  /// The same on the generic form, also for a kind that Show serves with a form of its own.
+  Variant ShowGeneric(std::int32_t zqnDataType, VariantArray& Param);
+
   /// A pick in a dialog that runs with Multiselect, raised while Show has not returned. `Result` holds the
   /// same value by then.
   Event<const Variant&> DblClick{*this, u"DblClick"};

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "definitions/zahlungsbedingungen.h"
+
+#include "ado/command.h"
+#include "frontend/bas_basis.h"
+#include "frontend/bas_general.h"
+#include "runtime/convert.h"
+#include "runtime/resume_next.h"
+
+namespace zqn {
+
+using ado::sql::value;
+using basBasis::NullToValue;
+
+// The order in which the columns are read and written.
+const clsZahlungsbedingungen::NumberField clsZahlungsbedingungen::numberFields[7] = {
+    {u"SkontoTage1", &BasisControls::tdbnSkTage1},     {u"SkontoTage2", &BasisControls::tdbnSkTage2},
+    {u"SkontoTage3", &BasisControls::tdbnSkTage3},     {u"NettoTage", &BasisControls::tdbnNettoTage},
+    {u"SkontoProzent1", &BasisControls::tdbnPercent1}, {u"SkontoProzent2", &BasisControls::tdbnPercent2},
+    {u"SkontoProzent3", &BasisControls::tdbnPercent3},
+};
+
+void clsZahlungsbedingungen::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
+  basBasis::SetConnection(Connection);
+  BasisControls& c = controls();
+  show({&c.tdblShow(),      &c.cmdCancel(),   &c.cmdOK(),        &c.cmdNew(),       &c.cmdDelete(),
+        &c.lblKey(),        &c.txtKey(),      &c.lblKeyText(),   &c.txtKeyText(),   &c.lblSkonto(),
+        &c.lblSk1(),        &c.lblSk2(),      &c.lblSk3(),       &c.lblSkTage1(),   &c.lblSkTage2(),
+        &c.lblSkTage3(),    &c.tdbnSkTage1(), &c.tdbnSkTage2(),  &c.tdbnSkTage3(),  &c.lblPercent1(),
+        &c.lblPercent2(),   &c.lblPercent3(), &c.tdbnPercent1(), &c.tdbnPercent2(), &c.tdbnPercent3(),
+        &c.tdbnNettoTage(), &c.lblNetto(),    &c.lblNettoTage()});
+  c.txtKey().MaxLength(3);
+  c.txtKeyText().Enabled(false);
+  c.txtKeyText().BackColor(colour::ButtonFace);
+  c.frmDialog().Caption(u"Zahlungsbedingungen bearbeiten");
+  c.lblKey().Caption(u"Schlüssel");
+  c.lblKeyText().Caption(u"Kurztext:");
+  c.txtKeyText().Top(3900);
+  c.lblKeyText().Top(3930);
+  c.lblKeyText().Left(120);
+  placeButtons(4440);
+  m_objBasis.Init(Key, Connection);
+}
+
+void clsZahlungsbedingungen::ReadData(ado::Recordset& Recordset) {
+  BasisControls& c = controls();
+  c.txtKey().Text(NullToValue(Recordset.Fields(u"ZahlBedSchl").Value(), u""));
+  for (const NumberField& field : numberFields) {
+    (c.*field.control)().Value(NullToValue(Recordset.Fields(field.column).Value(), std::int32_t{0}));
+  }
+  // Last: the numbers have rebuilt the sentence, and what is stored goes over it.
+  c.txtKeyText().Text(NullToValue(Recordset.Fields(u"Kurztext").Value(), u""));
+}
+
+void clsZahlungsbedingungen::WriteData() {
+  ResumeNext step;
+  BasisControls& c = controls();
+  Ref<ado::Recordset> rs;
+  step([&] { rs = GetRecordsetForReadWrite(); });
+  if (step.test([&] { return rs->IsEOF(); })) {
+    step([&] { rs->AddNew(); });
+    step([&] { rs->Fields(u"ZahlBedSchl").Value(c.txtKey().Text()); });
+  }
+  step([&] { rs->Fields(u"Kurztext").Value(c.txtKeyText().Text()); });
+  for (const NumberField& field : numberFields) {
+    step([&] { rs->Fields(field.column).Value((c.*field.control)().Value()); });
+  }
+  step([&] { rs->Update(); });
+  step([&] { rs->Close(); });
+}
+
+void clsZahlungsbedingungen::DeleteData() {
+  ResumeNext step;
+  ado::Command command;
+  step([&] { command.ActiveConnection(basBasis::GetConnection()); });
+  step([&] { command.CommandType(ado::adCmdText); });
+  step([&] {
+    // The row that is marked in the list, whatever stands in the key field.
+    command.CommandText(u"Delete From Zahlungsbedingungen WHERE ZahlBedSchl = " +
+                        value(controls().tdblShow().Columns(0).Value()));
+  });
+  step([&] { command.Execute(); });
+}
+
+Ref<ado::Recordset> clsZahlungsbedingungen::GetRecordsetForShow() {
+  return basGeneral::GetRecordset(u"Zahlungsbedingungen", u"ZahlbedSchl, Kurztext", {}, u"ZahlBedSchl",
+                                  ado::adLockReadOnly);
+}
+
+Ref<ado::Recordset> clsZahlungsbedingungen::GetRecordsetForReadWrite() {
+  return basGeneral::GetRecordset(u"Zahlungsbedingungen", u"*",
+                                  u"ZahlBedSchl = " + value(controls().txtKey().Text()), u"",
+                                  ado::adLockOptimistic);
+}
+
+ado::sql::Text clsZahlungsbedingungen::FindCriteria() {
+  return u"ZahlBedSchl=" + value(controls().txtKey().Text());
+}
+
+}  // namespace zqn

@@ -180,8 +180,10 @@ std::optional<PlainSelect> plainSelect(StringView statement) {
 
   PlainSelect select;
   const std::size_t list = begin(token);
-  for (; !(token.depth == 0 && token.is(u"FROM")); token = scanner.next()) {
-    if (token.kind == Kind::End || isOneOf(token, aggregates)) return {};
+  for (Token before; !(token.depth == 0 && token.is(u"FROM")); before = token, token = scanner.next()) {
+    const bool aggregate = token.isSymbol(u"(") && isOneOf(before, aggregates);
+    const bool window = token.is(u"OVER") && before.isSymbol(u")");
+    if (token.kind == Kind::End || aggregate || window) return {};
   }
   select.list = statement.substr(list, begin(token) - list);
 

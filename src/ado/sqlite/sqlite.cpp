@@ -43,6 +43,13 @@ class SqliteProvider : public Provider {
   throw RuntimeError(number, u"\"" + path.u16string() + u"\" " + String(rest), sqlite::SourceName);
 }
 
+[[noreturn]] void refuseUnwritable(const std::filesystem::path& path) {
+  refuse(
+      error::PermissionDenied, path,
+      u"can only be read. Give this user the right to write the file and its folder, where SQLite keeps the "
+      u"write-ahead log, or open it for reading only.");
+}
+
 void checkPath(const std::filesystem::path& path, Mode mode) {
   std::error_code ignored;
   if (std::filesystem::is_directory(path, ignored)) {
@@ -74,6 +81,8 @@ void checkPath(const std::filesystem::path& path, Mode mode) {
     case SQLITE_LOCKED:
       refuse(failure.number(), path,
              u"is in use by another program" + words + u"End that program, or try again later.");
+    case SQLITE_READONLY:
+      refuseUnwritable(path);
     default:
       refuse(failure.number(), path,
              u"cannot be read" + words +
@@ -103,9 +112,7 @@ bool prepareFile(const Database& database, const std::filesystem::path& path, Mo
     explain(database, failure, path);
   }
   if (mode != Mode::ReadOnly && sqlite3_db_readonly(database.get(), "main") == 1) {
-    refuse(error::PermissionDenied, path,
-           u"can only be read. Give this user the right to write the file and its folder, or open it for "
-           u"reading only.");
+    refuseUnwritable(path);
   }
   database.run("PRAGMA foreign_keys=ON");
   database.run("PRAGMA synchronous=FULL");

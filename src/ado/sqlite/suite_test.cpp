@@ -10,12 +10,7 @@ namespace {
 
 class SqliteContext : public Context {
  public:
-  Ref<Connection> connect() override {
-    auto connection = openSqlite(file_.path());
-    // No case pulls the plug, and waiting for the disk takes most of the time.
-    connection->Execute(u"PRAGMA synchronous=OFF");
-    return connection;
-  }
+  Ref<Connection> connect() override { return openSqlite(file_.path()); }
   String textColumn(int size) const override {
     return u"VARCHAR(" + fromUtf8(std::to_string(size)) + u") COLLATE ZQN_TEXT";
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// For tests: the path of a database file that is gone, with its companions, at the end of the scope.
+// For tests: the path of a database file that is gone, with its companions, at the end of the scope. It is in
+// memory where the system has room for files there.
 #pragma once
 
 #include <stdlib.h>
@@ -15,7 +16,10 @@ namespace zqn::ado::sqlite {
 class TemporaryFile {
  public:
   TemporaryFile() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "zqn-XXXXXX").string();
+    const std::filesystem::path memory = "/dev/shm";
+    const bool inMemory = std::filesystem::is_directory(memory);
+    std::string pattern =
+        ((inMemory ? memory : std::filesystem::temp_directory_path()) / "zqn-XXXXXX").string();
     folder_ = mkdtemp(pattern.data());
   }
   ~TemporaryFile() {

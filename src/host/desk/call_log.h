@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+//
+// What the desk's calls of Show came to: one entry a call, below it Param before and after, each DblClick as
+// it comes, the return value and Result.
+//
+//     CallLog::Call call = log->begin(21, u"Vertriebsstati", param);
+//     call.picked(key);      // while Show has not returned
+//     call.returned(outcome);
+#pragma once
+
+#include <QTreeWidget>
+#include <cstdint>
+
+#include "host/script/transcript_lines.h"
+#include "runtime/variant.h"
+
+namespace zqn::host {
+
+class CallLog : public QTreeWidget {
+ public:
+  explicit CallLog(QWidget* parent = nullptr);
+
+  /// One call that is going on.
+  class Call {
+   public:
+    void picked(const Variant& key);
+    void returned(const script::ShowOutcome& outcome);
+
+   private:
+    friend class CallLog;
+    explicit Call(QTreeWidgetItem* entry) : entry_(entry) {}
+    QTreeWidgetItem* entry_;
+  };
+
+  /// Values are written as JSON, so that a text "10" and a number 10 look different.
+  Call begin(std::int32_t kind, StringView title, const VariantArray& param);
+};
+
+}  // namespace zqn::host

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "host/desk/desk_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "desktop/qt/text.h"
+#include "frontend/kinds.h"
+#include "host/database.h"
+#include "host/desk/dialog_titles.h"
+#include "host/desk/settings_dialog.h"
+#include "host/show_command.h"
+
+namespace zqn::host {
+
+namespace {
+
+using qt::fromQt;
+using qt::toQt;
+
+const char* databaseFilter = "Datenbanken (*.sqlite *.db);;Alle Dateien (*)";
+
+StringView titleOf(std::int32_t kind) {
+  for (const DialogTitle& title : dialogTitles())
+    if (title.kind == kind) return title.title;
+  return {};
+}
+
+QString aboutText(const KindInfo& info) {
+  QStringList parts{QString("Art %1").arg(info.number), toQt(info.constant), toQt(info.form)};
+  if (*info.definition) parts += toQt(info.definition);
+  if (*info.tables) parts += "Tabellen: " + toQt(info.tables).replace(",", ", ");
+  return parts.join("  ·  ");
+}
+
+/// Where the program keeps the place of its window; the dialogs' settings are in the database.
+QSettings memory() { return QSettings("zqn-dialog", "desk"); }
+
+}  // namespace
+
+DeskWindow::DeskWindow(const HostOptions& options)
+    : options_(options),
+      host_(std::make_unique<Host>(options)),
+      splitter_(new QSplitter(this)),
+      list_(new DialogList),
+      log_(new CallLog),
+      databaseLabel_(new QLabel),
+      userLabel_(new QLabel) {
+  auto* right = new QSplitter(Qt::Vertical);
+  right->addWidget(makeDetails());
+  right->addWidget(log_);
+  right->setStretchFactor(1, 1);
+  right->setChildrenCollapsible(false);
+  splitter_->addWidget(list_);
+  splitter_->addWidget(right);
+  splitter_->setStretchFactor(1, 1);
+  splitter_->setChildrenCollapsible(false);
+  splitter_->setSizes({280, 520});
+  splitter_->setContentsMargins(8, 8, 8, 4);
+  setCentralWidget(splitter_);
+  statusBar()->addWidget(databaseLabel_, 1);
+  statusBar()->addPermanentWidget(userLabel_);
+  makeActions();
+
+  list_->opened = [this](std::int32_t kind) { open(kind); };
+  list_->marked = [this](std::int32_t kind) { showKind(kind); };
+  connect(openButton_, &QPushButton::clicked, this, [this] { open(list_->kind()); });
+
+  setWindowTitle("TALVEX Dialoge");
+  resize(860, 560);
+  QSettings remembered = memory();
+  restoreGeometry(remembered.value("geometry").toByteArray());
+  splitter_->restoreState(remembered.value("splitter").toByteArray());
+  showSession();
+  showKind(list_->kind());
+  list_->search();
+}
+
+QWidget* DeskWindow::makeDetails() {
+  auto* details = new QWidget;
+  auto* layout = new QVBoxLayout(details);
+  layout->setContentsMargins(8, 0, 0, 8);
+  title_ = new QLabel;
+  QFont large = title_->font();
+  large.setPointSizeF(large.pointSizeF() * 1.6);
+  large.setBold(true);
+  title_->setFont(large);
+  about_ = new QLabel;
+  about_->setWordWrap(true);
+  about_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  about_->setForegroundRole(QPalette::PlaceholderText);
+  multiselect_ = new QCheckBox("&Mehrfachauswahl (Multiselect)");
+  multiselect_->setChecked(options_.multiselect);
+  openButton_ = new QPushButton("Ö&ffnen");
+
+  layout->addWidget(title_);
+  layout->addWidget(about_);
+  layout->addSpacing(8);
+  fields_ = new QFormLayout;
+  layout->addLayout(fields_);
+  layout->addWidget(multiselect_);
+  layout->addWidget(openButton_, 0, Qt::AlignLeft);
+  layout->addStretch();
+  return details;
+}
+
+void DeskWindow::makeActions() {
+  const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto handler) {
+    QAction* action = menu->addAction(text);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, handler);
+    return action;
+  };
+  QMenu* database = menuBar()->addMenu("&Datenbank");
+  add(database, "Ö&ffnen…", QKeySequence("Ctrl+O"), [this] { pickDatabase(); });
+  add(database, "&Neu mit Beispieldaten…", QKeySequence("Ctrl+N"), [this] { createDatabase(); });
+  database->addSeparator();
+  add(database, "&Beenden", QKeySequence("Ctrl+Q"), [this] { close(); });
+
+  QMenu* session = menuBar()->addMenu("&Sitzung");
+  add(session, "&Benutzer…", QKeySequence("Ctrl+B"), [this] { changeUser(); });
+  adminAction_ = add(session, "Benutzer ist &Administrator", {}, [this](bool admin) {
+    host_->session().admin(admin);
+    showSession();
+  });
+  adminAction_->setCheckable(true);
+  add(session, "&Einstellungen…", QKeySequence("Ctrl+E"), [this] { changeSettings(); });
+
+  QMenu* view = menuBar()->addMenu("&Ansicht");
+  add(view, "Dialog &suchen", QKeySequence("Ctrl+F"), [this] { list_->search(); });
+  add(view, "Aufrufe &leeren", QKeySequence("Ctrl+L"), [this] {
+    if (!showing_) log_->clear();
+  });
+}
+
+void DeskWindow::showKind(std::int32_t kind) {
+  const KindInfo* info = findKind(kind);
+  openButton_->setEnabled(info != nullptr);
+  title_->setText(info ? toQt(titleOf(kind)) : "Kein Dialog gefunden");
+  about_->setText(info ? aboutText(*info) : QString());
+  while (fields_->rowCount() > 0) fields_->removeRow(0);
+  paramFields_.clear();
+  if (info == nullptr) return;
+  for (const StringView name : paramNames(kind)) {
+    auto* field = new QLineEdit;
+    connect(field, &QLineEdit::returnPressed, this, [this] { open(list_->kind()); });
+    fields_->addRow(toQt(name) + ":", field);
+    paramFields_.push_back(field);
+  }
+}
+
+VariantArray DeskWindow::param() const {
+  std::vector<Variant> elements;
+  for (const QLineEdit* field : paramFields_) elements.emplace_back(fromQt(field->text()));
+  return VariantArray(std::move(elements));
+}
+
+void DeskWindow::open(std::int32_t kind) {
+  if (kind == 0 || showing_) return;
+  ORBDialog dialog;
+  host_->equip(dialog);
+  dialog.Multiselect(multiselect_->isChecked());
+  CallLog::Call call = log_->begin(kind, titleOf(kind), param());
+  dialog.DblClick = [&](const Variant& key) { call.picked(key); };
+  showing_ = true;
+  call.returned(callShow(dialog, kind, param()));
+  showing_ = false;
+  activateWindow();
+}
+
+void DeskWindow::pickDatabase() {
+  const QString folder = QString::fromStdString(host_->file().parent_path().string());
+  const QString file = QFileDialog::getOpenFileName(this, "Datenbank öffnen", folder, databaseFilter);
+  if (!file.isEmpty()) useDatabase(file);
+}
+
+void DeskWindow::createDatabase() {
+  const QString folder = QString::fromStdString(host_->file().parent_path().string());
+  const QString file =
+      QFileDialog::getSaveFileName(this, "Neue Datenbank mit Beispieldaten", folder + "/beispiel.sqlite",
+                                   databaseFilter, nullptr, QFileDialog::DontConfirmOverwrite);
+  if (file.isEmpty()) return;
+  try {
+    createTables(file.toStdString(), {.sample = true});
+    useDatabase(file);
+  } catch (const CommandFailure& failure) {
+    QMessageBox::critical(
+        this, windowTitle(),
+        "Die Datenbank lässt sich nicht anlegen.\n\n" + QString::fromStdString(failure.what()));
+  }
+}
+
+void DeskWindow::useDatabase(const QString& file) {
+  HostOptions options = options_;
+  options.database = "sqlite:" + file.toStdString();
+  try {
+    auto opened = std::make_unique<Host>(options);
+    opened->session().user(host_->session().user());
+    opened->session().admin(host_->session().UserIsAdmin());
+    host_ = std::move(opened);
+    options_ = options;
+    showSession();
+  } catch (const CommandFailure& failure) {
+    QMessageBox::critical(
+        this, windowTitle(),
+        "Die Datenbank lässt sich nicht öffnen.\n\n" + QString::fromStdString(failure.what()));
+  }
+}
+
+void DeskWindow::changeUser() {
+  bool taken = false;
+  const QString name = QInputDialog::getText(this, "Benutzer", "Name des Benutzers:", QLineEdit::Normal,
+                                             toQt(host_->session().user()), &taken)
+                           .trimmed();
+  if (!taken || name.isEmpty()) return;
+  host_->session().user(String(fromQt(name)));
+  showSession();
+}
+
+void DeskWindow::changeSettings() {
+  SettingsDialog(host_->session().settings(), host_->session().user(), this).exec();
+}
+
+void DeskWindow::showSession() {
+  const bool admin = host_->session().UserIsAdmin();
+  adminAction_->setChecked(admin);
+  const QString file = QString::fromStdString(host_->file().string());
+  databaseLabel_->setText("Datenbank: " + file);
+  databaseLabel_->setToolTip(file);
+  userLabel_->setText("Benutzer: " + toQt(host_->session().user()) + (admin ? " (Administrator)" : ""));
+}
+
+void DeskWindow::closeEvent(QCloseEvent* event) {
+  if (showing_) return event->ignore();
+  QSettings remembered = memory();
+  remembered.setValue("geometry", saveGeometry());
+  remembered.setValue("splitter", splitter_->saveState());
+  QMainWindow::closeEvent(event);
+}
+
+}  // namespace zqn::host

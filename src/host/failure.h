@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// How a command of `zqn-dialog` ends: the exit statuses, and the one exception that ends a command early with
+// a sentence for the person at the shell.
+//
+//     throw CommandFailure(ExitStatus::CannotOpen, "waren.sqlite is a folder; name a file in it");
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace zqn::host {
+
+enum class ExitStatus : int {
+  Done = 0,        ///< `show`: a key came back
+  NoKey = 1,       ///< `show` returned Empty, Null or the empty text
+  WrongUsage = 2,  ///< the command line cannot be understood
+  CannotOpen = 3,  ///< the database or the session, or a statement of `sql`
+  ScriptError = 4  ///< the script could not go on
+};
+
+/// The command ends with this status; the text goes to standard error, one sentence that says what was wrong
+/// and what would be right.
+class CommandFailure : public std::runtime_error {
+ public:
+  CommandFailure(ExitStatus status, const std::string& message)
+      : std::runtime_error(message), status_(status) {}
+  ExitStatus status() const noexcept { return status_; }
+
+ private:
+  ExitStatus status_;
+};
+
+}  // namespace zqn::host

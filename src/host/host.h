@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+//
+// One open database with its session: what the reference host opens its dialogs on.
+//
+//     Host host(options);
+//     ORBDialog dialog;
+//     host.equip(dialog);
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "frontend/orb_dialog.h"
+#include "host/command_line.h"
+#include "host/host_session.h"
+#include "host/script/world.h"
+#include "runtime/locale.h"
+
+namespace zqn::host {
+
+class Host {
+ public:
+  /// Opens the database of the options, or the default one. CommandFailure when it cannot be opened.
+  explicit Host(const HostOptions& options);
+
+  /// Gives a dialog its connection, the session unless the options leave it out, and Multiselect.
+  void equip(ORBDialog& dialog) const;
+
+  const std::filesystem::path& file() const noexcept { return file_; }
+  const Ref<ado::Connection>& connection() const noexcept { return connection_; }
+  HostSession& session() const noexcept { return *session_; }
+
+  /// What somebody else does to this database while a dialog is open, on a connection of its own. The Host
+  /// must outlive it.
+  script::ScriptWorld world() const;
+
+ private:
+  std::filesystem::path file_;
+  Ref<ado::Connection> connection_;
+  std::shared_ptr<HostSession> session_;
+  bool handsSessionOver_;
+  bool multiselect_;
+};
+
+/// The German locale, with the day of the options as the present.
+Locale localeOf(const HostOptions& options);
+
+}  // namespace zqn::host

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "host/program.h"
+
+#include <iostream>
+
+#include "desktop/headless/headless_desktop.h"
+#include "host/database.h"
+#include "host/kinds_command.h"
+#include "host/script/headless_user.h"
+#include "host/show_command.h"
+#include "host/sql_command.h"
+
+namespace zqn::host {
+
+namespace {
+
+ExitStatus showHeadless(const Options& options) {
+  headless::HeadlessDesktop desktop;
+  script::HeadlessUser hands(desktop);
+  return showDialog(options, desktop, hands);
+}
+
+void init(const Options& options) {
+  const auto file = databaseFile(*options.host.database);
+  const Created created = createTables(file, {.sample = options.init.sample, .rows = options.init.rows});
+  std::cout << "created " << created.tables << " tables with " << created.rows << " rows in " << file.string()
+            << "\n";
+}
+
+ExitStatus run(const Options& options, const WithWindows& withWindows) {
+  switch (options.command) {
+    case Command::Help:
+      std::cout << options.help;
+      return ExitStatus::Done;
+    case Command::Kinds:
+      listKinds(std::cout, options.json);
+      return ExitStatus::Done;
+    case Command::Init:
+      init(options);
+      return ExitStatus::Done;
+    case Command::Sql:
+      runStatements(*openDatabase(databaseFile(*options.host.database)), std::cin, std::cout);
+      return ExitStatus::Done;
+    case Command::Show:
+      if (options.show.ui == Ui::Headless) return showHeadless(options);
+      [[fallthrough]];
+    case Command::Desk:
+      return withWindows(options);
+  }
+  return ExitStatus::WrongUsage;
+}
+
+}  // namespace
+
+int runProgram(int argc, char** argv, const WithWindows& withWindows) {
+  try {
+    return static_cast<int>(run(parseCommandLine(argc, argv), withWindows));
+  } catch (const CommandFailure& failure) {
+    std::cerr << "zqn-dialog: " << failure.what() << "\n";
+    return static_cast<int>(failure.status());
+  }
+}
+
+}  // namespace zqn::host

@@ -1,0 +1,162 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Holds the tree against the rules of the project that no compiler knows.
+
+Each rule is a function that yields complaints; the exit status is 1 when there is one. Only files under
+version control, or about to be, are looked at.
+"""
+
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+
+# A folder may use its own floor and those below; on floor 4, where each folder is one toolkit or one
+# database, a folder uses no other folder of its floor.
+FLOORS = {
+    "runtime": 1,
+    "ado": 2, "contract": 2, "forms": 2,
+    "frontend": 3, "dialog": 3, "definitions": 3, "catalogues": 3, "sales": 3, "split": 3,
+    "ado/sqlite": 4, "ado/odbc": 4, "desktop/headless": 4, "desktop/qt": 4,
+    "host": 5, "testing": 5,
+}
+
+STANDARD_HEADERS = set("""
+algorithm any array atomic bit bitset cassert cctype cerrno cfloat charconv chrono cinttypes climits clocale
+cmath compare complex concepts condition_variable coroutine csignal cstdarg cstddef cstdint cstdio cstdlib
+cstring ctime cwchar cwctype deque exception execution filesystem forward_list fstream functional future
+initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory
+memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex set shared_mutex
+source_location span sstream stack stdexcept streambuf string string_view system_error thread tuple
+type_traits typeindex typeinfo unordered_map unordered_set utility valarray variant vector version
+""".split())
+
+LINES_AT_MOST = 500
+SUBJECT = re.compile(
+    r"(runtime|ado|sqlite|odbc|contract|forms|headless|qt|frontend|dialog|definitions|catalogues|sales|split"
+    r"|host|tests|bench|examples|docs|build): [A-Z].*[^.]$")
+# Written in two parts, so that this file passes its own rule.
+OPEN_MARKS = re.compile(r"\b(" + "|".join(("TO" + "DO", "FIX" + "ME", "XX" + "X", "HA" + "CK")) + r")\b")
+# One machine's folders, and places on the net: neither means anything to the next reader.
+MACHINE_PATHS = re.compile(r"(?<![\w.~-])/(?:" + "|".join(("work", "root", "farm")) + r")/")
+ADDRESSES = re.compile(r"\b(?:https?|ftp|git)" + "://")
+
+
+def git(*arguments):
+    return subprocess.run(["git", "-C", ROOT, *arguments], check=True, capture_output=True, text=True).stdout
+
+
+def tracked_files():
+    names = git("ls-files", "--cached", "--others", "--exclude-standard", "-z").split("\0")
+    return [ROOT / name for name in sorted(names) if name and (ROOT / name).is_file()]
+
+
+def text_of(path):
+    try:
+        return path.read_text(encoding="utf-8")
+    except UnicodeDecodeError:
+        return None  # a picture
+
+
+def folder_of(relative):
+    """The key of FLOORS that a path under src/ belongs to; the longest one wins."""
+    fitting = [folder for folder in FLOORS if relative.startswith(folder + "/")]
+    return max(fitting, key=len, default=None)
+
+
+def floors(path, text):
+    if not path.is_relative_to(ROOT / "src") or path.suffix not in (".h", ".cpp"):
+        return
+    relative = path.relative_to(ROOT / "src").as_posix()
+    folder = folder_of(relative)
+    if folder is None:
+        yield 1, "stands in no folder of a floor"
+        return
+    if path.stem.endswith("_test") or folder == "testing":
+        return  # tests look at a floor from anywhere
+    floor = FLOORS[folder]
+    for number, line in enumerate(text.splitlines(), 1):
+        included = re.match(r'\s*#\s*include\s*(["<])([^">]+)', line)
+        if not included:
+            continue
+        quote, name = included.groups()
+        if quote == "<":
+            if floor <= 3 and name not in STANDARD_HEADERS:
+                yield number, f"<{name}> is no header of the standard library, and this is floor {floor}"
+            continue
+        other = folder_of(name)
+        if other is None:
+            yield number, f'"{name}" is not written from src/ on'
+        elif other != folder and (FLOORS[other] > floor or floor == FLOORS[other] == 4):
+            yield number, f'"{name}" stands on floor {FLOORS[other]}, this is floor {floor}'
+
+
+def header_shape(path, text):
+    if path.suffix not in (".h", ".cpp"):
+        return
+    lines = text.splitlines()
+    if not lines or lines[0] != "// SPDX-License-Identifier: MIT":
+        yield 1, "the first line is not the SPDX line"
+    if path.suffix != ".h":
+        return
+    if "#pragma once" not in lines:
+        yield 1, "#pragma once is missing"
+    comment = 0
+    for line in lines[1:]:
+        if not line.startswith("//"):
+            break
+        comment += line.strip() != "//"
+    if comment == 0:
+        yield 2, "the file comment is missing: what it is, where it stands, one example"
+
+
+def length(path, text):
+    lines = text.count("\n")
+    if path.suffix in (".h", ".cpp", ".py", ".sh") and lines > LINES_AT_MOST:
+        yield lines, f"{lines} lines; split it by subject, {LINES_AT_MOST} are enough"
+
+
+def words(path, text):
+    for number, line in enumerate(text.splitlines(), 1):
+        for pattern, complaint in ((OPEN_MARKS, "is left open"), (MACHINE_PATHS, "is a path of one machine"),
+                                   (ADDRESSES, "is an address on the net")):
+            found = pattern.search(line)
+            if found:
+                yield number, f"'{found.group()}' {complaint}"
+
+
+def white_space(path, text):
+    for number, line in enumerate(text.split("\n"), 1):
+        if line.endswith("\r") or (line != line.rstrip() and path.suffix not in (".md", ".jsonl")):
+            yield number, "blanks at the end of the line"
+        if "\t" in line and path.suffix in (".h", ".cpp", ".py", ".sh", ".txt", ".cmake"):
+            yield number, "a tab"
+    if text and not text.endswith("\n"):
+        yield text.count("\n") + 1, "the last line has no end"
+
+
+def commit_messages():
+    for line in git("log", "--no-merges", "--format=%h %s").splitlines():
+        commit, _, subject = line.partition(" ")
+        if len(subject) > 72:
+            yield f"commit {commit}: {len(subject)} characters in the subject, 72 at most"
+        if not SUBJECT.match(subject):
+            yield f"commit {commit}: '{subject}' is not 'floor: Do the thing'"
+
+
+def main():
+    complaints = list(commit_messages())
+    files = [(path, text) for path in tracked_files() if (text := text_of(path)) is not None]
+    for path, text in files:
+        for rule in (floors, header_shape, length, words, white_space):
+            complaints += (f"{path.relative_to(ROOT)}:{line}: {what}" for line, what in rule(path, text))
+    for complaint in complaints:
+        print(complaint)
+    print(f"{len(files)} files held against the project's rules: {len(complaints)} complaints")
+    return 1 if complaints else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

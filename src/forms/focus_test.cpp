@@ -379,9 +379,8 @@ TEST_F(SetFocusCall, IsError5BeforeTheFormIsShownAndAfterIt) {
 }
 
 TEST_F(SetFocusCall, IsError5InsideWhatCannotBeUsed) {
-  // The frame of these controls is a label: any control may stand in another.
   static constexpr ControlDesign framed[] = {
-      {u"Frame", ControlKind::Label, u"", 0, 0, 3000, 3000},
+      {u"Frame", ControlKind::Frame, u"", 0, 0, 3000, 3000},
       {u"inside", ControlKind::TextBox, u"", 0, 300, 1000, 285, {.Container = u"Frame"}},
       {u"outside", ControlKind::TextBox, u"", 0, 3300, 1000, 285},
   };

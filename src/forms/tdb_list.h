@@ -126,6 +126,7 @@ class TDBList : public Control {
   bool wantsEnter() const noexcept override { return keepsEnter_; }
   bool ownKey(const KeyStroke& stroke) override;
   void clicked() override {}
+  using Control::Property;
   Variant Property(StringView name) const override;
   String content() const override { return Text(); }
 

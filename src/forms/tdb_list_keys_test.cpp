@@ -1,0 +1,351 @@
+// SPDX-License-Identifier: MIT
+//
+// A person at a list: mouse, arrows, paging, finding a row by typing, copying.
+#include "forms/command_button.h"
+#include "forms/list_testing.h"
+
+namespace zqn::testing {
+namespace {
+
+using ListMouse = ListTest;
+using ListArrows = ListTest;
+using ListSearch = ListTest;
+using ListCopy = ListTest;
+
+// ---- mouse
+
+TEST_F(ListMouse, AClickOnAnotherRowMarksItAndMovesTheRecordset) {
+  insert({u"10", u"20", u"30"});
+  auto rs = bind();
+  list.userSelect(2);
+  EXPECT_EQ(happened(), "RowColChange:30");
+  EXPECT_EQ(list.Row(), 2);
+  EXPECT_EQ(rs->currentRow(), 2);
+}
+
+TEST_F(ListMouse, AClickOnTheMarkedRowTellsOnceAfterABindingOnly) {
+  insert({u"10", u"20"});
+  bind();
+  list.userSelect(0);
+  EXPECT_EQ(happened(), "RowColChange:10");
+  list.userSelect(0);
+  EXPECT_EQ(happened(), "");
+  list.ReBind();
+  list.userSelect(0);
+  EXPECT_EQ(happened(), "RowColChange:10");
+}
+
+TEST_F(ListMouse, AClickOnTheMarkedRowBringsTheRecordsetBack) {
+  insert({u"10", u"20"});
+  auto rs = bind();
+  list.userSelect(0);
+  rs->MoveLast();
+  list.userSelect(0);
+  EXPECT_EQ(rs->currentRow(), 0);
+  EXPECT_EQ(happened(), "RowColChange:10");
+}
+
+TEST_F(ListMouse, AClickBesideTheRowsDoesNothing) {
+  insert({u"10"});
+  bind();
+  list.userSelect(-1);
+  list.userSelect(1);
+  EXPECT_EQ(list.Row(), 0);
+  EXPECT_EQ(happened(), "");
+}
+
+TEST_F(ListMouse, ADoubleClickComesFromTheMarkedRowAlone) {
+  insert({u"10", u"20"});
+  bind();
+  list.DblClick = [&] { note("DblClick:" + toUtf8(list.Text())); };
+  list.userSelect(1);
+  list.userDoubleClick(1);
+  EXPECT_EQ(happened(), "RowColChange:20 DblClick:20");
+  list.userDoubleClick(0);
+  EXPECT_EQ(happened(), "");
+}
+
+TEST_F(ListMouse, ADoubleClickOnAnEmptyListIsNone) {
+  bind();
+  list.DblClick = [&] { note("DblClick"); };
+  list.userDoubleClick(-1);
+  list.userDoubleClick(0);
+  EXPECT_EQ(happened(), "");
+}
+
+TEST_F(ListMouse, PressingOnTheListRaisesNoClick) {
+  insert({u"10"});
+  bind();
+  watchClicks(form);
+  show(form, [&] {
+    form.control(u"btn").SetFocus();
+    click(list);
+    EXPECT_EQ(focusOf(form), "List");
+    EXPECT_EQ(happened(), "");
+  });
+}
+
+// ---- arrows and paging
+
+TEST_F(ListArrows, UpAndDownMoveTheMarkAndStopAtTheEnds) {
+  insert({u"10", u"20", u"30"});
+  auto rs = bind();
+  show(form, [&] {
+    press(key::Up);
+    EXPECT_EQ(happened(), "");
+    press(key::Down);
+    press(key::Down);
+    press(key::Down);
+    EXPECT_EQ(happened(), "RowColChange:20 RowColChange:30");
+    EXPECT_EQ(rs->currentRow(), 2);
+    press(key::Up);
+    EXPECT_EQ(happened(), "RowColChange:20");
+  });
+}
+
+TEST_F(ListArrows, HomeAndEndGoToTheEnds) {
+  insert({u"10", u"20", u"30"});
+  bind();
+  show(form, [&] {
+    press(key::End);
+    press(key::End);
+    EXPECT_EQ(happened(), "RowColChange:30");
+    press(key::Home);
+    press(key::Home);
+    EXPECT_EQ(happened(), "RowColChange:10");
+  });
+}
+
+TEST_F(ListArrows, PagesAreAsLongAsTheListIsHigh) {
+  insertMany(30);
+  bind();
+  EXPECT_EQ(list.rowsPerPage(), 10);
+  show(form, [&] {
+    press(key::PageDown);
+    press(key::PageDown);
+    EXPECT_EQ(list.Row(), 20);
+    press(key::PageDown);
+    EXPECT_EQ(list.Row(), 29);
+    press(key::PageUp);
+    EXPECT_EQ(list.Row(), 19);
+    press(key::PageUp);
+    press(key::PageUp);
+    EXPECT_EQ(list.Row(), 0);
+    EXPECT_EQ(happened(),
+              "RowColChange:00011 RowColChange:00021 RowColChange:00030 RowColChange:00020 "
+              "RowColChange:00010 RowColChange:00001");
+  });
+  list.ColumnHeaders(false);
+  EXPECT_EQ(list.rowsPerPage(), 11);
+}
+
+TEST_F(ListArrows, DownLeadsOnIntoRowsThatAreNotKnownYet) {
+  insertMany(2500);
+  auto rs = bind();
+  ASSERT_LT(list.knownRows(), 2500);
+  const int edge = list.knownRows();
+  mark(*rs, edge - 1);
+  happened();
+  show(form, [&] {
+    press(key::Down);
+    EXPECT_EQ(list.Row(), edge);
+    EXPECT_GT(list.knownRows(), edge);
+    press(key::End);
+    EXPECT_EQ(list.Row(), 2499);
+    EXPECT_EQ(list.Text(), u"02500");
+    EXPECT_TRUE(list.rowsComplete());
+    press(key::Down);
+    EXPECT_EQ(list.Row(), 2499);
+    press(key::Home);
+    EXPECT_EQ(list.Text(), u"00001");
+  });
+  happened();
+}
+
+TEST_F(ListArrows, RowsBecomeKnownAtIdleTimeInSteps) {
+  insertMany(2500);
+  bind();
+  const int known = list.knownRows();
+  list.fetchRows(100);
+  EXPECT_EQ(list.knownRows(), known + 100);
+  EXPECT_FALSE(list.rowsComplete());
+  while (!list.rowsComplete()) list.fetchRows(1000);
+  EXPECT_EQ(list.knownRows(), 2500);
+  list.fetchRows(1000);
+  EXPECT_EQ(list.knownRows(), 2500);
+  EXPECT_EQ(list.cellText(2499, 0), u"02500");
+}
+
+TEST_F(ListArrows, ARowThatOthersDeletedIsPassedLikeAnother) {
+  insert({u"10", u"20", u"30"});
+  auto rs = bind();
+  execute(u"DELETE FROM Stati WHERE Status='20'");
+  show(form, [&] {
+    press(key::Down);
+    EXPECT_EQ(list.Row(), 1);
+    press(key::Down);
+    EXPECT_EQ(list.Row(), 2);
+    EXPECT_EQ(happened(), "RowColChange: RowColChange:30");
+    EXPECT_EQ(rs->Fields(u"Status").Value(), Variant(u"30"));
+  });
+}
+
+TEST_F(ListArrows, OnAnEmptyListDoNothing) {
+  bind();
+  show(form, [&] {
+    for (const int code : {key::Up, key::Down, key::PageUp, key::PageDown, key::Home, key::End}) press(code);
+    EXPECT_EQ(list.Row(), -1);
+    EXPECT_EQ(happened(), "");
+  });
+}
+
+TEST_F(ListArrows, OtherKeysAreNotTheLists) {
+  insert({u"10", u"20"});
+  bind();
+  show(form, [&] {
+    for (const int code :
+         {key::Enter, key::Escape, key::Delete, key::Left, key::Right, key::F2, key::Backspace}) {
+      EXPECT_FALSE(list.ownKey(KeyStroke::ofCode(code))) << code;
+    }
+    EXPECT_EQ(happened(), "");
+  });
+}
+
+// ---- typing a key
+
+TEST_F(ListSearch, FindsTheFirstRowThatBeginsWithWhatIsTyped) {
+  insert({u"10", u"110", u"115", u"20"});
+  bind();
+  show(form, [&] {
+    type(u"1");
+    EXPECT_EQ(happened(), "") << "the marked row begins so already";
+    type(u"1");
+    EXPECT_EQ(happened(), "RowColChange:110");
+    type(u"5");
+    EXPECT_EQ(happened(), "RowColChange:115");
+  });
+}
+
+TEST_F(ListSearch, BeginsAnewWhenNoRowGoesOnSo) {
+  insert({u"10", u"15", u"20", u"50"});
+  bind();
+  show(form, [&] {
+    type(u"15");
+    EXPECT_EQ(happened(), "RowColChange:15");
+    type(u"2");
+    EXPECT_EQ(happened(), "RowColChange:20");
+    type(u"9");
+    EXPECT_EQ(happened(), "") << "no row begins with 29 or 9";
+    type(u"5");
+    EXPECT_EQ(happened(), "RowColChange:50");
+  });
+}
+
+TEST_F(ListSearch, BeginsAnewAfterTheMarkHasMoved) {
+  insert({u"10", u"12", u"20", u"22"});
+  auto rs = bind();
+  show(form, [&] {
+    type(u"1");
+    press(key::Down);
+    happened();
+    type(u"2");
+    EXPECT_EQ(happened(), "RowColChange:20") << "and not 12";
+    list.userSelect(0);
+    type(u"2");
+    EXPECT_EQ(happened(), "RowColChange:10 RowColChange:20") << "and not 22";
+    mark(*rs, 1);
+    type(u"2");
+    EXPECT_EQ(happened(), "RowColChange:12 RowColChange:20") << "and not 22";
+  });
+}
+
+TEST_F(ListSearch, TakesNoAccountOfCaseButOfAccents) {
+  insert({u"Aal", u"Äpfel", u"Azur", u"zebra", u"Öl"});
+  bind();
+  show(form, [&] {
+    type(u"Z");
+    EXPECT_EQ(list.Text(), u"zebra");
+    press(key::Home);
+    type(u"ä");
+    EXPECT_EQ(list.Text(), u"Äpfel");
+    press(key::Home);
+    type(u"az");
+    EXPECT_EQ(list.Text(), u"Azur");
+    type(u"ö");
+    EXPECT_EQ(list.Text(), u"Öl");
+  });
+  happened();
+}
+
+TEST_F(ListSearch, FindsRowsThatAreNotKnownYet) {
+  insertMany(30000);
+  auto rs = bind();
+  show(form, [&] {
+    type(u"29876");
+    EXPECT_EQ(list.Text(), u"29876");
+    EXPECT_EQ(rs->Fields(u"Status").Value(), Variant(u"29876"));
+  });
+  happened();
+}
+
+TEST_F(ListSearch, FindsRowsOfAListThatIsNotInTheOrderOfItsKeys) {
+  insert({u"30", u"10", u"20"});
+  bind(u"SELECT * FROM Stati ORDER BY CASE Status WHEN '20' THEN 1 WHEN '30' THEN 2 ELSE 3 END");
+  show(form, [&] {
+    type(u"1");
+    EXPECT_EQ(list.Text(), u"10");
+    type(u"3");
+    EXPECT_EQ(list.Text(), u"30");
+  });
+  happened();
+}
+
+TEST_F(ListSearch, WithCtrlOrInAnEmptyListFindsNothing) {
+  bind();
+  show(form, [&] {
+    type(u"1");
+    EXPECT_EQ(list.Row(), -1);
+    insert({u"10", u"20"});
+    bind();
+    pressCtrl(u'2');
+    EXPECT_EQ(list.Row(), 0);
+    EXPECT_EQ(happened(), "");
+  });
+}
+
+TEST_F(ListSearch, AHandlerThatDropsTheCharacterPreventsIt) {
+  insert({u"10", u"20"});
+  bind();
+  list.KeyPress = [](int& ascii) { ascii = 0; };
+  show(form, [&] {
+    type(u"2");
+    EXPECT_EQ(list.Row(), 0);
+  });
+}
+
+// ---- copying
+
+TEST_F(ListCopy, CtrlCCopiesTheVisibleTextsOfTheMarkedRow) {
+  execute(u"INSERT INTO Stati VALUES ('10', 'Interesse', 1.5)");
+  bind();
+  show(form, [&] {
+    pressCtrl(u'c');
+    EXPECT_EQ(desktop.clipboardText(), u"10\tInteresse\t1,5");
+    list.Columns(0).Visible(false);
+    list.Columns(2).Width(0);
+    pressCtrl(u'c');
+    EXPECT_EQ(desktop.clipboardText(), u"Interesse");
+  });
+}
+
+TEST_F(ListCopy, WithoutAMarkedRowTheClipboardStays) {
+  bind();
+  desktop.copyToClipboard(u"vorher");
+  show(form, [&] {
+    pressCtrl(u'c');
+    EXPECT_EQ(desktop.clipboardText(), u"vorher");
+  });
+}
+
+}  // namespace
+}  // namespace zqn::testing

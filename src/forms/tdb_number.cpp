@@ -46,10 +46,9 @@ void TDBNumber::Value(const Variant& value) {
       throw RuntimeError(error::InvalidPropertyValue);
     next = number;
   }
-  const bool differs = next != value_;
   value_ = std::move(next);
   show(focused_ ? editText() : displayText());
-  if (differs) ValueChange.raise();
+  ValueChange.raise();
 }
 
 String TDBNumber::displayText() const {

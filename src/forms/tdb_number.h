@@ -21,13 +21,13 @@ class TDBNumber : public TextEntry {
 
   /// A Double, or Null when the field is empty.
   const Variant& Value() const noexcept { return value_; }
-  /// Null, Empty (as 0), or anything that converts to a number; raises ValueChange when the number differs.
+  /// Null, Empty (as 0), or anything that converts to a number; raises ValueChange, for the same number, too.
   /// Errors 13, 6; 380 for a number with more digits than the field holds, or a negative one where none may
   /// be.
   void Value(const Variant& value);
 
-  /// The number is another one, by code or by typing. Change tells of each edit by a person, whether the
-  /// number differs or not.
+  /// Code has assigned the number, or typing has made it another one. Change tells of each edit by a person,
+  /// whether the number differs or not.
   Event<> ValueChange{*this, u"ValueChange"};
 
   bool accepts(StringView text) const override;

@@ -42,11 +42,6 @@ struct MessageBox {
   int defaultButton() const;
   /// What Esc and the close box mean: Cancel, OK on a box that has OK alone; nothing for Yes and No.
   std::optional<MsgBoxResult> escapeResult() const;
-  /// The same, for desktops that still ask this way.
-  bool hasEscape(MsgBoxResult& result) const {
-    result = escapeResult().value_or(result);
-    return escapeResult().has_value();
-  }
 };
 
 /// Opens a message box above the open form and waits for the answer.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "forms/combo_box.h"
 #include "forms/tdb_list.h"
 
 namespace zqn::script {
@@ -43,14 +44,42 @@ bool listHasRow(Control& control, int row) {
 
 int listMarkedRow(const Control& control) { return dynamic_cast<const TDBList&>(control).Row(); }
 
-constexpr RowAccess listRows{listContents, listHasRow, listMarkedRow};
+constexpr RowAccess listRows{listContents, listHasRow, listMarkedRow, false, nullptr};
+
+ComboBox& comboOf(Control& control) { return dynamic_cast<ComboBox&>(control); }
+
+Json comboContents(Control& control) {
+  const ComboBox& combo = comboOf(control);
+  Json rows = Json::array();
+  for (int i = 0; i < combo.ListCount(); ++i) rows.push_back(Json::array({jsonText(combo.List(i))}));
+  return {{"columns", Json::array()}, {"rows", std::move(rows)}, {"row", combo.ListIndex()}};
+}
+
+bool comboHasRow(Control& control, int row) { return row >= 0 && row < comboOf(control).ListCount(); }
+
+int comboMarkedRow(const Control& control) { return dynamic_cast<const ComboBox&>(control).ListIndex(); }
+
+int comboRowOfText(Control& control, StringView text) {
+  const ComboBox& combo = comboOf(control);
+  for (int i = 0; i < combo.ListCount(); ++i) {
+    if (combo.List(i) == text) return i;
+  }
+  return -1;
+}
+
+constexpr RowAccess comboRows{comboContents, comboHasRow, comboMarkedRow, true, comboRowOfText};
 
 constexpr ControlTraits traits[] = {
-    {ControlKind::TextBox, "text", true, nullptr},
-    {ControlKind::Label, "caption", false, nullptr},
-    {ControlKind::CommandButton, "caption", false, nullptr},
     {ControlKind::CheckBox, "caption", false, nullptr},
+    {ControlKind::ComboBox, "text", true, &comboRows},
+    {ControlKind::CommandButton, "caption", false, nullptr},
+    {ControlKind::Frame, "caption", false, nullptr},
+    {ControlKind::Label, "caption", false, nullptr},
+    {ControlKind::TDBDate, "text", true, nullptr},
     {ControlKind::TDBList, "text", true, &listRows},
+    {ControlKind::TDBNumber, "text", true, nullptr},
+    {ControlKind::TextBox, "text", true, nullptr},
+    {ControlKind::ToggleButton, "caption", false, nullptr},
 };
 
 }  // namespace

@@ -9,14 +9,17 @@
 
 namespace zqn::script {
 
-/// How a script reads a control that shows rows, and points at one of them.
+/// How a script reads a control that shows rows, and points at one of them. Rows count from 0.
 struct RowAccess {
   /// {"columns":[...],"rows":[...],"row":n}, all rows.
   Json (*contents)(Control&);
-  /// The control has the row; rows count from 0.
   bool (*hasRow)(Control&, int row);
-  /// The row that a click on the control itself points at, -1 for none: it changes no mark.
+  /// The row that is marked or chosen, -1 for none.
   int (*markedRow)(const Control&);
+  /// The rows stand in a drop-down and are chosen by number or text; else they are clicked.
+  bool inDropDown;
+  /// The first row of a drop-down with this text, -1 for none.
+  int (*rowOfText)(Control&, StringView text);
 };
 
 struct ControlTraits {

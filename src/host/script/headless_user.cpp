@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/script/headless_user.h"
 
+#include "forms/combo_box.h"
 #include "forms/tdb_list.h"
 
 namespace zqn::script {
@@ -38,6 +39,13 @@ void HeadlessUser::mouseDownAgain(const Spot& spot) {
     auto* list = dynamic_cast<TDBList*>(&spot.control);
     const bool passes = spot.control.form().mousePressed(spot.control);
     if (passes && list != nullptr) list->userDoubleClick(spot.row);
+  });
+}
+
+void HeadlessUser::takeEntry(Control& control, int entry) {
+  guarded(control, u"Click", [&] {
+    auto& combo = dynamic_cast<ComboBox&>(control);
+    if (control.form().mousePressed(control)) combo.userChose(entry);
   });
 }
 

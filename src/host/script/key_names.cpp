@@ -52,7 +52,8 @@ Key takeKey(StringView& text, int shift) {
   const StringView all = text;
   unicode::take(text);
   const StringView character = all.substr(0, all.size() - text.size());
-  if (character.size() == 2) return {0, shift, String(character)};
+  if (character.size() == 2)
+    return {KeyStroke::ofCharacter(character.front()).code, shift, String(character)};
   const char16_t unit = (shift & shift::Shift) != 0 ? upperUnit(character.front()) : character.front();
   switch (unit) {
     case u'\n':

@@ -2,8 +2,10 @@
 #include "host/script/qt_user.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -66,6 +68,21 @@ void QtUser::mouseUp(const Spot& spot) {
 
 void QtUser::mouseDownAgain(const Spot& spot) {
   sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pressed_);
+}
+
+void QtUser::takeEntry(Control& control, int entry) {
+  QWidget& area = *desktop_.mouseAreaOf(control);
+  auto& combo = dynamic_cast<QComboBox&>(*desktop_.widgetOf(control));
+  sendMouse(area, QEvent::MouseButtonPress, area.rect().center());
+  QAbstractItemView& drop = *combo.view();
+  if (!drop.isVisible()) return;
+  // The button stays down over the open list until it is let go on the entry.
+  const QModelIndex row = combo.model()->index(entry, combo.modelColumn());
+  drop.scrollTo(row);
+  const QPoint place = drop.visualRect(row).center();
+  sendMouse(*drop.viewport(), QEvent::MouseMove, place + QPoint(0, 2 * QApplication::startDragDistance()));
+  sendMouse(*drop.viewport(), QEvent::MouseMove, place);
+  sendMouse(*drop.viewport(), QEvent::MouseButtonRelease, place);
 }
 
 // ---- keys

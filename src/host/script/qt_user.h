@@ -18,6 +18,7 @@ class QtUser : public UserInput {
   void mouseDown(const Spot& spot) override;
   void mouseUp(const Spot& spot) override;
   void mouseDownAgain(const Spot& spot) override;
+  void takeEntry(Control& control, int entry) override;
   void keyDown(Form& form, const Key& key) override;
   void keyUp(Form& form, const Key& key) override;
   void closeBox(Form& form) override;

@@ -24,14 +24,27 @@ std::string describe(const Control& control) { return nameOf(control) + " is a "
 Spot rowSpot(const Scene& scene, const std::string& name, int row) {
   Control& control = scene.usableControl(name);
   const RowAccess* rows = traitsOf(control).rows;
-  if (rows == nullptr) throw Refusal(describe(control) + " and has no rows");
+  if (rows == nullptr || rows->inDropDown) throw Refusal(describe(control) + " and has no rows to click on");
   if (!rows->hasRow(control, row)) throw Refusal(nameOf(control) + " has no row " + std::to_string(row));
   return {control, row};
 }
 
 Spot spotOf(Control& control) {
   const RowAccess* rows = traitsOf(control).rows;
-  return {control, rows == nullptr ? -1 : rows->markedRow(control)};
+  return {control, rows == nullptr || rows->inDropDown ? -1 : rows->markedRow(control)};
+}
+
+/// Takes an entry of a drop-down by its number or its text.
+void selectEntry(const Scene& scene, const Arguments& line) {
+  const int index = line.wholeNumber("index", std::int32_t{-1});
+  const std::string text = line.text("text", "");
+  Control& control = scene.usableControl(line.text("select"));
+  const RowAccess* rows = traitsOf(control).rows;
+  if (rows == nullptr || !rows->inDropDown) throw Refusal(describe(control) + ", which is no drop-down");
+  const int entry = line.has("index") ? index : rows->rowOfText(control, fromUtf8(text));
+  if (!rows->hasRow(control, entry))
+    throw Refusal(nameOf(control) + " has no entry " + line.any(line.has("index") ? "index" : "text").dump());
+  scene.input.takeEntry(control, entry);
 }
 
 }  // namespace
@@ -60,16 +73,16 @@ void key(const Scene& scene, const Arguments& line) {
 }
 
 void select(const Scene& scene, const Arguments& line) {
-  const std::string name = line.text("select");
   if (line.has("row")) {
     const int row = line.wholeNumber("row");
-    scene.hands.click(rowSpot(scene, name, row));
-    return;
-  }
-  if (!line.has("rows") && !line.has("index") && !line.has("text"))
+    scene.hands.click(rowSpot(scene, line.text("select"), row));
+  } else if (line.has("index") || line.has("text")) {
+    selectEntry(scene, line);
+  } else if (line.has("rows")) {
+    throw Refusal(describe(scene.usableControl(line.text("select"))) + ", which takes no several rows");
+  } else {
     throw ScriptError(R"("select" needs "row", "rows", "index" or "text")");
-  const Control& control = scene.usableControl(name);
-  throw Refusal(describe(control) + ": it takes neither several rows nor an entry");
+  }
 }
 
 void dblclick(const Scene& scene, const Arguments& line) {

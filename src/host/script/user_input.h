@@ -43,6 +43,9 @@ class UserInput {
   /// The second press of a double click.
   virtual void mouseDownAgain(const Spot& spot) = 0;
 
+  /// Opens a drop-down and takes an entry, which is there.
+  virtual void takeEntry(Control& control, int entry) = 0;
+
   /// A key goes down, or up, while the form is on top.
   virtual void keyDown(Form& form, const Key& key) = 0;
   virtual void keyUp(Form& form, const Key& key) = 0;

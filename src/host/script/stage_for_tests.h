@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+//
+// The desktop on which the tests of scripts run. They are built twice, with a headless stage and with one of
+// Qt: the same script must come to the same transcript.
+#pragma once
+
+#include <memory>
+
+#include "forms/desktop.h"
+#include "host/script/user_input.h"
+
+namespace zqn::script {
+
+class Stage {
+ public:
+  virtual ~Stage() = default;
+  virtual Desktop& desktop() = 0;
+  virtual UserInput& input() = 0;
+  virtual bool hasScreen() const = 0;
+};
+
+/// A new desktop with nothing open.
+std::unique_ptr<Stage> makeStage();
+
+}  // namespace zqn::script

@@ -1,0 +1,174 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Scripts of user actions and their approved transcripts.
+
+    run_script.py check [--ui headless|qt] [NAME ...]   holds each transcript against its approved one
+    run_script.py approve [--ui headless|qt] [NAME ...] accepts the present transcripts
+    run_script.py show [--ui headless|qt] NAME          prints a transcript
+
+A script is scripts/NAME.jsonl, its approved transcript scripts/NAME.approved.jsonl; without names all scripts
+are meant. Comment lines at the top of a script say how the command is called:
+
+    # args: show 21 10 --today 2026-11-21     arguments of the command (needed)
+    # init: --rows 1000                       how the database is made; --sample unless said
+
+Each run has a new database in a folder of its own, which is also its application folder. Without --ui a script
+runs on both desktops, and both must come to the same transcript. Whatever the command writes to standard error
+fails the run. The environment variable ZQN_DIALOG names the command, build/zqn-dialog unless set.
+"""
+
+import argparse
+import difflib
+import json
+import os
+import shlex
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+SCRIPTS = HERE / "scripts"
+DESKTOPS = ("headless", "qt")
+TIMEOUT = 120
+
+# What Qt's platform without a display says about itself, whatever a program does.
+HARMLESS = "This plugin does not support"
+
+
+class Failure(Exception):
+    """The run of a script is not in order; the text says why."""
+
+
+def command():
+    return os.environ.get("ZQN_DIALOG", str(HERE.parent / "build" / "zqn-dialog"))
+
+
+def script_file(name):
+    return SCRIPTS / f"{name}.jsonl"
+
+
+def approved_file(name):
+    return SCRIPTS / f"{name}.approved.jsonl"
+
+
+def all_names():
+    return sorted(file.stem for file in SCRIPTS.glob("*.jsonl") if not file.name.endswith(".approved.jsonl"))
+
+
+def header(name, key, otherwise=None):
+    """The arguments after `# key:` among the comment lines at the top of a script."""
+    for line in script_file(name).read_text(encoding="utf-8-sig").splitlines():
+        if not line.startswith("#"):
+            break
+        if line.startswith(f"# {key}:"):
+            return shlex.split(line.split(":", 1)[1])
+    if otherwise is None:
+        raise Failure(f'{name}.jsonl says nowhere how the command is called; begin it with "# {key}: ..."')
+    return otherwise
+
+
+def environment(folder):
+    return {
+        "PATH": os.environ["PATH"],
+        "HOME": str(folder),
+        "XDG_DATA_HOME": str(folder / "data"),
+        "XDG_CONFIG_HOME": str(folder / "config"),
+        "XDG_RUNTIME_DIR": str(folder),
+        "LOGNAME": "anna",
+        "LC_ALL": "C.UTF-8",
+        "QT_QPA_PLATFORM": os.environ.get("QT_QPA_PLATFORM", "offscreen"),
+        **{name: os.environ[name] for name in ("DISPLAY", "XAUTHORITY", "ASAN_OPTIONS") if name in os.environ},
+    }
+
+
+def call(folder, arguments):
+    try:
+        done = subprocess.run([command(), *arguments], cwd=folder, env=environment(folder),
+                              capture_output=True, timeout=TIMEOUT)
+    except subprocess.TimeoutExpired:
+        raise Failure(f"no end after {TIMEOUT} seconds: {shlex.join(arguments)}") from None
+    errors = done.stderr.decode("utf-8", "replace").splitlines()
+    errors = [line for line in errors if not line.startswith(HARMLESS)]
+    if errors:
+        raise Failure("standard error says:\n" + "\n".join(errors))
+    return done
+
+
+def status_of(transcript):
+    """The exit status that a transcript stands for."""
+    lines = transcript.splitlines()
+    last = json.loads(lines[-1]) if lines else {}
+    if "scriptError" in last:
+        return 4
+    returned = last.get("result", {}).get("return")
+    return 1 if returned in (None, "", {"empty": True}) else 0
+
+
+def transcript_of(name, desktop):
+    arguments = header(name, "args")
+    with tempfile.TemporaryDirectory(prefix="zqn-script-") as made:
+        folder = Path(made)
+        database = ["--db", "sqlite:stage.sqlite"]
+        if call(folder, ["init", *database, *header(name, "init", ["--sample"])]).returncode != 0:
+            raise Failure("the database cannot be made")
+        done = call(folder, [*arguments, *database, "--app-path", str(folder), "--ui", desktop,
+                             "--script", str(script_file(name)), "--transcript", "transcript.jsonl"])
+        file = folder / "transcript.jsonl"
+        transcript = file.read_text(encoding="utf-8") if file.exists() else ""
+    if done.returncode != status_of(transcript):
+        raise Failure(f"exit status {done.returncode} after\n{transcript}")
+    return transcript
+
+
+def difference(before, after, before_name, after_name):
+    return "\n".join(difflib.unified_diff(before.splitlines(), after.splitlines(), before_name, after_name,
+                                          lineterm="", n=2))
+
+
+def check(name, desktops):
+    if not approved_file(name).exists():
+        raise Failure(f"nobody has approved a transcript; see it with 'show {name}', accept it with 'approve {name}'")
+    approved = approved_file(name).read_bytes().decode("utf-8")
+    for desktop in desktops:
+        transcript = transcript_of(name, desktop)
+        if transcript != approved:
+            raise Failure(difference(approved, transcript, "approved", desktop))
+
+
+def approve(name, desktops):
+    transcripts = {desktop: transcript_of(name, desktop) for desktop in desktops}
+    first, *others = transcripts
+    for other in others:
+        if transcripts[other] != transcripts[first]:
+            raise Failure("the desktops differ:\n" + difference(transcripts[first], transcripts[other], first, other))
+    approved_file(name).write_bytes(transcripts[first].encode("utf-8"))
+
+
+def show(name, desktops):
+    sys.stdout.write(transcript_of(name, desktops[0]))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("action", choices=("check", "approve", "show"))
+    parser.add_argument("names", metavar="NAME", nargs="*")
+    parser.add_argument("--ui", choices=DESKTOPS)
+    options = parser.parse_args()
+    act = {"check": check, "approve": approve, "show": show}[options.action]
+    desktops = (options.ui,) if options.ui else DESKTOPS
+
+    failed = 0
+    for name in options.names or all_names():
+        try:
+            if not script_file(name).exists():
+                raise Failure(f"there is no script {script_file(name)}")
+            act(name, desktops)
+        except Failure as failure:
+            failed += 1
+            print(f"{name}: {failure}\n", file=sys.stderr)
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

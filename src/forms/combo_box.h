@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// A drop-down over a list of texts, one of which is chosen, or none.
+// A drop-down over a list of texts, one of which is chosen, or none. A click, F4 or Alt+Down opens the list;
+// while it is open one entry is marked, the keys are the list's, and nothing is chosen until a click, Enter
+// or Tab takes the marked entry. Esc leaves the choice as it was.
 //
 //     cbo.AddItem(u"Kundenstamm");
 //     cbo.ListIndex(0);  // raises Click
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "forms/control.h"
@@ -35,22 +38,37 @@ class ComboBox : public Control {
 
   // ---- for toolkits
 
-  /// A person takes an entry, from the open list or by keys. Raises Click when it is another one; nothing
-  /// outside the entries.
+  /// The list is open, and its marked entry, -1 for none.
+  bool isOpen() const noexcept { return open_; }
+  int markedEntry() const noexcept { return marked_; }
+  void userOpened();
+  void userClosed();
+  /// The pointer or a screen reader goes to an entry of the open list.
+  void userMarked(int index);
+  /// A person takes an entry, from the open list or by keys, and the list closes. Raises Click when it is
+  /// another one; nothing outside the entries.
   void userChose(int index);
+  bool takesKeyFirst(const KeyStroke& stroke) override;
   /// Arrows, Home and End choose; a letter chooses the next entry that begins with it.
   bool ownKey(const KeyStroke& stroke) override;
-  void clicked() override {}
+  void clicked() override;
+  void focusLeft() override { userClosed(); }
   String content() const override { return Text(); }
+  /// Knows "List(2)", too.
+  Variant Property(StringView name) const override;
+  using Control::Property;
 
  protected:
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
-  bool chooseByLetter(char16_t letter);
+  std::optional<int> entryFor(const KeyStroke& stroke, int from) const;
+  int nextWithLetter(char16_t letter, int from) const;
 
   std::vector<String> entries_;
   int listIndex_ = -1;
+  bool open_ = false;
+  int marked_ = -1;
 };
 
 }  // namespace zqn

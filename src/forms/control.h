@@ -115,6 +115,9 @@ class Control : public EventOwner {
   /// The control's own effect of a key, after all events let it pass: typing, moving in a list, pressing a
   /// button. True when it did something.
   virtual bool ownKey(const KeyStroke& stroke);
+  /// A key before form and control hear of it: an open list takes it. True when the key is over; then no
+  /// event tells of it, nor of its release.
+  virtual bool takesKeyFirst(const KeyStroke&) { return false; }
   /// Enter belongs to the control before the form sees it.
   virtual bool wantsEnter() const noexcept { return false; }
   /// A complete click of the left button, after the focus has moved here.

@@ -192,11 +192,16 @@ bool Form::pressesButton(const KeyStroke& stroke) {
 KeyOutcome Form::keyPressed(KeyStroke stroke) {
   KeyOutcome outcome{false, stroke};
   if (!visible_) return outcome;
+  silentKey_ = 0;
+  if (active_ != nullptr && active_->takesKeyFirst(stroke)) {
+    silentKey_ = stroke.code;
+    return outcome;
+  }
   Control* next = nullptr;
   if (stroke.code == key::Tab && (stroke.shift & (shift::Ctrl | shift::Alt)) == 0)
     next = nextInTabOrder(active_, (stroke.shift & shift::Shift) != 0);
-  tabMovedOn_ = next != nullptr;
-  if (tabMovedOn_) {
+  if (next != nullptr) {
+    silentKey_ = stroke.code;
     moveFocus(*next, FocusCause::Tab);
     return outcome;
   }
@@ -222,7 +227,10 @@ KeyOutcome Form::keyPressed(KeyStroke stroke) {
 
 void Form::keyReleased(int code, int shift) {
   if (!visible_ || code == 0) return;
-  if (code == key::Tab && std::exchange(tabMovedOn_, false)) return;
+  if (code == silentKey_) {
+    silentKey_ = 0;
+    return;
+  }
   Control* const target = active_;
   if (keyPreview_) KeyUp.raise(code, shift);
   if (visible_ && target != nullptr) target->KeyUp.raise(code, shift);

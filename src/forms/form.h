@@ -154,8 +154,8 @@ class Form : public EventOwner {
   bool loaded_ = false;
   bool visible_ = false;
   bool keyPreview_ = true;
-  /// The Tab that is down has moved the focus: its release tells nobody.
-  bool tabMovedOn_ = false;
+  /// The code of a key that is down and that no event has told of: its release tells nobody. 0 for none.
+  int silentKey_ = 0;
 };
 
 }  // namespace zqn

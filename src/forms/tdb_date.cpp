@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "runtime/convert.h"
 
@@ -12,79 +11,76 @@ namespace zqn {
 namespace {
 
 constexpr std::size_t longestDate = 10;
+constexpr int leastYear = 100;
+constexpr int lastYear = 9999;
 
-/// Digits without points, six or eight of them, are a date too.
-String withPoints(StringView typed) {
-  const bool digitsOnly = typed.find(u'.') == StringView::npos;
-  if (!digitsOnly || (typed.size() != 6 && typed.size() != 8)) return String(typed);
-  return String(typed.substr(0, 2)) + u"." + String(typed.substr(2, 2)) + u"." + String(typed.substr(4));
+String dayText(const Variant& day) { return day.isNull() ? String() : Format(day, u"dd.mm.yyyy"); }
+
+/// Day, month and year, as far as they are typed. Digits alone fall apart into two, two, and the rest.
+std::vector<String> partsOf(StringView typed) {
+  if (typed.find(u'.') != StringView::npos) return Split(typed, u".");
+  if (typed.size() != 4 && typed.size() != 6 && typed.size() != 8) return {};
+  return {String(typed.substr(0, 2)), String(typed.substr(2, 2)), String(typed.substr(4))};
+}
+
+/// Digits alone, which accepts() has seen to; 0 for none.
+int numberOf(StringView digits) { return digits.empty() ? 0 : CLng(String(digits)); }
+
+int yearOf(StringView typed) {
+  constexpr int firstOfLastCentury = 30;
+  if (typed.empty()) return civil(Today()).year;
+  const int year = numberOf(typed);
+  if (typed.size() > 2) return year;
+  return year < firstOfLastCentury ? year + 2000 : year + 1900;
 }
 
 }  // namespace
 
 TDBDate::TDBDate(Form& form, const ControlDesign& design, int tabIndex)
-    : TextEntry(form, design, tabIndex), caption_(design.text) {
+    : ValueEntry(form, design, tabIndex), caption_(design.text) {
   limitLength(static_cast<int>(longestDate));
-  show(emptyMask);
+  showValue();
 }
 
 void TDBDate::Value(const Variant& value) {
-  become(value.isNull() ? Variant(Null) : Variant(Date{std::floor(CDate(value).days)}));
-  show(value_.isNull() ? String(emptyMask) : dayText());
+  assignValue(value.isNull() ? Variant(Null) : Variant(Date{std::trunc(CDate(value).days)}));
 }
 
-void TDBDate::become(Variant value) {
-  if (value == value_) return;
-  value_ = std::move(value);
-  ValueChange.raise();
-}
+String TDBDate::displayText() const { return Value().isNull() ? String(emptyMask) : dayText(Value()); }
 
-String TDBDate::dayText() const { return value_.isNull() ? String() : Format(value_, u"dd.mm.yyyy"); }
-
-void TDBDate::show(StringView text) {
-  const bool before = std::exchange(showing_, true);
-  assignText(text);
-  showing_ = before;
-}
+String TDBDate::editText() const { return dayText(Value()); }
 
 bool TDBDate::accepts(StringView text) const {
   return text.size() <= longestDate &&
          std::ranges::all_of(text, [](char16_t c) { return c == u'.' || (c >= u'0' && c <= u'9'); });
 }
 
-void TDBDate::edited() {
-  if (showing_) return;
-  Change.raise();
-  const String typed = withPoints(Text());
-  if (typed.empty()) {
-    become(Null);
-  } else if (IsDate(typed)) {
-    become(Date{std::floor(CDate(typed).days)});
-  }
+std::optional<Variant> TDBDate::read(StringView typed) const {
+  if (typed.empty()) return Variant(Null);
+  std::vector<String> parts = partsOf(typed);
+  if (parts.size() < 2 || parts.size() > 3) return std::nullopt;
+  parts.resize(3);
+  const int day = numberOf(parts[0]);
+  const int month = numberOf(parts[1]);
+  const int year = yearOf(parts[2]);
+  if (day > 31 || month > 12 || year < leastYear || year > lastYear) return std::nullopt;
+  const Date date = dateSerial(year, month, day);
+  const CivilDate found = civil(date);
+  if (found.day != day || found.month != month) return std::nullopt;
+  return Variant(date);
+}
+
+void TDBDate::userChose(const Variant& day) {
+  const String text = dayText(day);
+  userEdited(text, 0, static_cast<int>(text.size()));
 }
 
 bool TDBDate::ownKey(const KeyStroke& stroke) {
-  switch (stroke.code) {
-    case key::F2:
-      become(Today());
-      show(dayText());
-      return true;
-    case key::F3:
-      become(Null);
-      show(u"");
-      return true;
-    default:
-      return TextEntry::ownKey(stroke);
-  }
+  if (stroke.shift != shift::None || (stroke.code != key::F2 && stroke.code != key::F3))
+    return ValueEntry::ownKey(stroke);
+  userChose(stroke.code == key::F2 ? Variant(Today()) : Variant(Null));
+  return true;
 }
-
-void TDBDate::focusEntered() {
-  show(dayText());
-  userSelected(0, static_cast<int>(Text().size()));
-  changed();
-}
-
-void TDBDate::focusLeft() { show(value_.isNull() ? String(emptyMask) : dayText()); }
 
 const PropertyEntry* TDBDate::findProperty(StringView name) const {
   static constexpr PropertyEntry entries[] = {
@@ -94,7 +90,7 @@ const PropertyEntry* TDBDate::findProperty(StringView name) const {
        [](Control& c, const Variant& value) { static_cast<TDBDate&>(c).Value(value); }},
   };
   const PropertyEntry* entry = findIn(entries, name);
-  return entry != nullptr ? entry : TextEntry::findProperty(name);
+  return entry != nullptr ? entry : ValueEntry::findProperty(name);
 }
 
 }  // namespace zqn

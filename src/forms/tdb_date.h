@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 //
-// A field for one day, "dd.mm.yyyy". A person types digits and points (two-digit years and a missing year are
-// completed), takes today with F2, empties it with F3, or picks from the calendar, which F4 opens in a
-// window. Empty it shows the mask "__.__.____" and is Null.
+// A field for one day, "dd.mm.yyyy". A person types digits and points, or digits alone (two-digit years and a
+// missing year are completed), takes today with F2, empties it with F3, or picks from the calendar, which F4
+// opens in a window. Empty and without the focus it shows the mask "__.__.____"; it is Null then.
 //
-// `Value` follows each key as soon as the text is a day, or empty. What is no day when the focus leaves gives
-// way to the last value.
+//     tdbdValidOf.Value(Today());
+//
+// Value follows each key; a text that is no day leaves it as it was before.
 #pragma once
 
-#include "forms/text_entry.h"
+#include "forms/value_entry.h"
 
 namespace zqn {
 
-class TDBDate : public TextEntry {
+class TDBDate : public ValueEntry {
  public:
   TDBDate(Form& form, const ControlDesign& design, int tabIndex);
 
@@ -20,33 +21,29 @@ class TDBDate : public TextEntry {
   const String& Caption() const noexcept { return caption_; }
 
   /// A Date without time, or Null.
-  const Variant& Value() const noexcept { return value_; }
+  using ValueEntry::Value;
   /// Null, or anything that converts to a date; the time is dropped. Raises ValueChange when the day differs.
-  /// Error 13.
+  /// Errors 13, 6.
   void Value(const Variant& value);
-
-  Event<> ValueChange{*this, u"ValueChange"};
 
   /// What stands in the field while it is empty and without the focus.
   static constexpr StringView emptyMask = u"__.__.____";
 
+  // ---- for toolkits
+
+  /// A person picks a day, or none with Null: by key, or from a calendar. Raises what typing raises.
+  void userChose(const Variant& day);
   bool accepts(StringView text) const override;
   bool ownKey(const KeyStroke& stroke) override;
-  void focusEntered() override;
-  void focusLeft() override;
 
  protected:
-  void edited() override;
+  String displayText() const override;
+  String editText() const override;
+  std::optional<Variant> read(StringView typed) const override;
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
-  void show(StringView text);
-  void become(Variant value);
-  String dayText() const;
-
   String caption_;
-  Variant value_ = Null;
-  bool showing_ = false;
 };
 
 }  // namespace zqn

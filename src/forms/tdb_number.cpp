@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "runtime/convert.h"
 #include "runtime/locale.h"
@@ -19,14 +18,21 @@ std::size_t countDigits(StringView pattern) {
       std::ranges::count_if(pattern, [](char16_t c) { return c == u'#' || c == u'0'; }));
 }
 
+/// The digits of a pattern, without what stands around them: the parentheses of a negative one.
+StringView digitsOf(StringView pattern) {
+  const auto first = pattern.find_first_of(u"#0");
+  if (first == StringView::npos) return {};
+  return pattern.substr(first, pattern.find_last_of(u"#0") - first + 1);
+}
+
 }  // namespace
 
 TDBNumber::TDBNumber(Form& form, const ControlDesign& design, int tabIndex)
-    : TextEntry(form, design, tabIndex), format_(split(design.other.Format)) {
+    : ValueEntry(form, design, tabIndex), format_(split(design.other.Format)) {
   const auto point = format_.positive.find(u'.');
   digits_ = countDigits(StringView(format_.positive).substr(0, point));
   decimals_ = point == String::npos ? 0 : countDigits(StringView(format_.positive).substr(point));
-  show(displayText());
+  showValue();
 }
 
 TDBNumber::Sections TDBNumber::split(StringView format) {
@@ -35,46 +41,31 @@ TDBNumber::Sections TDBNumber::split(StringView format) {
   return {parts[0], parts[1], parts[2], parts[3]};
 }
 
-// ---- value
-
 void TDBNumber::Value(const Variant& value) {
-  Variant next = Null;
-  if (!value.isNull()) {
-    const double number = value.isEmpty() ? 0 : CDbl(value);
-    if (std::abs(number) >= std::pow(10.0, static_cast<double>(digits_)) ||
-        (number < 0 && format_.negative.empty()))
-      throw RuntimeError(error::InvalidPropertyValue);
-    next = number;
-  }
-  value_ = std::move(next);
-  show(focused_ ? editText() : displayText());
-  ValueChange.raise();
+  assignValue(value.isNull() ? Variant(Null) : Variant(value.isEmpty() ? 0.0 : CDbl(value)));
 }
 
+// ---- how it looks
+
 String TDBNumber::displayText() const {
-  if (value_.isNull()) return format_.null;
-  const double number = *value_.as<double>();
+  if (Value().isNull()) return format_.null;
+  const double number = *Value().as<double>();
   if (number == 0) return format_.zero;
-  const bool negative = number < 0;
-  const StringView pattern = negative ? format_.negative : format_.positive;
-  // The parentheses of a negative pattern stand around the digits.
-  const auto first = pattern.find_first_of(u"#0");
-  const auto last = pattern.find_last_of(u"#0");
-  if (first == StringView::npos) return numberText(number);
-  return String(pattern.substr(0, first)) +
-         Format(std::abs(number), pattern.substr(first, last - first + 1)) + String(pattern.substr(last + 1));
+  const StringView pattern = number < 0 ? format_.negative : format_.positive;
+  const StringView digits = digitsOf(pattern);
+  if (digits.empty()) return numberText(number);
+  const auto front = static_cast<std::size_t>(digits.data() - pattern.data());
+  return String(pattern.substr(0, front)) + Format(std::abs(number), digits) +
+         String(pattern.substr(front + digits.size()));
 }
 
 String TDBNumber::editText() const {
-  if (value_.isNull()) return {};
-  const double number = *value_.as<double>();
-  return number < 0 ? u"-" + numberText(-number) : numberText(number);
-}
-
-void TDBNumber::show(StringView text) {
-  const bool before = std::exchange(showing_, true);
-  assignText(text);
-  showing_ = before;
+  if (Value().isNull()) return {};
+  const double number = *Value().as<double>();
+  // Parentheses cannot be typed.
+  if (number < 0 && !format_.negative.empty())
+    return u"-" + Format(std::abs(number), digitsOf(format_.negative));
+  return displayText();
 }
 
 // ---- a person types
@@ -93,32 +84,10 @@ bool TDBNumber::accepts(StringView text) const {
          std::ranges::all_of(fraction, isDigit);
 }
 
-bool TDBNumber::ownKey(const KeyStroke& stroke) {
-  KeyStroke typed = stroke;
-  typed.character = typedAs(stroke.character);
-  return TextEntry::ownKey(typed);
-}
-
-void TDBNumber::edited() {
-  if (showing_) return;
-  Change.raise();
-  const bool hasDigit = std::ranges::any_of(Text(), isDigit);
-  Variant next = hasDigit ? Variant(CDbl(Text())) : Variant(Null);
-  if (next == value_) return;
-  value_ = std::move(next);
-  ValueChange.raise();
-}
-
-void TDBNumber::focusEntered() {
-  focused_ = true;
-  show(editText());
-  userSelected(0, static_cast<int>(Text().size()));
-  changed();
-}
-
-void TDBNumber::focusLeft() {
-  focused_ = false;
-  show(displayText());
+std::optional<Variant> TDBNumber::read(StringView typed) const {
+  // A sign alone is as good as nothing.
+  if (std::ranges::none_of(typed, isDigit)) return Variant(Null);
+  return Variant(CDbl(String(typed)));
 }
 
 const PropertyEntry* TDBNumber::findProperty(StringView name) const {
@@ -127,7 +96,7 @@ const PropertyEntry* TDBNumber::findProperty(StringView name) const {
        [](Control& c, const Variant& value) { static_cast<TDBNumber&>(c).Value(value); }},
   };
   const PropertyEntry* entry = findIn(entries, name);
-  return entry != nullptr ? entry : TextEntry::findProperty(name);
+  return entry != nullptr ? entry : ValueEntry::findProperty(name);
 }
 
 }  // namespace zqn

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/text_box.h"
 
+#include <algorithm>
+
 namespace zqn {
 
 TextBox::TextBox(Form& form, const ControlDesign& design, int tabIndex)
@@ -26,6 +28,68 @@ void TextBox::Alignment(zqn::Alignment alignment) {
   changed();
 }
 
+// ---- several lines
+
+namespace {
+
+constexpr StringView lineBreak = u"\r\n";
+
+}  // namespace
+
+String TextBox::pastedAs(StringView text) const {
+  return MultiLine() ? withBreaks(text, lineBreak) : TextEntry::pastedAs(text);
+}
+
+int TextBox::startOfLine(int position) const {
+  const auto before = StringView(Text()).substr(0, static_cast<std::size_t>(position)).rfind(u'\n');
+  return before == StringView::npos ? 0 : static_cast<int>(before) + 1;
+}
+
+int TextBox::endOfLine(int position) const {
+  const auto end = Text().find(u'\n', static_cast<std::size_t>(position));
+  if (end == String::npos) return static_cast<int>(Text().size());
+  const bool afterReturn = end > 0 && Text()[end - 1] == u'\r';
+  return static_cast<int>(afterReturn ? end - 1 : end);
+}
+
+bool TextBox::ownKey(const KeyStroke& stroke) {
+  const bool ctrl = (stroke.shift & shift::Ctrl) != 0;
+  if (!MultiLine() || (stroke.shift & shift::Alt) != 0) return TextEntry::ownKey(stroke);
+  if (stroke.code == key::Enter) {
+    userPasted(lineBreak);
+    return true;
+  }
+  if (ctrl) return TextEntry::ownKey(stroke);
+  const bool extend = (stroke.shift & shift::Shift) != 0;
+  const int start = startOfLine(caret());
+  const int end = endOfLine(caret());
+  const int column = caret() - start;
+  switch (stroke.code) {
+    case key::Home:
+      moveCaret(start, extend);
+      return true;
+    case key::End:
+      moveCaret(end, extend);
+      return true;
+    case key::Up:
+      if (start > 0) {
+        const int above = startOfLine(start - 1);
+        moveCaret(std::min(above + column, endOfLine(above)), extend);
+      }
+      return true;
+    case key::Down:
+      if (end < static_cast<int>(Text().size())) {
+        const int below = static_cast<int>(Text().find(u'\n', static_cast<std::size_t>(end))) + 1;
+        moveCaret(std::min(below + column, endOfLine(below)), extend);
+      }
+      return true;
+    default:
+      return TextEntry::ownKey(stroke);
+  }
+}
+
+// ---- automation
+
 const PropertyEntry* TextBox::findProperty(StringView name) const {
   static constexpr PropertyEntry entries[] = {
       {u"Text", [](const Control& c) { return Variant(static_cast<const TextBox&>(c).Text()); },
@@ -37,6 +101,8 @@ const PropertyEntry* TextBox::findProperty(StringView name) const {
        [](const Control& c) {
          return Variant(static_cast<std::int32_t>(static_cast<const TextBox&>(c).Alignment()));
        },
+       nullptr},
+      {u"MultiLine", [](const Control& c) { return Variant(static_cast<const TextBox&>(c).MultiLine()); },
        nullptr},
   };
   const PropertyEntry* entry = findIn(entries, name);

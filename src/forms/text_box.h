@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A field of text. Assigning `Text` by code and typing both raise Change, and only when the text differs.
+// A field of text, of one line or of several. Assigning `Text` by code and typing both raise Change, and only
+// when the text differs. Lines that a person makes or pastes are parted by CR LF.
 #pragma once
 
 #include <concepts>
@@ -25,11 +26,20 @@ class TextBox : public TextEntry {
   void MaxLength(int length);
   zqn::Alignment Alignment() const noexcept { return alignment_; }
   void Alignment(zqn::Alignment alignment);
+  /// Takes several lines. Enter, where no event has taken it away, and Ctrl+Enter begin a new one.
+  bool MultiLine() const noexcept { return design().other.MultiLine; }
+
+  // ---- for toolkits
+
+  String pastedAs(StringView text) const override;
+  bool ownKey(const KeyStroke& stroke) override;
 
  protected:
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
+  int startOfLine(int position) const;
+  int endOfLine(int position) const;
   zqn::Alignment alignment_;
 };
 

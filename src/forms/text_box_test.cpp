@@ -11,6 +11,7 @@ namespace {
 constexpr ControlDesign roster[] = {
     {u"a", ControlKind::TextBox, u"", 0, 0, 1000, 285},
     {u"five", ControlKind::TextBox, u"", 0, 300, 1000, 285, {.MaxLength = 5}},
+    {u"lines", ControlKind::TextBox, u"", 0, 600, 1000, 285, {.MultiLine = true}},
 };
 
 class TextBoxTest : public FormTest {
@@ -18,6 +19,7 @@ class TextBoxTest : public FormTest {
   TextBoxTest() {
     watchChange(a);
     watchChange(five);
+    watchChange(lines);
   }
   /// What stands left of, inside and right of the selection: "ab[cd]e".
   static String shown(const TextBox& box) {
@@ -32,12 +34,14 @@ class TextBoxTest : public FormTest {
   SampleForm form{roster};
   TextBox& a = form.Get<TextBox>(u"a");
   TextBox& five = form.Get<TextBox>(u"five");
+  TextBox& lines = form.Get<TextBox>(u"lines");
 };
 
 using TextByCode = TextBoxTest;
 using Selection = TextBoxTest;
 using Typing = TextBoxTest;
 using Clipboard = TextBoxTest;
+using SeveralLines = TextBoxTest;
 using BeyondTheBasicPlane = TextBoxTest;
 
 // ---- by code
@@ -346,6 +350,92 @@ TEST_F(Clipboard, PastesWhatMaxLengthLeavesRoomFor) {
     pressCtrl(u'v');
     EXPECT_EQ(shown(five), u"1234[]c");
   });
+}
+
+// ---- several lines
+
+TEST_F(SeveralLines, EnterBeginsANewOneWhereItReachesTheControl) {
+  show(form, [&] {
+    lines.SetFocus();
+    type(u"eins");
+    press(key::Enter);
+    type(u"zwei");
+    EXPECT_EQ(lines.Text(), u"eins\r\nzwei");
+    form.KeyPress = [](int& character) {
+      if (character == key::Enter) character = 0;
+    };
+    press(key::Enter);
+    EXPECT_EQ(lines.Text(), u"eins\r\nzwei");
+    press(key::Enter, shift::Ctrl);
+    EXPECT_EQ(lines.Text(), u"eins\r\nzwei\r\n");
+  });
+  EXPECT_EQ(a.Property(u"MultiLine"), Variant(false));
+  EXPECT_EQ(lines.Property(u"MultiLine"), Variant(true));
+}
+
+TEST_F(SeveralLines, ALineBreakIsPassedAndStruckAsOne) {
+  lines.Text(u"a\r\nb");
+  show(form, [&] {
+    lines.SetFocus();
+    pressTimes(2, key::Right);
+    EXPECT_EQ(shown(lines), u"a\r\n[]b");
+    press(key::Left);
+    EXPECT_EQ(shown(lines), u"a[]\r\nb");
+    press(key::Delete);
+    EXPECT_EQ(shown(lines), u"a[]b");
+    press(key::Enter);
+    press(key::Backspace);
+    EXPECT_EQ(shown(lines), u"a[]b");
+  });
+}
+
+TEST_F(SeveralLines, ArrowsHomeAndEndKnowThem) {
+  lines.Text(u"eins\r\nzwo\nfünf");
+  show(form, [&] {
+    lines.SetFocus();
+    press(key::Up);
+    EXPECT_EQ(shown(lines), u"[]eins\r\nzwo\nfünf");
+    press(key::End);
+    EXPECT_EQ(shown(lines), u"eins[]\r\nzwo\nfünf");
+    press(key::Down);
+    EXPECT_EQ(shown(lines), u"eins\r\nzwo[]\nfünf");
+    press(key::Down);
+    EXPECT_EQ(shown(lines), u"eins\r\nzwo\nfün[]f");
+    press(key::Home);
+    EXPECT_EQ(shown(lines), u"eins\r\nzwo\n[]fünf");
+    press(key::Down);
+    press(key::Up, shift::Shift);
+    EXPECT_EQ(shown(lines), u"eins\r\n[zwo\n]fünf");
+  });
+}
+
+TEST_F(SeveralLines, ArePastedAsLinesWithCrLf) {
+  desktop.copyToClipboard(u"eins\nzwei\rdrei\r\nvier");
+  show(form, [&] {
+    lines.SetFocus();
+    happened();
+    pressCtrl(u'v');
+    EXPECT_EQ(lines.Text(), u"eins\r\nzwei\r\ndrei\r\nvier");
+    EXPECT_EQ(happened(), "lines_Change");
+  });
+}
+
+TEST_F(SeveralLines, ALineBreakNeedsRoomForBothUnits) {
+  lines.MaxLength(5);
+  lines.Text(u"1234\r\n");
+  EXPECT_EQ(lines.Text(), u"1234");
+  show(form, [&] {
+    lines.SetFocus();
+    press(key::End);
+    press(key::Enter);
+    EXPECT_EQ(lines.Text(), u"1234");
+  });
+  happened();
+}
+
+TEST_F(SeveralLines, StayAsCodeHasPartedThem) {
+  lines.Text(u"eins\nzwei");
+  EXPECT_EQ(lines.Text(), u"eins\nzwei");
 }
 
 // ---- characters of two units

@@ -13,11 +13,13 @@ namespace zqn {
 
 namespace {
 
-/// The two units of a character beyond U+FFFF meet at this position: a caret cannot stand there.
+/// The two units of a character beyond U+FFFF, or of a line break, meet at this position: a caret cannot
+/// stand there.
 bool splitsPair(StringView text, int position) {
   const auto at = static_cast<std::size_t>(position);
-  return position > 0 && at < text.size() && unicode::isHighSurrogate(text[at - 1]) &&
-         unicode::isLowSurrogate(text[at]);
+  if (position <= 0 || at >= text.size()) return false;
+  return (unicode::isHighSurrogate(text[at - 1]) && unicode::isLowSurrogate(text[at])) ||
+         (text[at - 1] == u'\r' && text[at] == u'\n');
 }
 
 int before(StringView text, int position) {
@@ -32,6 +34,16 @@ int behind(StringView text, int position) {
 StringView cutToLength(StringView text, int units) {
   if (units >= static_cast<int>(text.size())) return text;
   return text.substr(0, static_cast<std::size_t>(splitsPair(text, units) ? units - 1 : units));
+}
+
+String withBreaks(StringView text, StringView lineBreak) {
+  String all;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isBreak = text[i] == u'\r' || text[i] == u'\n';
+    all += isBreak ? lineBreak : text.substr(i, 1);
+    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') ++i;
+  }
+  return all;
 }
 
 TextEntry::TextEntry(Form& form, const ControlDesign& design, int tabIndex)
@@ -62,6 +74,7 @@ void TextEntry::SelLength(int length) {
 
 void TextEntry::userEdited(StringView text, int selStart, int selLength) {
   const bool differs = text_ != text;
+  if (differs && !accepts(text)) return changed();
   text_ = text;
   userSelected(selStart, selLength);
   if (!differs) return;
@@ -76,15 +89,10 @@ void TextEntry::userSelected(int selStart, int selLength) {
   caretAtStart_ = false;
 }
 
+String TextEntry::pastedAs(StringView text) const { return withBreaks(text, u" "); }
+
 void TextEntry::userPasted(StringView text) {
-  if (text.empty()) return;
-  // A one-line field takes the lines of a text as words of one line.
-  String line;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
-    line += text[i] == u'\r' || text[i] == u'\n' ? u' ' : text[i];
-  }
-  replaceSelection(line);
+  if (!text.empty()) replaceSelection(pastedAs(text));
 }
 
 void TextEntry::replaceSelection(StringView text) {
@@ -94,7 +102,6 @@ void TextEntry::replaceSelection(StringView text) {
   }
   String edited = text_;
   edited.replace(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_), text);
-  if (!accepts(edited)) return;
   userEdited(edited, selStart_ + static_cast<int>(text.size()), 0);
 }
 
@@ -134,13 +141,12 @@ bool TextEntry::ownKey(const KeyStroke& stroke) {
   if ((stroke.shift & shift::Ctrl) != 0 && ownControlKey(stroke)) return true;
   const bool extend = (stroke.shift & shift::Shift) != 0;
   const bool collapse = selLength_ > 0 && !extend;
-  const int caret = caretAtStart_ ? selStart_ : selStart_ + selLength_;
   switch (stroke.code) {
     case key::Left:
-      moveCaret(collapse ? selStart_ : before(text_, caret), extend);
+      moveCaret(collapse ? selStart_ : before(text_, caret()), extend);
       return true;
     case key::Right:
-      moveCaret(collapse ? selStart_ + selLength_ : behind(text_, caret), extend);
+      moveCaret(collapse ? selStart_ + selLength_ : behind(text_, caret()), extend);
       return true;
     case key::Home:
       moveCaret(0, extend);
@@ -162,13 +168,14 @@ bool TextEntry::ownKey(const KeyStroke& stroke) {
     default:
       break;
   }
-  if (stroke.character < u' ' || stroke.character == u'\x7f') return false;
-  if (unicode::isHighSurrogate(stroke.character)) {
-    firstHalf_ = stroke.character;
-  } else if (!unicode::isLowSurrogate(stroke.character)) {
-    replaceSelection(StringView(&stroke.character, 1));
+  const char16_t typed = typedAs(stroke.character);
+  if (typed < u' ' || typed == u'\x7f') return false;
+  if (unicode::isHighSurrogate(typed)) {
+    firstHalf_ = typed;
+  } else if (!unicode::isLowSurrogate(typed)) {
+    replaceSelection(StringView(&typed, 1));
   } else if (firstHalf != u'\0') {
-    replaceSelection(String{firstHalf, stroke.character});
+    replaceSelection(String{firstHalf, typed});
   }
   return true;
 }

@@ -12,8 +12,10 @@
 
 namespace zqn {
 
-/// The front of a text, at most so many units, and never half a character.
+/// The front of a text, at most so many units, and never half a character or half a line break.
 StringView cutToLength(StringView text, int units);
+/// The text with each of its line breaks (CR LF, CR or LF) written like this.
+String withBreaks(StringView text, StringView lineBreak);
 
 class TextEntry : public Control {
  public:
@@ -36,11 +38,14 @@ class TextEntry : public Control {
   virtual bool accepts(StringView) const { return true; }
   /// What a typed character stands for in this field.
   virtual char16_t typedAs(char16_t character) const { return character; }
-  /// A person has edited: the whole text as it is now. Raises Change when it differs.
+  /// What of a pasted text goes in: of several lines the words, blanks between them.
+  virtual String pastedAs(StringView text) const;
+  /// A person has edited: the whole text as it is now. Raises Change when it differs. A text that is not
+  /// accepted changes nothing, and the view draws the old one again.
   void userEdited(StringView text, int selStart, int selLength);
   /// A person has moved the caret or the selection.
   void userSelected(int selStart, int selLength);
-  /// A person pastes; the part that the limit leaves room for goes in, line breaks become blanks.
+  /// A person pastes; the part that the limit leaves room for goes in.
   void userPasted(StringView text);
   bool ownKey(const KeyStroke& stroke) override;
   String content() const override { return text_; }
@@ -54,11 +59,13 @@ class TextEntry : public Control {
   /// The text is another one. Raises Change; a derived kind may do more.
   virtual void edited() { Change.raise(); }
   void limitLength(int units) { lengthLimit_ = units; }
+  /// Where the caret stands: the end of the selection that moves.
+  int caret() const noexcept { return caretAtStart_ ? selStart_ : selStart_ + selLength_; }
+  void moveCaret(int position, bool extend);
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
   void replaceSelection(StringView text);
-  void moveCaret(int position, bool extend);
   bool ownControlKey(const KeyStroke& stroke);
 
   String text_;

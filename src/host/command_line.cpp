@@ -21,8 +21,17 @@ CommandFailure wrongUsage(const std::string& message) {
 
 /// The texts of the arguments that need more reading than CLI11 does.
 struct Texts {
-  std::string user, ui, today, appPath, kind, params, script, transcript;
+  std::string user, ui = "qt", kind;
+  std::optional<std::string> today, appPath, params, script, transcript;
   std::vector<std::string> positional, settings, userSettings;
+  bool noSession = false;
+};
+
+class HelpFormat : public CLI::Formatter {
+ public:
+  std::string make_option_usage(const CLI::Option* option) const override {
+    return option->get_name() == "PARAM" ? "[PARAM ...]" : CLI::Formatter::make_option_usage(option);
+  }
 };
 
 std::int32_t readKind(const std::string& text) {
@@ -100,7 +109,7 @@ void addHostOptions(CLI::App& app, HostOptions& host, Texts& texts) {
   app.add_option("--user", texts.user, "User of the session; the login name unless given")
       ->option_text("NAME");
   app.add_flag("--admin", host.admin, "The user is an administrator");
-  app.add_flag("!--no-session", host.session, "Hand over the connection alone, no session");
+  app.add_flag("--no-session", texts.noSession, "Hand over the connection alone, no session");
   app.add_option("--set", texts.settings, "A global setting for this run")
       ->allow_extra_args(false)
       ->option_text("SECTION/KEY=VALUE");
@@ -118,25 +127,25 @@ void addHostOptions(CLI::App& app, HostOptions& host, Texts& texts) {
 
 void readHostTexts(HostOptions& host, const Texts& texts) {
   host.user = fromUtf8(texts.user);
+  host.session = !texts.noSession;
   for (const std::string& text : texts.settings) host.settings.push_back(readSetting("--set", text));
   for (const std::string& text : texts.userSettings) host.settings.push_back(readSetting("--set-user", text));
-  if (!texts.appPath.empty()) host.appPath = readFolder(texts.appPath);
-  if (!texts.today.empty()) host.today = readDay(texts.today);
+  if (texts.appPath) host.appPath = readFolder(*texts.appPath);
+  if (texts.today) host.today = readDay(*texts.today);
 }
 
-void readShowTexts(ShowOptions& show, const CLI::App& app, const Texts& texts) {
+void readShowTexts(ShowOptions& show, const Texts& texts) {
   show.kind = readKind(texts.kind);
-  const bool asJson = app.count("--params") > 0;
-  if (asJson && !texts.positional.empty())
+  if (texts.params && !texts.positional.empty())
     throw wrongUsage("Param is given twice; write it as arguments behind KIND or as --params, not both");
-  show.param = asJson ? readParams(texts.params) : textParams(texts.positional);
+  show.param = texts.params ? readParams(*texts.params) : textParams(texts.positional);
   if (texts.ui == "headless") {
     show.ui = Ui::Headless;
   } else if (texts.ui != "qt") {
     throw wrongUsage("--ui '" + texts.ui + "' is unknown; write qt or headless");
   }
-  if (app.count("--script") > 0) show.script = texts.script;
-  if (app.count("--transcript") > 0) show.transcript = texts.transcript;
+  if (texts.script) show.script = *texts.script;
+  if (texts.transcript) show.transcript = *texts.transcript;
 }
 
 /// An option in front of the command would be read as the desk's and have no effect.
@@ -152,12 +161,12 @@ void refuseOptionsInFront(const CLI::App& app, const CLI::App& command) {
 Options parseCommandLine(int argc, const char* const* argv) {
   Options options;
   Texts texts;
-  texts.ui = "qt";
 
   CLI::App app{"Dialogs of the merchandise-management system. Without a command: the desk with all dialogs."};
   app.name("zqn-dialog");
   app.set_version_flag("--version", "zqn-dialog " ZQN_VERSION, "Print the version and end");
   app.require_subcommand(0, 1);
+  app.formatter(std::make_shared<HelpFormat>());
   addHostOptions(app, options.host, texts);
 
   CLI::App* kinds = app.add_subcommand("kinds", "List the kinds of dialogs with form and tables");
@@ -177,7 +186,12 @@ Options parseCommandLine(int argc, const char* const* argv) {
 
   CLI::App* show = app.add_subcommand("show", "Open one dialog and print the key that it returns");
   show->add_option("KIND", texts.kind, "Number of the kind; 'zqn-dialog kinds' lists them")->required();
-  show->add_option("PARAM", texts.positional, "Elements of Param, each a text")->allow_extra_args(false);
+  // As many as come. A plain vector would take a text in brackets for a list and split it.
+  show->add_option("PARAM", texts.positional, "Elements of Param, each a text")
+      ->expected(argc)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->allow_extra_args(false)
+      ->option_text("...");
   show->add_option("--params", texts.params, "Param as a JSON array")->option_text("JSON");
   addHostOptions(*show, options.host, texts);
   show->add_option("--ui", texts.ui, "Desktop: qt or headless")->option_text("UI");
@@ -188,8 +202,7 @@ Options parseCommandLine(int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {
-    const auto chosen = app.get_subcommands();
-    options.help = chosen.empty() ? app.help() : chosen.front()->help();
+    options.help = app.help();
     options.command = Command::Help;
     return options;
   } catch (const CLI::CallForVersion& version) {
@@ -206,7 +219,7 @@ Options parseCommandLine(int argc, const char* const* argv) {
   if (show->parsed()) options.command = Command::Show;
   if (options.command != Command::Desk) refuseOptionsInFront(app, *app.get_subcommands().front());
   readHostTexts(options.host, texts);
-  if (options.command == Command::Show) readShowTexts(options.show, *show, texts);
+  if (options.command == Command::Show) readShowTexts(options.show, texts);
   return options;
 }
 

@@ -64,14 +64,12 @@ void printKey(const Variant& key) {
   std::cout << (json.is_string() ? json.get<std::string>() : json.dump()) << std::endl;
 }
 
-/// Says beforehand why nothing opens; the dialogs themselves treat it as any other call.
+/// Says beforehand why nothing opens; the call itself goes on as any other.
 void warnOfMissingForm(const Options& options) {
-  if (options.host.generic)
-    throw CommandFailure(ExitStatus::WrongUsage,
-                         "--generic: the generic form is not part of this version; leave the option out");
-  if (!isOffered(options.show.kind))
-    std::cerr << "zqn-dialog: kind " << options.show.kind
-              << " is not part of this version, nothing opens; 'zqn-dialog kinds' lists what is\n";
+  const std::int32_t kind = options.show.kind;
+  if (findKind(kind) == nullptr || isOffered(kind) || options.host.generic) return;
+  std::cerr << "zqn-dialog: kind " << kind
+            << " is not part of this version; 'zqn-dialog kinds' lists those that are\n";
 }
 
 ExitStatus statusOf(const script::ShowOutcome& outcome) {
@@ -80,8 +78,8 @@ ExitStatus statusOf(const script::ShowOutcome& outcome) {
 
 }  // namespace
 
-script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray param) {
-  const Variant returned = dialog.Show(kind, param);
+script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray param, bool generic) {
+  const Variant returned = generic ? dialog.ShowGeneric(kind, param) : dialog.Show(kind, param);
   return {.returned = returned,
           .param = std::move(param),
           .allowChanges = basBasis::bAllowChanges,
@@ -108,7 +106,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
     if (transcriptFile) recorder = std::make_unique<Recorder>(desktop, *transcriptFile);
     if (recorder)
       dialog.DblClick = [&](const Variant& key) { recorder->write(script::eventLine(u"DblClick", key)); };
-    const script::ShowOutcome outcome = callShow(dialog, request.kind, request.param);
+    const script::ShowOutcome outcome = callShow(dialog, request.kind, request.param, options.host.generic);
     if (recorder) recorder->write(script::resultLine(outcome));
     printKey(outcome.returned);
     return statusOf(outcome);
@@ -122,7 +120,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   dialog.DblClick = [&](const Variant& key) { user.writeEvent(u"DblClick", key); };
   script::ShowOutcome outcome;
   user.prepare();
-  if (!user.failed()) outcome = callShow(dialog, request.kind, request.param);
+  if (!user.failed()) outcome = callShow(dialog, request.kind, request.param, options.host.generic);
   user.finish();
   user.writeResult(outcome);
   host.connection()->observer(nullptr);

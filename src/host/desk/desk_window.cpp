@@ -98,6 +98,8 @@ QWidget* DeskWindow::makeDetails() {
   about_->setForegroundRole(QPalette::PlaceholderText);
   multiselect_ = new QCheckBox("&Mehrfachauswahl (Multiselect)");
   multiselect_->setChecked(options_.multiselect);
+  generic_ = new QCheckBox("&Allgemeines Formular (frmDialog)");
+  generic_->setChecked(options_.generic);
   openButton_ = new QPushButton("Ö&ffnen");
 
   layout->addWidget(title_);
@@ -106,6 +108,7 @@ QWidget* DeskWindow::makeDetails() {
   fields_ = new QFormLayout;
   layout->addLayout(fields_);
   layout->addWidget(multiselect_);
+  layout->addWidget(generic_);
   layout->addWidget(openButton_, 0, Qt::AlignLeft);
   layout->addStretch();
   return details;
@@ -170,7 +173,7 @@ void DeskWindow::open(std::int32_t kind) {
   CallLog::Call call = log_->begin(kind, titleOf(kind), param());
   dialog.DblClick = [&](const Variant& key) { call.picked(key); };
   showing_ = true;
-  call.returned(callShow(dialog, kind, param()));
+  call.returned(callShow(dialog, kind, param(), generic_->isChecked()));
   showing_ = false;
   activateWindow();
 }

@@ -57,7 +57,7 @@ class DeskWindow : public QMainWindow {
   QLabel *title_, *about_;
   QFormLayout* fields_;
   std::vector<QLineEdit*> paramFields_;
-  QCheckBox* multiselect_;
+  QCheckBox *multiselect_, *generic_;
   QPushButton* openButton_;
   QLabel *databaseLabel_, *userLabel_;
   QAction* adminAction_;

@@ -43,9 +43,13 @@ void HeadlessUser::mouseDownAgain(const Spot& spot) {
 }
 
 void HeadlessUser::takeEntry(Control& control, int entry) {
+  auto& combo = dynamic_cast<ComboBox&>(control);
+  if (!combo.isOpen()) {
+    mouseDown({control});
+    mouseUp({control});
+  }
   guarded(control, u"Click", [&] {
-    auto& combo = dynamic_cast<ComboBox&>(control);
-    if (control.form().mousePressed(control)) combo.userChose(entry);
+    if (combo.isOpen()) combo.userChose(entry);
   });
 }
 

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStyleOptionButton>
 #include <QTableView>
 
@@ -21,8 +22,9 @@ namespace zqn::script {
 namespace {
 
 void sendMouse(QWidget& widget, QEvent::Type type, QPoint place) {
+  const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
   const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-  QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+  QMouseEvent event(type, place, widget.mapToGlobal(place), changed, held, Qt::NoModifier);
   QApplication::sendEvent(&widget, &event);
 }
 
@@ -51,6 +53,24 @@ QKeyEvent keyEvent(const Key& key, QEvent::Type type) {
   return {type, static_cast<int>(text.toUcs4().front()), Qt::NoModifier, text};
 }
 
+/// What hears the keyboard: an open list or calendar before the window.
+QWidget& keyTarget(QWidget& window) {
+  QWidget* const top =
+      QApplication::activePopupWidget() != nullptr ? QApplication::activePopupWidget() : &window;
+  return top->focusWidget() != nullptr ? *top->focusWidget() : *top;
+}
+
+/// The words of a text; a line break may be drawn as another one.
+QStringList linesOf(StringView text) {
+  return qt::toQt(text).split(QRegularExpression(QStringLiteral("\\r\\n|\\r|\\n")));
+}
+
+bool showsBox(const QMessageBox& window, const MessageBox& box) {
+  return window.windowTitle() == qt::toQt(box.title) &&
+         window.text().split(QLatin1Char('\n')) == linesOf(box.text) &&
+         window.buttons().size() == static_cast<qsizetype>(box.buttons().size());
+}
+
 }  // namespace
 
 // ---- mouse
@@ -71,32 +91,31 @@ void QtUser::mouseDownAgain(const Spot& spot) {
 }
 
 void QtUser::takeEntry(Control& control, int entry) {
-  QWidget& area = *desktop_.mouseAreaOf(control);
   auto& combo = dynamic_cast<QComboBox&>(*desktop_.widgetOf(control));
-  sendMouse(area, QEvent::MouseButtonPress, area.rect().center());
   QAbstractItemView& drop = *combo.view();
+  if (!drop.isVisible()) {
+    mouseDown({control});
+    mouseUp({control});
+  }
   if (!drop.isVisible()) return;
-  // The button stays down over the open list until it is let go on the entry.
   const QModelIndex row = combo.model()->index(entry, combo.modelColumn());
   drop.scrollTo(row);
   const QPoint place = drop.visualRect(row).center();
-  sendMouse(*drop.viewport(), QEvent::MouseMove, place + QPoint(0, 2 * QApplication::startDragDistance()));
   sendMouse(*drop.viewport(), QEvent::MouseMove, place);
+  sendMouse(*drop.viewport(), QEvent::MouseButtonPress, place);
   sendMouse(*drop.viewport(), QEvent::MouseButtonRelease, place);
 }
 
 // ---- keys
 
 void QtUser::keyDown(Form& form, const Key& key) {
-  QDialog& window = *desktop_.windowOf(form);
   QKeyEvent event = keyEvent(key, QEvent::KeyPress);
-  QApplication::sendEvent(window.focusWidget() != nullptr ? window.focusWidget() : &window, &event);
+  QApplication::sendEvent(&keyTarget(*desktop_.windowOf(form)), &event);
 }
 
 void QtUser::keyUp(Form& form, const Key& key) {
-  QDialog& window = *desktop_.windowOf(form);
   QKeyEvent event = keyEvent(key, QEvent::KeyRelease);
-  QApplication::sendEvent(window.focusWidget() != nullptr ? window.focusWidget() : &window, &event);
+  QApplication::sendEvent(&keyTarget(*desktop_.windowOf(form)), &event);
 }
 
 // ---- windows
@@ -117,6 +136,9 @@ std::vector<String> QtUser::differences(Form& form) {
   std::vector<String> lines;
   for (const QString& line : desktop_.differences(form).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
     lines.emplace_back(qt::fromQt(line));
+  const MessageBox* box = desktop_.openMessageBox();
+  if (box != nullptr && desktop_.openBox() != nullptr && !showsBox(*desktop_.openBox(), *box))
+    lines.emplace_back(u"the message box says something else");
   return lines;
 }
 

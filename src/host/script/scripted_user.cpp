@@ -136,11 +136,12 @@ void ScriptedUser::fail(int lineNumber, const std::string& reason) {
 void ScriptedUser::write(const Json& line) {
   if (failed_) return;
   put(line);
-  Form* form = desktop_.activeForm();
-  if (form == nullptr || !form->Visible()) return;
   std::string differing;
-  for (const String& difference : input_.differences(*form))
-    differing += (differing.empty() ? "" : "; ") + toUtf8(difference);
+  for (Form* form : open_) {
+    if (!form->Visible()) continue;
+    for (const String& difference : input_.differences(*form))
+      differing += (differing.empty() ? "" : "; ") + toUtf8(difference);
+  }
   if (!differing.empty()) fail(reader_.lineNumber(), "the window differs from the form: " + differing);
 }
 
@@ -157,11 +158,13 @@ void ScriptedUser::writeAuskunft(StringView name, StringView title) { write(ausk
 
 void ScriptedUser::formShown(Form& form) {
   hands_.somethingOpened();
+  open_.push_back(&form);
   write(shownLine(form));
 }
 
 void ScriptedUser::formClosed(Form& form) {
   hands_.formClosed(form);
+  std::erase(open_, &form);
   closings_.erase(&form);
   write(closedLine(form));
 }

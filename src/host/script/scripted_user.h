@@ -18,6 +18,7 @@
 #include <iosfwd>
 #include <map>
 #include <optional>
+#include <vector>
 
 #include "forms/desktop.h"
 #include "host/script/fault_injector.h"
@@ -86,6 +87,8 @@ class ScriptedUser : public DesktopListener {
   std::ostream& transcript_;
   /// Read by prepare, to be run when the form stands open.
   std::optional<PendingLine> ahead_;
+  /// From the bottom to the top.
+  std::vector<Form*> open_;
   /// How often the end of the script has tried to close a form.
   std::map<const Form*, int> closings_;
   bool failed_ = false;

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <utility>
 
+#include "forms/combo_box.h"
 #include "host/script/control_kinds.h"
 #include "host/script/key_names.h"
 #include "host/script/line_functions.h"
@@ -57,6 +58,9 @@ void focus(const Scene& scene, const Arguments& line) {
   Control& control = scene.usableControl(line.text("focus"));
   if (!traitsOf(control).entry) throw Refusal(describe(control) + ", which is no entry control");
   scene.hands.click(spotOf(control));
+  // A click opens a drop-down; another one closes it again.
+  const auto* combo = dynamic_cast<const ComboBox*>(&control);
+  if (combo != nullptr && combo->isOpen()) scene.hands.click(spotOf(control));
 }
 
 void type(const Scene& scene, const Arguments& line) {

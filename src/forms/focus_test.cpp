@@ -229,6 +229,16 @@ TEST_F(ValidateEvent, ThatMovesTheFocusToTheTargetLetsTheClickThrough) {
   });
 }
 
+TEST_F(ValidateEvent, ThatDisablesTheTargetKeepsTheFocus) {
+  a.Validate = [&](bool&) { b.Enabled(false); };
+  show(form, [&] {
+    happened();
+    press(key::Tab);
+    EXPECT_EQ(happened(), "");
+    EXPECT_EQ(focusOf(form), "a");
+  });
+}
+
 TEST_F(ValidateEvent, WithAMessageBoxSwallowsTheClickAndTheFocusMovesOn) {
   a.Validate = [&](bool&) { ask(); };
   show(form, [&] {

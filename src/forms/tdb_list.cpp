@@ -164,15 +164,15 @@ void TDBList::mark(int row, bool raise) {
 void TDBList::userSelect(int row) {
   typed_.clear();
   if (row < 0 || row >= knownRows()) return;
-  moveTo(row, unannounced_ || row != row_);
+  try {
+    moveTo(row, unannounced_ || row != row_);
+  } catch (const RuntimeError& failure) {
+    eventFailed(u"MouseDown", failure);
+  }
 }
 
 void TDBList::moveTo(int row, bool raise) {
-  try {
-    source_->Bookmark(source_->bookmarkOf(row));
-  } catch (const RuntimeError&) {
-    // A row that somebody has deleted meanwhile can be marked all the same; its texts are empty.
-  }
+  source_->Bookmark(source_->bookmarkOf(row));
   mark(row, raise);
 }
 
@@ -195,6 +195,15 @@ String TDBList::rowAsText() const {
 // ---- keys
 
 bool TDBList::ownKey(const KeyStroke& stroke) {
+  try {
+    return keyPressed(stroke);
+  } catch (const RuntimeError& failure) {
+    eventFailed(u"KeyDown", failure);
+    return true;
+  }
+}
+
+bool TDBList::keyPressed(const KeyStroke& stroke) {
   const bool control = (stroke.shift & shift::Ctrl) != 0;
   if (control && stroke.code == 'C') {
     if (row_ >= 0) Desktop::current().copyToClipboard(rowAsText());

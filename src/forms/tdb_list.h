@@ -100,7 +100,8 @@ class TDBList : public Control {
 
   /// The marked row, -1 for none.
   int Row() const noexcept { return row_; }
-  /// Rows known so far, and whether these are all. fetchRows makes more of them known, `atMost` in one call.
+  /// Rows known so far, and whether these are all. fetchRows makes more of them known, `atMost` in one call;
+  /// the provider's errors.
   int knownRows() const;
   bool rowsComplete() const;
   void fetchRows(int atMost);
@@ -116,7 +117,8 @@ class TDBList : public Control {
   int drawnWidth(int column) const;
 
   /// A person marks a row by mouse or key. Raises RowColChange when the row changes, or when none has come
-  /// since the binding.
+  /// since the binding. Where the recordset fails to move, the mark stays and the person is told, as of an
+  /// error in an event procedure.
   void userSelect(int row);
   void userDoubleClick(int row);
   /// The marked row's visible texts, tabs between them: what Ctrl+C copies.
@@ -139,6 +141,7 @@ class TDBList : public Control {
   void mark(int row, bool raise);
   /// A person's move: the row becomes the recordset's current one, too.
   void moveTo(int row, bool raise);
+  bool keyPressed(const KeyStroke& stroke);
   bool searchTyped(char16_t character);
   int rowStartingWith(StringView prefix);
 

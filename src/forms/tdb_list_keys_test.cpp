@@ -54,6 +54,24 @@ TEST_F(ListMouse, AClickBesideTheRowsDoesNothing) {
   EXPECT_EQ(happened(), "");
 }
 
+TEST_F(ListMouse, WhereTheRecordsetFailsToMoveTheMarkStaysAndThePersonIsTold) {
+  insert({u"10", u"20", u"30"});
+  auto rs = Ref<ado::Recordset>::make();
+  rs->Open(u"SELECT * FROM Stati ORDER BY Status", connection, ado::adOpenKeyset, ado::adLockOptimistic);
+  list.DataSource(rs);
+  // Leaving the row would write a key that is taken.
+  rs->Fields(u"Status").Value(u"20");
+  show(form, [&] {
+    list.userSelect(2);
+    press(key::Down);
+    type(u"3");
+    EXPECT_EQ(happened(), "!List_MouseDown:-2147217873 !List_KeyDown:-2147217873 !List_KeyDown:-2147217873");
+    EXPECT_EQ(list.Row(), 0);
+    EXPECT_EQ(rs->currentRow(), 0);
+  });
+  rs->CancelUpdate();
+}
+
 TEST_F(ListMouse, ADoubleClickComesFromTheMarkedRowAlone) {
   insert({u"10", u"20"});
   bind();
@@ -259,6 +277,19 @@ TEST_F(ListSearch, BeginsAnewAfterTheMarkHasMoved) {
   });
 }
 
+TEST_F(ListSearch, BeginsAnewAfterAClickOnTheMarkedRow) {
+  insert({u"10", u"12", u"20"});
+  bind();
+  list.userSelect(0);
+  show(form, [&] {
+    happened();
+    type(u"1");
+    list.userSelect(0);
+    type(u"2");
+    EXPECT_EQ(happened(), "RowColChange:20") << "and not 12";
+  });
+}
+
 TEST_F(ListSearch, TakesNoAccountOfCaseButOfAccents) {
   insert({u"Aal", u"Äpfel", u"Azur", u"zebra", u"Öl"});
   bind();
@@ -294,6 +325,10 @@ TEST_F(ListSearch, FindsRowsOfAListThatIsNotInTheOrderOfItsKeys) {
   show(form, [&] {
     type(u"1");
     EXPECT_EQ(list.Text(), u"10");
+    type(u"3");
+    EXPECT_EQ(list.Text(), u"30");
+    bind(u"SELECT * FROM Stati ORDER BY Status DESC");
+    press(key::End);
     type(u"3");
     EXPECT_EQ(list.Text(), u"30");
   });

@@ -24,6 +24,7 @@ class Criterion {
 
   /// The comparisons by `=` that an index can answer. They refer to the criterion.
   std::vector<ColumnEquals> equalities() const;
+  std::size_t count() const noexcept { return comparisons_.size(); }
 
   enum class Operator {
     Equal,

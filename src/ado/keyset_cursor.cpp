@@ -59,19 +59,23 @@ RowView KeysetCursor::row(int row, RowStore& buffer) {
 }
 
 int KeysetCursor::find(const Criterion& criterion, int from, int direction, RowStore& buffer) {
-  const std::vector<ColumnEquals> equalities = criterion.equalities();
+  std::vector<ColumnEquals> equalities = criterion.equalities();
+  std::erase_if(equalities, [&](const ColumnEquals& one) {
+    return (*columns_)[static_cast<std::size_t>(one.column)].baseColumn.empty();
+  });
   if (equalities.empty()) return scan(criterion, from, direction, buffer);
-  auto matches = keyset().rowsWhere(equalities);
+  const auto matches = keyset().rowsWhere(equalities);
   if (!matches) return scan(criterion, from, direction, buffer);
-  return findAmong(std::move(*matches), criterion, from, direction, buffer);
-}
-
-int KeysetCursor::findAmong(std::vector<RowHandle> matches, const Criterion& criterion, int from,
-                            int direction, RowStore& buffer) {
-  const auto fits = [&](int at) {
+  const bool decided = equalities.size() == criterion.count();
+  return firstAmong(*matches, from, direction, [&](int at) {
+    if (decided) return true;
     const RowView view = row(at, buffer);
     return view && criterion.holds(view);
-  };
+  });
+}
+
+int KeysetCursor::firstAmong(const std::vector<RowHandle>& matches, int from, int direction,
+                             const std::function<bool(int)>& fits) {
   index_.extend(handles_);
   std::vector<int> rows;
   std::vector<RowHandle> unknown;

@@ -4,6 +4,8 @@
 // asked for.
 #pragma once
 
+#include <functional>
+
 #include "ado/cursor.h"
 #include "ado/handle_index.h"
 
@@ -30,8 +32,9 @@ class KeysetCursor : public Cursor {
 
  private:
   Keyset& keyset();
-  int findAmong(std::vector<RowHandle> matches, const Criterion& criterion, int from, int direction,
-                RowStore& buffer);
+  /// The first of the rows with these handles from `from` on that fits; reads keys until it is met.
+  int firstAmong(const std::vector<RowHandle>& matches, int from, int direction,
+                 const std::function<bool(int)>& fits);
 
   Provider& provider_;
   String statement_;

@@ -78,9 +78,9 @@ class Keyset {
   virtual bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) = 0;
   /// Adds that row's values to `rows`; false (and nothing added) when the row is gone.
   virtual bool readRow(RowHandle row, RowStore& rows) = 0;
-  /// Handles of the rows of the table, in any order, for which all comparisons may hold: none that holds is
-  /// missing. Texts compare by the database's collation. No value when the database cannot tell better than
-  /// by reading every row through readRow.
+  /// Handles of the rows of the table, in any order, for which all comparisons hold, each with a column that
+  /// has a base column. Texts compare by the database's collation. No value when the database cannot tell
+  /// better than by reading every row through readRow.
   virtual std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) = 0;
 };
 

@@ -2,15 +2,12 @@
 #include "ado/sqlite/keyset.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "ado/field_values.h"
 
 namespace zqn::ado::sqlite {
 
 namespace {
-
-constexpr std::size_t AllKeys = std::numeric_limits<std::size_t>::max();
 
 bool inMainDatabase(sqlite3_stmt* statement, int column) {
   const char* database = sqlite3_column_database_name(statement, column);
@@ -37,10 +34,13 @@ SqliteKeyset::SqliteKeyset(std::shared_ptr<Session> session, const KeyedSelect& 
 SqliteKeyset::~SqliteKeyset() { end(); }
 
 void SqliteKeyset::begin() {
-  if (beginThroughReader()) return;
-  keyDatabase_ = session_->database;
-  keyStatement_ = keyDatabase_->prepare(keysOnly_.text);
-  readKeys(AllKeys);
+  if (!beginThroughReader()) {
+    keyDatabase_ = session_->database;
+    keyStatement_ = keyDatabase_->prepare(keysOnly_.text);
+    advance();
+    readAll();
+  }
+  begun_ = true;
 }
 
 bool SqliteKeyset::beginThroughReader() {
@@ -50,7 +50,7 @@ bool SqliteKeyset::beginThroughReader() {
                         inMainDatabase(rowStatement_.get(), static_cast<int>(handle - columns_->begin()));
   if (!sameRows) return false;
   // A statement that is still open would lend this one its view of the file, which may be out of date.
-  if (session_->reading) session_->reading->readKeys(AllKeys);
+  if (session_->reading) session_->reading->readAll();
   try {
     if (!session_->reader) {
       session_->reader =
@@ -61,43 +61,51 @@ bool SqliteKeyset::beginThroughReader() {
   } catch (const RuntimeError&) {
     return false;
   }
-  state_ = Reading::ThroughReader;
   session_->reading = this;
-  return true;
+  advance();
+  const bool readable = !failure_;
+  failure_.reset();
+  return readable;
 }
 
-void SqliteKeyset::readKeys(std::size_t atMost) {
-  for (; atMost > 0; --atMost) {
-    if (!keyDatabase_->step(keyStatement_.get())) {
-      end();
-      return;
-    }
-    read_.push_back(sqlite3_column_int64(keyStatement_.get(), keysOnly_.column));
+void SqliteKeyset::advance() {
+  try {
+    onKey_ = keyDatabase_->step(keyStatement_.get());
+  } catch (const RuntimeError& failure) {
+    onKey_ = false;
+    failure_ = failure;
+  }
+  if (!onKey_) end();
+}
+
+void SqliteKeyset::readAll() {
+  while (onKey_) {
+    readAhead_.push_back(sqlite3_column_int64(keyStatement_.get(), keysOnly_.column));
+    advance();
   }
 }
 
 void SqliteKeyset::end() noexcept {
-  state_ = Reading::Read;
   keyStatement_.reset();
   keyDatabase_.reset();
   if (session_->reading == this) session_->reading = nullptr;
 }
 
 bool SqliteKeyset::fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) {
-  if (state_ == Reading::NotBegun) begin();
-  const std::size_t waiting = read_.size() - delivered_;
-  // One more, so that the last keys are known to be the last.
-  if (state_ == Reading::ThroughReader && waiting <= atMost) readKeys(atMost - waiting + 1);
-  const std::size_t count = std::min(atMost, read_.size() - delivered_);
-  const auto first = read_.begin() + static_cast<std::ptrdiff_t>(delivered_);
+  if (!begun_) begin();
+  const std::size_t before = keys.size();
+  for (; onKey_ && atMost > 0; --atMost) {
+    keys.push_back(sqlite3_column_int64(keyStatement_.get(), keysOnly_.column));
+    advance();
+  }
+  const auto first = readAhead_.begin() + static_cast<std::ptrdiff_t>(delivered_);
+  const std::size_t count = std::min(atMost, readAhead_.size() - delivered_);
   keys.insert(keys.end(), first, first + static_cast<std::ptrdiff_t>(count));
   delivered_ += count;
-  const bool more = delivered_ < read_.size();
-  if (delivered_ == read_.size()) {
-    delivered_ = 0;
-    read_ = {};
-  }
-  return more;
+  const bool more = onKey_ || delivered_ < readAhead_.size();
+  // A list that could not be read to its end never counts as complete.
+  if (!more && failure_ && keys.size() == before) throw *failure_;
+  return more || failure_;
 }
 
 bool SqliteKeyset::readRow(RowHandle row, RowStore& rows) {
@@ -111,29 +119,24 @@ bool SqliteKeyset::readRow(RowHandle row, RowStore& rows) {
 }
 
 std::optional<std::vector<RowHandle>> SqliteKeyset::rowsWhere(std::span<const ColumnEquals> comparisons) {
-  String conditions;
-  for (const ColumnEquals& comparison : comparisons) {
-    const Column& column = (*columns_)[static_cast<std::size_t>(comparison.column)];
-    if (column.baseColumn.empty()) continue;
-    conditions += (conditions.empty() ? u" WHERE " : u" AND ") + sql::quoted(column.baseColumn);
-    conditions += isTextType(column.type) ? u"=? COLLATE ZQN_TEXT" : u"=?";
-  }
-  if (conditions.empty()) return {};
-
   const Database& database = *session_->database;
-  String text = u"SELECT " + rowId_ + u" FROM " + from_ + u"\n" + conditions;
-  if (text != whereText_) {
+  if (!std::ranges::equal(comparisons, whereColumns_, {}, &ColumnEquals::column)) {
+    String text = u"SELECT " + rowId_ + u" FROM " + from_ + u"\nWHERE 1";
+    whereColumns_.clear();
+    for (const ColumnEquals& comparison : comparisons) {
+      const Column& column = (*columns_)[static_cast<std::size_t>(comparison.column)];
+      text += u" AND " + sql::quoted(column.baseColumn) +
+              (isTextType(column.type) ? u"=? COLLATE ZQN_TEXT" : u"=?");
+      whereColumns_.push_back(comparison.column);
+    }
     whereStatement_ = database.prepare(text);
-    whereText_ = std::move(text);
   }
+  sqlite3_stmt* const statement = whereStatement_.get();
   int index = 0;
-  for (const ColumnEquals& comparison : comparisons) {
-    const bool stored = !(*columns_)[static_cast<std::size_t>(comparison.column)].baseColumn.empty();
-    if (stored) database.bind(whereStatement_.get(), ++index, comparison.value);
-  }
+  for (const ColumnEquals& comparison : comparisons) database.bind(statement, ++index, comparison.value);
   std::vector<RowHandle> rows;
-  while (database.step(whereStatement_.get())) rows.push_back(sqlite3_column_int64(whereStatement_.get(), 0));
-  sqlite3_reset(whereStatement_.get());
+  while (database.step(statement)) rows.push_back(sqlite3_column_int64(statement, 0));
+  sqlite3_reset(statement);
   return rows;
 }
 

@@ -39,7 +39,8 @@ class SqliteKeyset : public Keyset {
   SqliteKeyset(std::shared_ptr<Session> session, const KeyedSelect& keyed);
   void begin();
   bool beginThroughReader();
-  void readKeys(std::size_t atMost);
+  void advance();
+  void readAll();
   void end() noexcept;
 
   std::shared_ptr<Session> session_;
@@ -48,13 +49,16 @@ class SqliteKeyset : public Keyset {
   String from_, rowId_;
   StatementHandle rowStatement_;
   StatementHandle whereStatement_;
-  String whereText_;
+  std::vector<int> whereColumns_;  // that the statement compares
 
-  enum class Reading { NotBegun, ThroughReader, Read } state_ = Reading::NotBegun;
+  bool begun_ = false;
   std::shared_ptr<Database> keyDatabase_;
   StatementHandle keyStatement_;
-  std::vector<RowHandle> read_;  // handles read and not delivered, from delivered_ on
+  bool onKey_ = false;  // it stands on a handle that was not delivered yet
+  /// Handles read ahead, delivered up to `delivered_`; the statement has ended then.
+  std::vector<RowHandle> readAhead_;
   std::size_t delivered_ = 0;
+  std::optional<RuntimeError> failure_;  // why there are no further handles
 };
 
 }  // namespace zqn::ado::sqlite

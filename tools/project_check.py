@@ -25,13 +25,7 @@ FLOORS = {
 
 STANDARD_HEADERS = set("""
 algorithm any array atomic bit bitset cassert cctype cerrno cfloat charconv chrono cinttypes climits clocale
-cmath compare complex concepts condition_variable coroutine csignal cstdarg cstddef is_test(path):
-    """Tests, and what they share: testing.h, *_testing.h, test_support.*, *_for_tests.*, the folders suite and testing."""
-    return (path.stem.endswith(("_test", "testing", "_for_tests")) or path.stem == "test_support"
-            or path.parent.name in ("suite", "testing"))
-
-
-def cstdint cstdio cstdlib
+cmath compare complex concepts condition_variable coroutine csignal cstdarg cstddef cstdint cstdio cstdlib
 cstring ctime cwchar cwctype deque exception execution filesystem forward_list fstream functional future
 initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory
 memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex set shared_mutex
@@ -64,6 +58,12 @@ def text_of(path):
         return path.read_text(encoding="utf-8")
     except UnicodeDecodeError:
         return None  # a picture
+
+
+def is_test(path):
+    """Tests, and what they share: testing.h, *_testing.h, test_support.*, *_for_tests.*, the folders suite and testing."""
+    return (path.stem.endswith(("_test", "testing", "_for_tests")) or path.stem == "test_support"
+            or path.parent.name in ("suite", "testing"))
 
 
 def folder_of(relative):

@@ -7,6 +7,7 @@
 #include "desktop/qt/text.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/tdb_date.h"
 
 namespace zqn::qt {
 
@@ -50,14 +51,59 @@ QString labelFor(const Control& control) {
   return nearest;
 }
 
+/// A number has its unit behind it, and the words to its left may stand in front of another number of the
+/// same line: "1:" [14] "Tage" [2,00] "%".
+constexpr int reachUnit = 150;
+
+bool onOneLine(const Control& one, const Control& other) {
+  return one.container() == other.container() && one.Visible() && other.Visible() &&
+         meet(one.Top(), one.Height(), other.Top(), other.Height());
+}
+
+int gap(const Control& left, const Control& right) { return right.Left() - (left.Left() + left.Width()); }
+
+bool isUnitOf(const Control& label, const Control& field) {
+  return field.takesFocus() && onOneLine(label, field) && gap(field, label) >= 0 &&
+         gap(field, label) <= reachUnit;
+}
+
+QString nameOfNumber(const Control& number) {
+  QString words;
+  QString unit;
+  int least = farAway;
+  const auto& all = number.form().controls();
+  for (const auto& each : all) {
+    if (each->kind() != ControlKind::Label || !onOneLine(*each, number)) continue;
+    if (isUnitOf(*each, number)) unit = toQt(each->content());
+    const int left = gap(*each, number);
+    const bool ofOther = std::ranges::any_of(all, [&](const auto& other) { return isUnitOf(*each, *other); });
+    if (left < 0 || left >= least || ofOther) continue;
+    least = left;
+    words = toQt(each->content());
+  }
+  return words + QLatin1Char(' ') + unit;
+}
+
+QString nameByWords(const Control& control) {
+  switch (control.kind()) {
+    case ControlKind::TDBDate:
+      return toQt(static_cast<const TDBDate&>(control).Caption());
+    case ControlKind::TDBNumber:
+      return nameOfNumber(control);
+    default:
+      return labelFor(control);
+  }
+}
+
 bool saysWhatItIs(ControlKind kind) {
-  return kind == ControlKind::Label || kind == ControlKind::CommandButton || kind == ControlKind::CheckBox;
+  using enum ControlKind;
+  return kind == Label || kind == CommandButton || kind == CheckBox || kind == ToggleButton || kind == Frame;
 }
 
 }  // namespace
 
 QString accessibleNameOf(const Control& control) {
-  const QString words = saysWhatItIs(control.kind()) ? toQt(control.content()) : labelFor(control);
+  const QString words = saysWhatItIs(control.kind()) ? toQt(control.content()) : nameByWords(control);
   const QString name = withoutAccessKey(words).simplified();
   return name.isEmpty() ? toQt(control.fullName()) : name;
 }

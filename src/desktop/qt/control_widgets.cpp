@@ -4,10 +4,16 @@
 #include <stdexcept>
 
 #include "desktop/qt/check_box.h"
+#include "desktop/qt/combo_box.h"
 #include "desktop/qt/command_button.h"
+#include "desktop/qt/frame.h"
 #include "desktop/qt/label.h"
+#include "desktop/qt/multi_line_text_box.h"
+#include "desktop/qt/tdb_date.h"
 #include "desktop/qt/tdb_list.h"
+#include "desktop/qt/tdb_number.h"
 #include "desktop/qt/text_box.h"
+#include "desktop/qt/toggle_button.h"
 
 namespace zqn::qt {
 
@@ -18,6 +24,12 @@ ControlWidget* make(Control& control, QWidget& parent) {
   return new Widget(static_cast<Model&>(control), &parent);
 }
 
+ControlWidget* makeTextBox(Control& control, QWidget& parent) {
+  const bool severalLines = static_cast<zqn::TextBox&>(control).MultiLine();
+  return severalLines ? make<MultiLineTextBox, zqn::TextBox>(control, parent)
+                      : make<TextBox, zqn::TextBox>(control, parent);
+}
+
 struct Row {
   ControlKind kind;
   ControlWidget* (*make)(Control&, QWidget&);
@@ -25,10 +37,15 @@ struct Row {
 
 constexpr Row table[] = {
     {ControlKind::CheckBox, make<CheckBox, zqn::CheckBox>},
+    {ControlKind::ComboBox, make<ComboBox, zqn::ComboBox>},
     {ControlKind::CommandButton, make<CommandButton, zqn::CommandButton>},
+    {ControlKind::Frame, make<Frame, zqn::Frame>},
     {ControlKind::Label, make<Label, zqn::Label>},
+    {ControlKind::TDBDate, make<TDBDate, zqn::TDBDate>},
     {ControlKind::TDBList, make<TDBList, zqn::TDBList>},
-    {ControlKind::TextBox, make<TextBox, zqn::TextBox>},
+    {ControlKind::TDBNumber, make<TDBNumber, zqn::TDBNumber>},
+    {ControlKind::TextBox, makeTextBox},
+    {ControlKind::ToggleButton, make<ToggleButton, zqn::ToggleButton>},
 };
 
 }  // namespace

@@ -19,6 +19,13 @@ int scaled(int pixels, const QStyleOption* option, const QWidget* widget) {
 
 DialogStyle::DialogStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+int DialogStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* returned) const {
+  // The list of a drop-down opens below its field, not over it.
+  if (hint == SH_ComboBox_Popup) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 int DialogStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   switch (metric) {
     case PM_ExclusiveIndicatorWidth:

@@ -5,7 +5,6 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
-#include <QMenu>
 #include <QValidator>
 #include <algorithm>
 #include <climits>
@@ -13,19 +12,12 @@
 #include "desktop/qt/key_events.h"
 #include "desktop/qt/shield.h"
 #include "desktop/qt/text.h"
+#include "desktop/qt/text_editing.h"
 #include "forms/form.h"
 
 namespace zqn::qt {
 
 namespace {
-
-/// Line breaks become blanks, CR LF one of them.
-QString joined(QString text) {
-  text.replace(QLatin1String("\r\n"), QLatin1String(" "));
-  text.replace(QLatin1Char('\r'), QLatin1Char(' '));
-  text.replace(QLatin1Char('\n'), QLatin1Char(' '));
-  return text;
-}
 
 /// Refuses an edit that the model does not accept, and Qt takes it back.
 class ModelValidator : public QValidator {
@@ -103,10 +95,12 @@ void TextEntry::report() {
   });
 }
 
+QString TextEntry::pasted(const QString& text) const { return toQt(model_.pastedAs(fromQt(text))); }
+
 void TextEntry::joinLines() {
-  const QString plain = joined(text());
+  const QString plain = pasted(text());
   if (plain == text()) return;
-  const auto caret = joined(text().left(cursorPosition())).size();
+  const auto caret = pasted(text().left(cursorPosition())).size();
   ++editing_;
   selectAll();
   insert(plain);  // one step that can be undone
@@ -114,33 +108,25 @@ void TextEntry::joinLines() {
   --editing_;
 }
 
-void TextEntry::pasteLine() { insert(joined(QGuiApplication::clipboard()->text())); }
+void TextEntry::pasteLine() { insert(pasted(QGuiApplication::clipboard()->text())); }
 
 void TextEntry::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
+  KeyStroke typed = stroke;
+  typed.character = model_.typedAs(stroke.character);
   edit([&] {
     if (event.matches(QKeySequence::Paste)) {
       pasteLine();
-    } else if (asTyped) {
+    } else if (asTyped && typed.character == stroke.character) {
       QLineEdit::keyPressEvent(&event);
     } else {
-      QKeyEvent other = eventOf(stroke, QEvent::KeyPress);
+      QKeyEvent other = eventOf(typed, QEvent::KeyPress);
       QLineEdit::keyPressEvent(&other);
     }
   });
 }
 
 void TextEntry::inputMethodEvent(QInputMethodEvent* event) {
-  // What is committed as one character is a key press like any other.
-  const QString committed = event->commitString();
-  QString left = committed;
-  if (committed.size() == 1) {
-    shielded(model_, u"KeyPress", [&] {
-      const KeyOutcome outcome = model_.form().keyPressed(KeyStroke::ofCharacter(committed.at(0).unicode()));
-      left =
-          outcome.own && outcome.stroke.character != 0 ? QString(QChar(outcome.stroke.character)) : QString();
-    });
-  }
-  event->setCommitString(left, event->replacementStart(), event->replacementLength());
+  passAsKeyPress(*event, model_);
   edit([&] { QLineEdit::inputMethodEvent(event); });
 }
 
@@ -152,21 +138,18 @@ void TextEntry::focusOutEvent(QFocusEvent* event) {
 }
 
 void TextEntry::contextMenuEvent(QContextMenuEvent* event) {
-  const auto add = [this](const char16_t* words, bool enabled, auto act) {
-    menu_->addAction(QString::fromUtf16(words), this, act)->setEnabled(enabled);
-  };
-  const bool writable = isEnabled() && !isReadOnly();
-  const bool selected = hasSelectedText();
-  menu_ = std::make_unique<QMenu>(this);
-  add(u"Rückgängig", writable && isUndoAvailable(), &QLineEdit::undo);
-  add(u"Wiederherstellen", writable && isRedoAvailable(), &QLineEdit::redo);
-  menu_->addSeparator();
-  add(u"Ausschneiden", writable && selected, &QLineEdit::cut);
-  add(u"Kopieren", selected, &QLineEdit::copy);
-  add(u"Einfügen", writable && !QGuiApplication::clipboard()->text().isEmpty(), &TextEntry::pasteLine);
-  add(u"Löschen", writable && selected, &QLineEdit::del);
-  menu_->addSeparator();
-  add(u"Alles auswählen", !text().isEmpty(), &QLineEdit::selectAll);
+  menu_ = makeEditMenu(*this, {.undo = [this] { undo(); },
+                               .redo = [this] { redo(); },
+                               .cut = [this] { cut(); },
+                               .copy = [this] { copy(); },
+                               .paste = [this] { pasteLine(); },
+                               .remove = [this] { del(); },
+                               .selectAll = [this] { selectAll(); },
+                               .writable = isEnabled() && !isReadOnly(),
+                               .canUndo = isUndoAvailable(),
+                               .canRedo = isRedoAvailable(),
+                               .selected = hasSelectedText(),
+                               .filled = !text().isEmpty()});
   menu_->popup(event->globalPos());
   event->accept();
 }

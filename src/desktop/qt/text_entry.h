@@ -41,6 +41,7 @@ class TextEntry : public QLineEdit, public ControlWidget {
   int shownSelLength() const { return static_cast<int>(selectedText().size()); }
   void edit(const std::function<void()>& natively);
   void report();
+  QString pasted(const QString& text) const;
   void joinLines();
   void pasteLine();
 

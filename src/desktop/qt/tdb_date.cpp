@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/qt/tdb_date.h"
+
+#include <QPainter>
+#include <QScreen>
+#include <QStyleOptionFrame>
+#include <algorithm>
+
+#include "desktop/qt/shield.h"
+#include "desktop/qt/text.h"
+#include "forms/form.h"
+#include "runtime/convert.h"
+
+namespace zqn::qt {
+
+namespace {
+
+constexpr int gapBehindCaption = 45;  // twips
+
+QDate toQt(Date date) {
+  const CivilDate day = civil(date);
+  return {day.year, day.month, day.day};
+}
+
+}  // namespace
+
+TDBDate::TDBDate(zqn::TDBDate& model, QWidget* parent) : TextEntry(model, parent), model_(model) {
+  button_.setFocusPolicy(Qt::NoFocus);
+  button_.setArrowType(Qt::DownArrow);
+  button_.setCursor(Qt::ArrowCursor);
+  button_.setAccessibleName(QStringLiteral("Kalender"));
+  button_.setToolTip(QStringLiteral("Kalender (F4)"));
+  connect(&button_, &QToolButton::clicked, this, [this] {
+    shielded(model_, u"MouseDown", [this] {
+      if (model_.form().mousePressed(model_)) openCalendar();
+    });
+  });
+}
+
+TDBDate::~TDBDate() = default;
+
+// ---- drawing
+
+QString TDBDate::caption() const { return qt::toQt(model_.Caption()); }
+
+int TDBDate::captionWidth() const {
+  if (caption().isEmpty()) return 0;
+  return fontMetrics().horizontalAdvance(caption()) + Scale(*this).x(gapBehindCaption);
+}
+
+void TDBDate::initStyleOption(QStyleOptionFrame* option) const {
+  TextEntry::initStyleOption(option);
+  // Frame, text and caret are the field's alone.
+  option->rect.setLeft(captionWidth());
+}
+
+void TDBDate::placeButton() {
+  const int side = height() - 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) - 2;
+  const int width = side * 3 / 4;
+  const int text = fontMetrics().horizontalAdvance(qt::toQt(zqn::TDBDate::emptyMask));
+  const bool fits = this->width() - captionWidth() >= text + width + side / 2;
+  if (button_.isHidden() == fits) button_.setVisible(fits);
+  button_.setGeometry(this->width() - width - (height() - side) / 2, (height() - side) / 2, width, side);
+  const QMargins margins(0, 0, fits ? width : 0, 0);
+  if (textMargins() != margins) setTextMargins(margins);
+}
+
+void TDBDate::draw() {
+  placeButton();
+  TextEntry::draw();
+}
+
+void TDBDate::resizeEvent(QResizeEvent* event) {
+  TextEntry::resizeEvent(event);
+  placeButton();
+}
+
+void TDBDate::paintEvent(QPaintEvent* event) {
+  TextEntry::paintEvent(event);
+  if (caption().isEmpty()) return;
+  QPainter painter(this);
+  style()->drawItemText(&painter, QRect(0, 0, captionWidth(), height()), Qt::AlignLeft | Qt::AlignVCenter,
+                        palette(), isEnabled(), caption(), QPalette::WindowText);
+}
+
+// ---- the calendar
+
+void TDBDate::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
+  const bool plain = stroke.shift == shift::None;
+  if (plain && stroke.code == key::F4) {
+    openCalendar();
+  } else if (plain && (stroke.code == key::F2 || stroke.code == key::F3)) {
+    model_.ownKey(stroke);
+  } else {
+    TextEntry::ownKey(event, stroke, asTyped);
+  }
+}
+
+void TDBDate::openCalendar() {
+  calendar_ = std::make_unique<QCalendarWidget>(this);
+  calendar_->setWindowFlag(Qt::Popup);
+  calendar_->setLocale(QLocale(QLocale::German, QLocale::Germany));
+  calendar_->setFirstDayOfWeek(Qt::Monday);
+  calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  calendar_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+  const Variant& value = model_.Value();
+  calendar_->setSelectedDate(toQt(value.isNull() ? Today() : *value.as<Date>()));
+  connect(calendar_.get(), &QCalendarWidget::activated, this, &TDBDate::choose);
+  connect(calendar_.get(), &QCalendarWidget::clicked, this, &TDBDate::choose);
+
+  const QRect room = screen()->availableGeometry();
+  const QSize size = calendar_->sizeHint();
+  QPoint place = mapToGlobal(QPoint(captionWidth(), height()));
+  if (place.y() + size.height() > room.bottom()) place.ry() -= size.height() + height();
+  place.setX(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - size.width())));
+  calendar_->move(place);
+  // Before it is shown: the field keeps the focus, the calendar hears the keys.
+  calendar_->setFocus();
+  calendar_->show();
+}
+
+void TDBDate::choose(const QDate& day) {
+  if (!calendar()) return;
+  calendar_->hide();
+  shielded(model_, u"Change", [&] { model_.userChose(dateSerial(day.year(), day.month(), day.day())); });
+}
+
+}  // namespace zqn::qt

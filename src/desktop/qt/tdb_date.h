@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+//
+// Draws a TDBDate: its caption, a field behind it, and a button that opens a calendar where there is room for
+// one. F4 opens the calendar, too.
+#pragma once
+
+#include <QCalendarWidget>
+#include <QToolButton>
+#include <memory>
+
+#include "desktop/qt/text_entry.h"
+#include "forms/tdb_date.h"
+
+namespace zqn::qt {
+
+class TDBDate : public TextEntry {
+ public:
+  TDBDate(zqn::TDBDate& model, QWidget* parent);
+  ~TDBDate() override;
+
+  void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) override;
+  /// The calendar, when it is open.
+  QCalendarWidget* calendar() const {
+    return calendar_ && calendar_->isVisible() ? calendar_.get() : nullptr;
+  }
+
+ protected:
+  void draw() override;
+
+  void initStyleOption(QStyleOptionFrame* option) const override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QString caption() const;
+  int captionWidth() const;
+  void placeButton();
+  void openCalendar();
+  void choose(const QDate& day);
+
+  zqn::TDBDate& model_;
+  QToolButton button_{this};
+  std::unique_ptr<QCalendarWidget> calendar_;
+};
+
+}  // namespace zqn::qt

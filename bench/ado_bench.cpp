@@ -338,6 +338,11 @@ void RowIsAdded(benchmark::State& state) {
 constexpr std::int64_t Million = 1000000;
 
 BENCHMARK(ListOpensWithItsFirstPage)
+    ->Arg(30)
+    ->UseManualTime()
+    ->Iterations(5000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(ListOpensWithItsFirstPage)
     ->Arg(Million)
     ->UseManualTime()
     ->Iterations(5)

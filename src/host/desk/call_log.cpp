@@ -34,7 +34,7 @@ CallLog::CallLog(QWidget* parent) : QTreeWidget(parent) {
   setAccessibleName("Aufrufe");
   setColumnCount(2);
   setHeaderLabels({"Aufruf", "Wert"});
-  header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  header()->resizeSection(0, 160);
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
 }

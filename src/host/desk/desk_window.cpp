@@ -36,7 +36,7 @@ StringView titleOf(std::int32_t kind) {
 QString aboutText(const KindInfo& info) {
   QStringList parts{QString("Art %1").arg(info.number), toQt(info.constant), toQt(info.form)};
   if (*info.definition) parts += toQt(info.definition);
-  if (*info.tables) parts += "Tabellen: " + toQt(info.tables).replace(",", ", ");
+  if (*info.tables) parts += toQt(info.tables).replace(",", ", ");
   return parts.join("  ·  ");
 }
 
@@ -98,7 +98,7 @@ QWidget* DeskWindow::makeDetails() {
   about_->setForegroundRole(QPalette::PlaceholderText);
   multiselect_ = new QCheckBox("&Mehrfachauswahl (Multiselect)");
   multiselect_->setChecked(options_.multiselect);
-  generic_ = new QCheckBox("&Allgemeines Formular (frmDialog)");
+  generic_ = new QCheckBox("Allgemeines Formula&r (frmDialog)");
   generic_->setChecked(options_.generic);
   openButton_ = new QPushButton("Ö&ffnen");
 
@@ -134,7 +134,7 @@ void DeskWindow::makeActions() {
     showSession();
   });
   adminAction_->setCheckable(true);
-  add(session, "&Einstellungen…", QKeySequence("Ctrl+E"), [this] { changeSettings(); });
+  add(session, "&Einstellungen…", QKeySequence("Ctrl+,"), [this] { changeSettings(); });
 
   QMenu* view = menuBar()->addMenu("&Ansicht");
   add(view, "Dialog &suchen", QKeySequence("Ctrl+F"), [this] { list_->search(); });
@@ -153,6 +153,7 @@ void DeskWindow::showKind(std::int32_t kind) {
   if (info == nullptr) return;
   for (const StringView name : paramNames(kind)) {
     auto* field = new QLineEdit;
+    field->setAccessibleName(toQt(name));
     connect(field, &QLineEdit::returnPressed, this, [this] { open(list_->kind()); });
     fields_->addRow(toQt(name) + ":", field);
     paramFields_.push_back(field);

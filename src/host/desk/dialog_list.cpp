@@ -68,6 +68,8 @@ void DialogList::fill() {
     if (subject == nullptr || subject->text(0) != toQt(title.subject)) {
       subject = new QTreeWidgetItem(tree_, {toQt(title.subject)});
       subject->setFlags(Qt::ItemIsEnabled);
+      // The first row's height is every row's.
+      subject->setSizeHint(0, QSize(0, fontMetrics().height() * 3 / 2));
       QFont bold = tree_->font();
       bold.setBold(true);
       subject->setFont(0, bold);

@@ -34,13 +34,24 @@ struct Known {
   const char16_t *section, *key;
   bool ofUser;
   const char16_t* otherwise;
+  const char* meaning;
 };
+constexpr const char* adminsOnly = "1: nur Administratoren dürfen ändern; 0: alle";
+constexpr const char* allowVPSave =
+    "Arten von Dialogen, die trotzdem alle ändern dürfen, hinter jeder ein Semikolon";
 constexpr Known known[] = {
-    {u"ZQNComDlg", u"AdminsOnly", false, u"0"},
-    {u"ZQNComDlg", u"AllowVPSave", true, u"7;"},
-    {u"ZQNComDlg", u"AllowVPSave", false, u"7;"},
-    {u"Allgemein", u"Landeswährung", false, u"EUR"},
+    {u"ZQNComDlg", u"AdminsOnly", false, u"0", adminsOnly},
+    {u"ZQNComDlg", u"AllowVPSave", true, u"7;", allowVPSave},
+    {u"ZQNComDlg", u"AllowVPSave", false, u"7;", allowVPSave},
+    {u"Allgemein", u"Landeswährung", false, u"EUR", "Währung neuer Preislisten"},
 };
+
+const char* meaningOf(const SettingName& name) {
+  for (const Known& setting : known)
+    if (compareCollated(name.section, setting.section) == 0 && compareCollated(name.key, setting.key) == 0)
+      return setting.meaning;
+  return "";
+}
 
 bool same(const SettingName& left, const SettingName& right) {
   return compareCollated(left.section, right.section) == 0 && compareCollated(left.key, right.key) == 0 &&
@@ -66,6 +77,7 @@ SettingsDialog::SettingsDialog(SettingsStore& store, const String& user, QWidget
   table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setHighlightSections(false);
   table_->verticalHeader()->hide();
+  table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 7 / 4);
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
   table_->setTabKeyNavigation(false);
 
@@ -102,6 +114,7 @@ void SettingsDialog::addLine(const SettingName& name, const QString& value, bool
        {std::pair(Section, toQt(name.section)), {Key, toQt(name.key)}, {Scope, scope}}) {
     auto* item = new QTableWidgetItem(text);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    item->setToolTip(meaningOf(name));
     table_->setItem(row, column, item);
   }
   auto* item = new QTableWidgetItem(value);

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "desktop/headless/headless_desktop.h"
+#include "frontend/kinds.h"
+#include "host/database.h"
+#include "host/desk/desk_window.h"
+#include "host/desk/dialog_titles.h"
+#include "host/desk/settings_dialog.h"
+#include "runtime/convert.h"
+
+namespace zqn::host {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+
+template <class Widget>
+Widget& named(QWidget& window, const QString& accessibleName) {
+  for (Widget* widget : window.findChildren<Widget*>())
+    if (widget->accessibleName() == accessibleName) return *widget;
+  throw std::logic_error("no such widget: " + accessibleName.toStdString());
+}
+
+QStringList visibleDialogs(QTreeWidget& tree) {
+  QStringList titles;
+  for (QTreeWidgetItem* item = tree.topLevelItem(0); item; item = tree.itemBelow(item))
+    if (item->parent() && !item->isHidden() && !item->parent()->isHidden()) titles += item->text(0);
+  return titles;
+}
+
+class List : public ::testing::Test {
+ protected:
+  List() {
+    list.opened = [this](std::int32_t kind) { opened.push_back(kind); };
+    list.show();
+  }
+  QLineEdit& search() { return named<QLineEdit>(list, "Dialog suchen"); }
+  QTreeWidget& tree() { return named<QTreeWidget>(list, "Dialoge"); }
+
+  DialogList list;
+  std::vector<std::int32_t> opened;
+};
+
+/// A database with the sample in a folder of its own.
+class Desk : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    createTables(file(), {.sample = true});
+  }
+  std::string file() const { return folder.filePath("waren.sqlite").toStdString(); }
+  HostOptions options() const {
+    HostOptions options;
+    options.database = "sqlite:" + file();
+    options.user = u"anna";
+    return options;
+  }
+
+  QTemporaryDir folder;
+};
+
+}  // namespace
+
+TEST(DialogTitles, AreThoseOfAllKindsOnce) {
+  std::vector<std::int32_t> kinds;
+  for (const DialogTitle& title : dialogTitles()) kinds.push_back(title.kind);
+  std::ranges::sort(kinds);
+  ASSERT_EQ(kinds.size(), dialogKinds().size());
+  for (const KindInfo& kind : dialogKinds()) EXPECT_EQ(kinds.at(kind.number - 1u), kind.number);
+}
+
+TEST(DialogTitles, OfOneSubjectStandTogether) {
+  std::vector<String> subjects;
+  for (const DialogTitle& title : dialogTitles())
+    if (subjects.empty() || subjects.back() != title.subject) subjects.emplace_back(title.subject);
+  std::ranges::sort(subjects);
+  EXPECT_EQ(std::ranges::adjacent_find(subjects), subjects.end());
+}
+
+TEST_F(List, ShowsTheOfferedKindsAndNoOthers) {
+  QStringList offered;
+  for (const DialogTitle& title : dialogTitles())
+    if (isOffered(title.kind)) offered += QString::fromUtf16(title.title);
+  EXPECT_EQ(visibleDialogs(tree()), offered);
+}
+
+TEST_F(List, IsNarrowedByTitleNumberFormAndTable) {
+  for (const char* typed :
+       {"stati", "21", "frmVertriebsstati", "vertrieb stati", "zqnCommonDialogVertriebsStati"}) {
+    search().setText(typed);
+    EXPECT_EQ(visibleDialogs(tree()), QStringList("Vertriebsstati")) << typed;
+    EXPECT_EQ(list.kind(), 21) << typed;
+  }
+}
+
+TEST_F(List, OpensWhatIsMarkedByEnterFromTheSearchBox) {
+  QTest::keyClicks(&search(), "stati");
+  QTest::keyClick(&search(), Qt::Key_Return);
+  EXPECT_THAT(opened, ElementsAre(21));
+}
+
+TEST_F(List, OpensNothingWhenNothingIsFound) {
+  QTest::keyClicks(&search(), "gibt es nicht");
+  EXPECT_EQ(list.kind(), 0);
+  QTest::keyClick(&search(), Qt::Key_Return);
+  EXPECT_THAT(opened, IsEmpty());
+}
+
+TEST_F(List, IsWalkedByTheArrowKeysFromTheSearchBox) {
+  const std::int32_t first = list.kind();
+  QTest::keyClick(&search(), Qt::Key_Down);
+  EXPECT_NE(list.kind(), first);
+  EXPECT_NE(list.kind(), 0);
+  QTest::keyClick(&search(), Qt::Key_Up);
+  EXPECT_EQ(list.kind(), first);
+  QTest::keyClick(&search(), Qt::Key_Up);
+  EXPECT_EQ(list.kind(), first);
+}
+
+TEST_F(Desk, WritesDownWhatShowReturned) {
+  headless::HeadlessDesktop desktop;
+  const Desktop::Scope scope(desktop);
+  DeskWindow desk(options());
+  named<QLineEdit>(desk, "Dialog suchen").setText("stati");
+  named<QLineEdit>(desk, "Schlüssel").setText("10");
+  QTest::keyClick(&named<QLineEdit>(desk, "Schlüssel"), Qt::Key_Return);
+
+  QTreeWidget& log = named<QTreeWidget>(desk, "Aufrufe");
+  ASSERT_EQ(log.topLevelItemCount(), 1);
+  const QTreeWidgetItem& call = *log.topLevelItem(0);
+  EXPECT_EQ(call.text(0), "Show(21)");
+  QStringList lines;
+  for (int i = 0; i < call.childCount(); ++i) lines += call.child(i)->text(0) + " " + call.child(i)->text(1);
+  EXPECT_EQ(lines, QStringList({"Param vorher (\"10\")", "Rückgabe \"10\"", "Param nachher (\"10\")",
+                                "Result Empty", "Änderungen erlaubt"}));
+}
+
+TEST_F(Desk, WritesDownEachPickAsItComes) {
+  headless::HeadlessDesktop desktop;
+  const Desktop::Scope scope(desktop);
+  HostOptions several = options();
+  several.multiselect = true;
+  DeskWindow desk(several);
+  QTreeWidget& log = named<QTreeWidget>(desk, "Aufrufe");
+  int step = 0;
+  desktop.whenIdle([&] {
+    const auto lines = [&] { return log.topLevelItem(0)->childCount(); };
+    switch (step++) {
+      case 0:
+        EXPECT_EQ(lines(), 1);
+        desktop.press(KeyStroke::ofCode(key::F9));
+        EXPECT_EQ(lines(), 2);
+        EXPECT_EQ(log.topLevelItem(0)->child(1)->text(0), "DblClick");
+        break;
+      default:
+        desktop.activeForm()->closeBox();
+    }
+  });
+  named<QLineEdit>(desk, "Dialog suchen").setText("stati");
+  QTest::keyClick(&named<QLineEdit>(desk, "Dialog suchen"), Qt::Key_Return);
+  EXPECT_GE(step, 2);
+}
+
+TEST_F(Desk, NamesItsDatabaseAndItsUser) {
+  HostOptions admin = options();
+  admin.admin = true;
+  DeskWindow desk(admin);
+  QStringList labels;
+  for (const QLabel* label : desk.findChildren<QLabel*>()) labels += label->text();
+  EXPECT_TRUE(labels.contains("Datenbank: " + folder.filePath("waren.sqlite")));
+  EXPECT_TRUE(labels.contains("Benutzer: anna (Administrator)"));
+}
+
+TEST_F(Desk, ShowsTheSettingsAndWritesOnlyWhatWasChanged) {
+  Host host(options());
+  SettingsStore& store = host.session().settings();
+  store.write({u"Probe", u"a", u""}, u"1");
+  const auto before = store.all(u"anna").size();
+
+  SettingsDialog unchanged(store, u"anna", nullptr);
+  unchanged.accept();
+  EXPECT_EQ(store.all(u"anna").size(), before);
+
+  SettingsDialog dialog(store, u"anna", nullptr);
+  QTableWidget& table = named<QTableWidget>(dialog, "Einstellungen");
+  for (int row = 0; row < table.rowCount(); ++row) {
+    const QString name = table.item(row, 1)->text() + " " + table.item(row, 2)->text();
+    if (name == "AdminsOnly alle") table.item(row, 3)->setText("1");
+    if (name == "AllowVPSave anna") table.item(row, 3)->setText("21;");
+    if (name == "a alle") table.setCurrentCell(row, 3);
+  }
+  for (QPushButton* button : dialog.findChildren<QPushButton*>())
+    if (button->text() == "&Löschen") button->click();
+  EXPECT_EQ(store.all(u"anna").size(), before);
+  dialog.accept();
+  EXPECT_THAT(store.section(u"ZQNComDlg", u"anna"),
+              ElementsAre(Pair(u"AdminsOnly", u"1"), Pair(u"AllowVPSave", u"21;")));
+  EXPECT_THAT(store.section(u"ZQNComDlg", u"berta"), ElementsAre(Pair(u"AdminsOnly", u"1")));
+  EXPECT_THAT(store.section(u"Probe", u"anna"), IsEmpty());
+}
+
+TEST_F(Desk, RemembersItsWindow) {
+  {
+    DeskWindow desk(options());
+    desk.resize(700, 500);
+    desk.show();
+    desk.close();
+  }
+  EXPECT_EQ(DeskWindow(options()).size(), QSize(700, 500));
+}
+
+}  // namespace zqn::host

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ado/command.h"
 
+#include "ado/raise.h"
+
 namespace zqn::ado {
 
 std::int64_t Command::Execute(int options) {
-  if (connection_.isNothing() || connection_->State() == adStateClosed)
-    throw RuntimeError(error::InvalidConnection);
+  if (connection_.isNothing() || connection_->State() == adStateClosed) raise(error::InvalidConnection);
   return connection_->Execute(text_, options);
 }
 

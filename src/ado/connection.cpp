@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "ado/raise.h"
 #include "ado/recordset.h"
 #include "ado/sql_tokens.h"
 
@@ -13,7 +14,7 @@ Connection::Connection(std::unique_ptr<Provider> provider) : provider_(std::move
 Connection::~Connection() = default;
 
 std::int64_t Connection::Execute(const sql::Text& statement, int) {
-  if (!provider_) throw RuntimeError(error::ObjectClosed);
+  if (!provider_) raise(error::ObjectClosed);
   before(Operation::Execute, statement.text());
   requireRunnable(statement);
   const sql::Shape shape(statement.text());
@@ -28,14 +29,14 @@ std::int64_t Connection::Execute(const sql::Text& statement, int) {
 }
 
 void Connection::Close() {
-  if (!provider_) throw RuntimeError(error::ObjectClosed);
+  if (!provider_) raise(error::ObjectClosed);
   while (!recordsets_.empty()) recordsets_.back()->shut();
   statements_.clear();
   provider_.reset();
 }
 
 Provider& Connection::provider() const {
-  if (!provider_) throw RuntimeError(error::InvalidConnection);
+  if (!provider_) raise(error::InvalidConnection);
   return *provider_;
 }
 

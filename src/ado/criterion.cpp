@@ -7,7 +7,7 @@
 
 #include "ado/enums.h"
 #include "ado/field_values.h"
-#include "runtime/error.h"
+#include "ado/raise.h"
 #include "runtime/locale.h"
 
 namespace zqn::ado {
@@ -17,7 +17,7 @@ namespace {
 using Comparison = Criterion::Comparison;
 using Operator = Criterion::Operator;
 
-[[noreturn]] void refuse() { throw RuntimeError(error::InvalidArgument); }
+[[noreturn]] void refuse() { raise(error::InvalidArgument); }
 
 StringView withoutBlanks(StringView text) {
   while (!text.empty() && text.front() == u' ') text.remove_prefix(1);
@@ -146,7 +146,7 @@ void readPattern(Comparison& comparison) {
 Comparison resolve(StringView name, Operator op, String literal, const Columns& columns) {
   const auto column = std::ranges::find_if(
       columns, [&](const Column& known) { return !known.hidden && isWord(known.name, name); });
-  if (column == columns.end()) throw RuntimeError(error::ItemNotFound);
+  if (column == columns.end()) raise(error::ItemNotFound);
 
   Comparison comparison{
       static_cast<int>(column - columns.begin()), op, std::move(literal), {}, column->type == adBoolean};
@@ -156,7 +156,7 @@ Comparison resolve(StringView name, Operator op, String literal, const Columns& 
     if (needsNumber) refuse();
     readPattern(comparison);
   } else if (needsNumber && !comparison.number) {
-    throw RuntimeError(error::ProviderTypeMismatch);
+    raise(error::ProviderTypeMismatch);
   }
   return comparison;
 }

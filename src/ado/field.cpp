@@ -2,13 +2,14 @@
 #include "ado/field.h"
 
 #include "ado/cursor.h"
+#include "ado/raise.h"
 #include "ado/recordset.h"
 #include "runtime/locale.h"
 
 namespace zqn::ado {
 
 Recordset& Field::recordset() const {
-  if (!anchor_->recordset) throw RuntimeError(error::ObjectNotValid);
+  if (!anchor_->recordset) raise(error::ObjectNotValid);
   return *anchor_->recordset;
 }
 
@@ -25,7 +26,7 @@ void Field::Value(const Variant& value) { recordset().fieldValue(ordinal_, value
 int Fields::Count() const { return anchor_ && anchor_->recordset ? anchor_->recordset->fieldCount_ : 0; }
 
 Field Fields::Item(int ordinal) const {
-  if (ordinal < 0 || ordinal >= Count()) throw RuntimeError(error::ItemNotFound);
+  if (ordinal < 0 || ordinal >= Count()) raise(error::ItemNotFound);
   return Field(anchor_, ordinal);
 }
 
@@ -34,7 +35,7 @@ Field Fields::Item(StringView name) const {
     if (compareIgnoringCase(anchor_->recordset->column(ordinal).name, name) == 0)
       return Field(anchor_, ordinal);
   }
-  throw RuntimeError(error::ItemNotFound);
+  raise(error::ItemNotFound);
 }
 
 Fields Recordset::Fields() const { return ado::Fields(anchor_); }

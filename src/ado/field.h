@@ -16,12 +16,12 @@ namespace zqn::ado {
 
 class Recordset;
 
-/// How Fields know that their recordset was closed, opened anew or released.
+/// How fields know that their recordset was closed or released.
 struct FieldAnchor {
   Recordset* recordset = nullptr;
 };
 
-/// All members raise 3420 once the recordset was closed or queried again.
+/// All members raise 3420 once the recordset was closed. Requery keeps its fields.
 class Field {
  public:
   const String& Name() const;

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "ado/enums.h"
+#include "ado/raise.h"
 #include "runtime/convert.h"
 
 namespace zqn::ado {
@@ -32,14 +33,13 @@ double toNumber(const Variant& value) {
     if (const Date* date = value.as<Date>()) return date->days;
     return CDbl(value);
   } catch (const RuntimeError& failure) {
-    throw RuntimeError(failure.number() == error::Overflow ? error::ProviderDataOverflow
-                                                           : error::ProviderTypeMismatch);
+    raise(failure.number() == error::Overflow ? error::ProviderDataOverflow : error::ProviderTypeMismatch);
   }
 }
 
 Variant wholeNumberWithin(double value, double limit) {
   const double whole = std::nearbyint(value);
-  if (!(whole >= -limit - 1 && whole <= limit)) throw RuntimeError(error::ProviderDataOverflow);
+  if (!(whole >= -limit - 1 && whole <= limit)) raise(error::ProviderDataOverflow);
   return wholeNumber(whole);
 }
 
@@ -47,7 +47,7 @@ Variant toTruth(const Variant& value) {
   try {
     return value.isEmpty() ? false : CBool(value);
   } catch (const RuntimeError&) {
-    throw RuntimeError(error::ProviderTypeMismatch);
+    raise(error::ProviderTypeMismatch);
   }
 }
 
@@ -60,7 +60,7 @@ Variant toText(const Column& column, const Variant& value) {
   const Date* date = value.as<Date>();
   String text = date && column.type == adDBTimeStamp ? dateText(*date) : CStr(value);
   if (column.definedSize > 0 && text.size() > static_cast<std::size_t>(column.definedSize)) {
-    throw RuntimeError(error::MultipleStep);
+    raise(error::MultipleStep);
   }
   return text;
 }
@@ -95,10 +95,9 @@ Variant readAs(const Column& column, const Value& stored) {
 }
 
 Variant convertedFor(const Column& column, const Variant& value) {
-  if (column.baseColumn.empty()) throw RuntimeError(error::MultipleStep);
+  if (column.baseColumn.empty()) raise(error::MultipleStep);
   if (value.isNull()) return Null;
-  if (value.isMissing() || value.kind() == Variant::Kind::Object)
-    throw RuntimeError(error::ProviderTypeMismatch);
+  if (value.isMissing() || value.kind() == Variant::Kind::Object) raise(error::ProviderTypeMismatch);
   switch (column.type) {
     case adBoolean:
       return toTruth(value);

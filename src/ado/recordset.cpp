@@ -4,16 +4,9 @@
 #include <algorithm>
 
 #include "ado/cursor.h"
+#include "ado/raise.h"
 
 namespace zqn::ado {
-
-namespace {
-
-[[noreturn]] void raise(std::int32_t number) {
-  throw RuntimeError(number, error::description(number), u"ADODB");
-}
-
-}  // namespace
 
 Recordset::Recordset() = default;
 

@@ -61,7 +61,7 @@ class Recordset {
   /// Errors 3704 when closed; 3219 while an edit is pending, and the recordset stays open.
   void Close();
   int State() const noexcept { return cursor_ ? adStateOpen : adStateClosed; }
-  /// Runs the same statement again; the first row is current, bookmarks and Fields of before are worthless.
+  /// Runs the same statement again; the first row is current, bookmarks of before are worthless.
   /// If it fails the recordset is closed. Errors 3704, 3219 while an edit is pending.
   void Requery(int options = adCmdUnspecified);
   /// The text it was opened with, "" before.

@@ -5,6 +5,7 @@
 
 #include "ado/cursor.h"
 #include "ado/field_values.h"
+#include "ado/raise.h"
 #include "ado/recordset.h"
 
 namespace zqn::ado {
@@ -23,20 +24,20 @@ const String& tableOf(const Columns& columns) {
 }  // namespace
 
 const Column& Recordset::column(int ordinal) const {
-  if (ordinal < 0 || ordinal >= fieldCount_) throw RuntimeError(error::ItemNotFound);
+  if (ordinal < 0 || ordinal >= fieldCount_) raise(error::ItemNotFound);
   return cursor_->columns()[static_cast<std::size_t>(ordinal)];
 }
 
 const RowView& Recordset::current() const {
   if (!current_) current_ = cursor_->row(row_, buffer_);
-  if (!current_) throw RuntimeError(error::NoCurrentRecord);
+  if (!current_) raise(error::NoCurrentRecord);
   return current_;
 }
 
 Variant Recordset::fieldValue(int ordinal) const {
   before(Operation::Field);
   const Column& asked = column(ordinal);
-  if (!isOnRow()) throw RuntimeError(error::NoCurrentRecord);
+  if (!isOnRow()) raise(error::NoCurrentRecord);
   if (editMode_ != adEditNone) {
     const Variant& value = assigned_[static_cast<std::size_t>(ordinal)];
     if (!value.isEmpty()) return value;
@@ -48,7 +49,7 @@ void Recordset::fieldValue(int ordinal, const Variant& value) {
   before(Operation::Field);
   const Column& assigned = column(ordinal);
   requireUpdatable();
-  if (!isOnRow()) throw RuntimeError(error::NoCurrentRecord);
+  if (!isOnRow()) raise(error::NoCurrentRecord);
   if (place_ == Place::Row) current();
   Variant converted = convertedFor(assigned, value);
   if (editMode_ == adEditNone) {
@@ -64,7 +65,11 @@ void Recordset::requireUpdatable() const {
   const String& table = tableOf(columns);
   const bool oneTable = std::ranges::all_of(
       columns, [&](const Column& column) { return column.baseTable.empty() || column.baseTable == table; });
-  if (lockType_ == adLockReadOnly || !keyed || !oneTable) throw RuntimeError(error::FeatureNotAvailable);
+  if (lockType_ == adLockReadOnly || !keyed || !oneTable) {
+    raise(error::FeatureNotAvailable,
+          u"Current Recordset does not support updating. This may be a limitation of the provider, or of the "
+          u"selected locktype.");
+  }
 }
 
 int Recordset::EditMode() const {
@@ -97,7 +102,7 @@ void Recordset::endEdit() noexcept {
 void Recordset::Update() {
   requireOpen();
   before(Operation::Update);
-  if (!isOnRow()) throw RuntimeError(error::NoCurrentRecord);
+  if (!isOnRow()) raise(error::NoCurrentRecord);
   if (editMode_ == adEditAdd) {
     insertRow();
   } else if (editMode_ == adEditInProgress) {
@@ -145,10 +150,7 @@ void Recordset::updateRow() {
       u"UPDATE " + provider.quoted(tableOf(columns)) + u" SET " + changes + u" WHERE " + conditions;
   const RunningStatement run(connection_->statement(text, Purpose::Plain), parameters);
   if (run->rowsAffected() == 0) {
-    throw RuntimeError(
-        error::RowConflict,
-        u"Row cannot be located for updating. Some values may have been changed since it was last read.",
-        provider.name());
+    raise(error::RowConflict);
   }
   cursor_->updated(row_, assigned_);
   drawn_.drop(row_);

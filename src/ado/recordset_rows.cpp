@@ -5,6 +5,7 @@
 
 #include "ado/cursor.h"
 #include "ado/field_values.h"
+#include "ado/raise.h"
 #include "ado/recordset.h"
 #include "runtime/convert.h"
 
@@ -26,12 +27,12 @@ std::int64_t nextGeneration() {
 
 void Recordset::requireBookmarks() const {
   requireOpen();
-  if (forwardOnly()) throw RuntimeError(error::FeatureNotAvailable);
+  if (forwardOnly()) raise(error::FeatureNotAvailable);
 }
 
 Variant Recordset::Bookmark() const {
   requireBookmarks();
-  if (place_ != Place::Row) throw RuntimeError(error::NoCurrentRecord);
+  if (place_ != Place::Row) raise(error::NoCurrentRecord);
   return bookmarkOf(row_);
 }
 
@@ -44,7 +45,7 @@ void Recordset::Bookmark(const Variant& bookmark) {
 
 Variant Recordset::bookmarkOf(int row) const {
   requireOpen();
-  if (row < 0 || row >= cursor_->knownRows()) throw RuntimeError(error::NoCurrentRecord);
+  if (row < 0 || row >= cursor_->knownRows()) raise(error::NoCurrentRecord);
   if (generation_ == 0) generation_ = nextGeneration();
   return static_cast<double>(generation_) * Generation + row;
 }
@@ -53,8 +54,7 @@ int Recordset::rowOf(const Variant& bookmark) const {
   requireOpen();
   const double* mark = bookmark.as<double>();
   const double row = mark && generation_ != 0 ? *mark - static_cast<double>(generation_) * Generation : -1;
-  if (!(row >= 0 && row < cursor_->knownRows()) || row != std::floor(row))
-    throw RuntimeError(error::InvalidArgument);
+  if (!(row >= 0 && row < cursor_->knownRows()) || row != std::floor(row)) raise(error::InvalidArgument);
   return static_cast<int>(row);
 }
 
@@ -70,7 +70,7 @@ int Recordset::currentRow() const noexcept { return cursor_ && place_ == Place::
 
 Variant Recordset::rowValue(int row, int ordinal) {
   requireOpen();
-  if (row < 0 || row >= knownRows()) throw RuntimeError(error::NoCurrentRecord);
+  if (row < 0 || row >= knownRows()) raise(error::NoCurrentRecord);
   const Column& asked = column(ordinal);
   if (!cursor_->readsRows()) return readAs(asked, cursor_->row(row, scratch_).at(ordinal));
   const std::vector<Variant>* values = drawn_.find(row);

@@ -66,6 +66,7 @@ VariantArray readParams(const std::string& text) {
 VariantArray textParams(std::vector<std::string> texts) {
   if (texts.empty()) texts.emplace_back();
   std::vector<Variant> elements;
+  elements.reserve(texts.size());
   for (const std::string& text : texts) elements.emplace_back(fromUtf8(text));
   return VariantArray(std::move(elements));
 }

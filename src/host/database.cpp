@@ -185,7 +185,7 @@ Created createTables(const fs::path& file, const Content& content) {
 }
 
 fs::path defaultDatabaseFile() {
-  const fs::path file = dataFolder() / "zqn-dialog.sqlite";
+  fs::path file = dataFolder() / "zqn-dialog.sqlite";
   if (fs::exists(file)) return file;
   std::error_code failure;
   fs::create_directories(file.parent_path(), failure);

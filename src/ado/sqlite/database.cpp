@@ -73,6 +73,9 @@ RuntimeError Database::failure(int result) const {
 }
 
 StatementHandle Database::prepare(std::string_view statement) const {
+  if (statement.find('\0') != std::string_view::npos) {
+    throw RuntimeError(error::CommandText, u"The statement holds a character U+0000.", SourceName);
+  }
   sqlite3_stmt* prepared = nullptr;
   const char* tail = nullptr;
   const int size = static_cast<int>(statement.size());

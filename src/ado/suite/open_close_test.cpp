@@ -109,9 +109,22 @@ TEST_P(RecordsetTest, RunsAnInsertThatItIsOpenedWithOnce) {
 
 TEST_P(RecordsetTest, TakesOneStatementOnly) {
   Recordset rs;
-  EXPECT_EQ(errorNumberOf([&] { rs.Open(u"SELECT 1; DELETE FROM Vertriebsstati", connection); }),
-            error::CommandText);
-  EXPECT_EQ(stored(), u"10|Anfrage / 20|Angebot / 30|Null");
+  for (const sql::Text& second :
+       {sql::Text(u"; DELETE FROM Vertriebsstati"), sql::Text(u";; DELETE FROM Vertriebsstati"),
+        sql::Text(u"; /* x */ DELETE FROM Vertriebsstati"),
+        sql::Text(u";\n-- x\nDELETE FROM Vertriebsstati;"), sql::Text(u"; ; SELECT 1"), sql::Text(u"; x"),
+        sql::Text(String(u"\0; DELETE FROM Vertriebsstati", 30))}) {
+    for (const char16_t* first : {u"SELECT 1", u"UPDATE Vertriebsstati SET Gewichtung=7"}) {
+      EXPECT_EQ(errorNumberOf([&] { rs.Open(first + second, connection); }), error::CommandText)
+          << toUtf8(second.text());
+      EXPECT_EQ(errorNumberOf([&] { connection->Execute(first + second); }), error::CommandText)
+          << toUtf8(second.text());
+    }
+  }
+  EXPECT_EQ(stored(u"SELECT Status, Gewichtung FROM Vertriebsstati ORDER BY Status"),
+            u"10|10 / 20|50,5 / 30|Null");
+  EXPECT_EQ(errorNumberOf([&] { connection->Execute(u"UPDATE Vertriebsstati SET Gewichtung=7 ; -- done"); }),
+            0);
 }
 
 TEST_P(RecordsetTest, ClosedTwiceRaisesAnError) {

@@ -34,6 +34,7 @@ void ComboBox::Text(StringView text) {
 void ComboBox::Clear() {
   entries_.clear();
   listIndex_ = marked_ = -1;
+  open_ = false;
   changed();
 }
 
@@ -45,7 +46,7 @@ void ComboBox::AddItem(StringView text) {
 // ---- the open list
 
 void ComboBox::userOpened() {
-  if (open_ || !isUsable()) return;
+  if (open_ || entries_.empty() || !isUsable()) return;
   open_ = true;
   marked_ = listIndex_;
   changed();

@@ -41,6 +41,7 @@ class ComboBox : public Control {
   /// The list is open, and its marked entry, -1 for none.
   bool isOpen() const noexcept { return open_; }
   int markedEntry() const noexcept { return marked_; }
+  /// Opens the list, unless it has no entries.
   void userOpened();
   void userClosed();
   /// The pointer or a screen reader goes to an entry of the open list.

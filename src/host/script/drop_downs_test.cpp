@@ -57,6 +57,49 @@ TEST_F(DropDown, RefusesEntriesThatItLacks) {
           R"~({"values":{"cbo(0).ListIndex":-1,"Form.ActiveControl":"txtKey"}})~"));
 }
 
+TEST_F(DropDown, ClickOpensTheListAndKeysAreTheLists) {
+  std::string heard;
+  drops.KeyDown = [&](int& code, int) { heard += std::to_string(code) + " "; };
+  EXPECT_THAT(actsOnDropDowns(R"~({"click":"cbo(0)"}
+                                 {"key":"Down"}
+                                 {"key":"Down"}
+                                 {"get":["cbo(0).ListIndex"]}
+                                 {"key":"Escape"}
+                                 {"key":"F4"}
+                                 {"key":"v"}
+                                 {"key":"Enter"}
+                                 {"get":["cbo(0).ListIndex","Form.ActiveControl"]}
+                                 {"key":"Down"}
+                                 {"get":["cbo(0).ListIndex"]})~"),
+              ElementsAre(R"~({"values":{"cbo(0).ListIndex":-1}})~",
+                          R"~({"values":{"cbo(0).ListIndex":1,"Form.ActiveControl":"cbo(0)"}})~",
+                          R"~({"values":{"cbo(0).ListIndex":2}})~"));
+  EXPECT_EQ(heard, "115 40 ") << "F4 and the arrow over the closed list";
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(DropDown, SelectTakesAnEntryOfTheOpenListToo) {
+  EXPECT_THAT(actsOnDropDowns(R"~({"click":"cbo(0)"}
+                                 {"select":"cbo(0)","index":2}
+                                 {"get":["cbo(0).ListIndex","cbo(0).List(1)","cbo(0).ListCount"]})~"),
+              ElementsAre(R"~({"values":{"cbo(0).ListIndex":2,"cbo(0).List(1)":"Vertrag",)~"
+                          R"~("cbo(0).ListCount":3}})~"));
+}
+
+TEST_F(DropDown, FocusLeavesTheListShut) {
+  EXPECT_THAT(actsOnDropDowns(R"~({"focus":"cbo(0)"}
+                                 {"key":"Down"}
+                                 {"get":["cbo(0).ListIndex","Form.ActiveControl"]})~"),
+              ElementsAre(R"~({"values":{"cbo(0).ListIndex":0,"Form.ActiveControl":"cbo(0)"}})~"));
+}
+
+TEST_F(DropDown, TakesNothingWhileValidateKeepsTheFocus) {
+  drops.Get<TextBox>(u"txtKey").Validate = [](bool& cancel) { cancel = true; };
+  EXPECT_THAT(actsOnDropDowns(R"~({"select":"cbo(0)","index":1}
+                                 {"get":["cbo(0).ListIndex"]})~"),
+              ElementsAre(R"~({"values":{"cbo(0).ListIndex":-1}})~"));
+}
+
 TEST_F(DropDown, IsListedWithoutColumns) {
   cbo.ListIndex(1);
   EXPECT_THAT(

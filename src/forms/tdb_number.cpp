@@ -42,7 +42,11 @@ TDBNumber::Sections TDBNumber::split(StringView format) {
 }
 
 void TDBNumber::Value(const Variant& value) {
+  const Variant before = Value();
   assignValue(value.isNull() ? Variant(Null) : Variant(value.isEmpty() ? 0.0 : CDbl(value)));
+  // An assignment of the same number tells, too: what is built of several numbers may have been blanked
+  // meanwhile.
+  if (Value() == before) ValueChange.raise();
 }
 
 // ---- how it looks
@@ -86,8 +90,9 @@ bool TDBNumber::accepts(StringView text) const {
 
 std::optional<Variant> TDBNumber::read(StringView typed) const {
   // A sign alone is as good as nothing.
-  if (std::ranges::none_of(typed, isDigit)) return Variant(Null);
-  return Variant(CDbl(String(typed)));
+  Variant number = Null;
+  if (std::ranges::any_of(typed, isDigit)) number = CDbl(String(typed));
+  return number;
 }
 
 const PropertyEntry* TDBNumber::findProperty(StringView name) const {

@@ -3,13 +3,15 @@
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStyleOptionButton>
 
 #include "desktop/qt/accessible_names.h"
 #include "desktop/qt/form_window.h"
+#include "desktop/qt/label.h"
 #include "desktop/qt/text.h"
+#include "forms/tdb_date.h"
 
 namespace zqn::qt {
 
@@ -19,6 +21,8 @@ namespace {
 constexpr int tolerated = 15;
 /// What a button needs on both sides of its caption together, in pixels at 96 dpi.
 constexpr int buttonMargins = 8;
+/// The same for frame and inner margins of a field.
+constexpr int fieldMargins = 6;
 
 class Look {
  public:
@@ -44,47 +48,61 @@ class Look {
 
   void lookAtText(const Control& control) {
     const QWidget& widget = window_.widgetOf(control)->widget();
-    const QString text = widget.property("text").toString();
-    const QString words = withoutAccessKey(text);
-    const QSize room = roomForText(control, widget);
-    const auto* label = qobject_cast<const QLabel*>(&widget);
     const QFontMetrics metrics = widget.fontMetrics();
+    const QString text = widget.property("text").toString();
+    const int room = roomForLine(control, widget);
+    const int height = Scale(widget).y(control.Height());
+    const auto* label = dynamic_cast<const Label*>(&widget);
     if (label != nullptr && label->wordWrap()) {
-      const QRect drawn = metrics.boundingRect(QRect(0, 0, room.width(), 0), Qt::TextWordWrap, text);
-      if (drawn.width() > room.width() || drawn.height() > room.height())
+      const QRect drawn = metrics.boundingRect(QRect(0, 0, room, 0), Qt::TextWordWrap, text);
+      if (drawn.width() > room || drawn.height() > height)
         add(control, QStringLiteral("\"%1\" needs %2 by %3 pixels, not %4 by %5")
                          .arg(text)
                          .arg(drawn.width())
                          .arg(drawn.height())
-                         .arg(room.width())
-                         .arg(room.height()));
+                         .arg(room)
+                         .arg(height));
       return;
     }
-    const bool hasCaption = label != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr;
-    if (hasCaption && metrics.horizontalAdvance(words) > room.width())
+    const int width = metrics.horizontalAdvance(lineIn(control, text));
+    if (width > room)
       add(control, QStringLiteral("\"%1\" is %2 pixels wide, room is for %3")
-                       .arg(words)
-                       .arg(metrics.horizontalAdvance(words))
-                       .arg(room.width()));
-    if (metrics.height() > room.height() && (hasCaption ? !words.isEmpty() : !text.isNull()))
-      add(control, QStringLiteral("a line is %1 pixels high, room is for %2")
-                       .arg(metrics.height())
-                       .arg(room.height()));
+                       .arg(lineIn(control, text))
+                       .arg(width)
+                       .arg(room));
+    const bool hasLine = control.takesFocus() || !text.isEmpty();
+    if (hasLine && metrics.height() > height)
+      add(control,
+          QStringLiteral("a line is %1 pixels high, room is for %2").arg(metrics.height()).arg(height));
   }
 
-  QSize roomForText(const Control& control, const QWidget& widget) const {
-    const Scale scale(widget);
-    const QSize whole = scale.size(control.Width(), control.Height());
-    if (qobject_cast<const QPushButton*>(&widget) != nullptr)
-      return whole - QSize(qRound(buttonMargins * widget.logicalDpiX() / 96.0), 0);
-    if (qobject_cast<const QCheckBox*>(&widget) != nullptr) {
-      QStyleOptionButton option;
-      option.initFrom(&widget);
-      option.rect = QRect(QPoint(0, 0), whole);
-      return {widget.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &widget).width(),
-              whole.height()};
+  /// The text that must be seen whole; "" for what a person fills.
+  static QString lineIn(const Control& control, const QString& text) {
+    switch (control.kind()) {
+      case ControlKind::TDBDate:
+        return toQt(static_cast<const zqn::TDBDate&>(control).Caption()) + QStringLiteral(" 30.06.2026");
+      case ControlKind::CheckBox:
+      case ControlKind::CommandButton:
+      case ControlKind::Label:
+      case ControlKind::ToggleButton:
+        return withoutAccessKey(text);
+      default:
+        return {};
     }
-    return whole;
+  }
+
+  static int roomForLine(const Control& control, const QWidget& widget) {
+    const QRect whole(QPoint(0, 0), Scale(widget).size(control.Width(), control.Height()));
+    const auto pixels = [&widget](int at96) { return qRound(at96 * widget.logicalDpiX() / 96.0); };
+    if (const auto* label = dynamic_cast<const Label*>(&widget))
+      return label->wordWrap() ? whole.width() : label->room();
+    if (qobject_cast<const QPushButton*>(&widget) != nullptr) return whole.width() - pixels(buttonMargins);
+    if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return whole.width() - pixels(fieldMargins);
+    if (qobject_cast<const QCheckBox*>(&widget) == nullptr) return whole.width();
+    QStyleOptionButton option;
+    option.initFrom(&widget);
+    option.rect = whole;
+    return widget.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &widget).width();
   }
 
   // ---- places

@@ -37,15 +37,17 @@ TEST(FormChecks, FindTextsThatDoNotFit) {
       {u"lblText", Label, u"Andruck der Zahlungsbedingungen bei dieser Zahlungsart unterdrücken", 0, 300,
        1500, 420},
       {u"btn", CommandButton, u"Zahlungsbedingungen", 0, 800, 1300, 315},
+      {u"Daneben", TextBox, u"", 920, 0, 300, 255},
+      {u"tdbd", TDBDate, u"Gültig von:", 0, 2000, 1500, 285},
       {u"chk", CheckBox, u"Zahlungsbedingungen", 0, 1200, 1500, 255},
       {u"txt", TextBox, u"", 0, 1500, 1500, 120},
       {u"lblFlach", Label, u"Status", 0, 1800, 900, 120},
   };
-  EXPECT_THAT(
-      findingsFor(roster),
-      ElementsAre(HasSubstr("lbl: \"Zahlungsbedingungen\" is "), HasSubstr("lblText: \"Andruck"),
-                  HasSubstr("btn: \"Zahlungsbedingungen\" is "), HasSubstr("chk: \"Zahlungsbedingungen\""),
-                  HasSubstr("txt: a line is "), HasSubstr("lblFlach: a line is ")));
+  EXPECT_THAT(findingsFor(roster),
+              ElementsAre(HasSubstr("lbl: \"Zahlungsbedingungen\" is "), HasSubstr("lblText: \"Andruck"),
+                          HasSubstr("btn: \"Zahlungsbedingungen\" is "), HasSubstr("tdbd: \"Gültig von: 30"),
+                          HasSubstr("chk: \"Zahlungsbedingungen\""), HasSubstr("txt: a line is "),
+                          HasSubstr("lblFlach: a line is ")));
 }
 
 TEST(FormChecks, LeaveAccessKeysAndWrappedLabelsAlone) {

@@ -94,15 +94,26 @@ QString FormWindow::differences() const {
   return lines.join(QLatin1Char('\n'));
 }
 
+void FormWindow::syncLabels() {
+  for (ControlWidget* each : widgets_) {
+    if (each->control().kind() == ControlKind::Label) each->sync();
+  }
+}
+
 // ---- FormView
 
 void FormWindow::controlChanged(Control& control) {
-  ControlWidget* const changed = widgetOf(control);
+  ControlWidget& changed = *widgetOf(control);
+  const QWidget& widget = changed.widget();
+  const QRect place = widget.geometry();
+  const bool hidden = widget.isHidden();
   {
     // Qt moves the focus away from what is disabled or hidden; the form decides where it goes.
     const Within placing(placing_);
-    changed->sync();
+    changed.sync();
   }
+  // How much room a label has depends on what stands beside it.
+  if (widget.geometry() != place || widget.isHidden() != hidden) syncLabels();
   if (!control.takesFocus()) nameControls();
   placeFocus();
 }

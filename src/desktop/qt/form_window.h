@@ -61,6 +61,7 @@ class FormWindow : public QDialog, public FormView {
   QWidget& makeWidget(Control& control);
   void placeFocus();
   void nameControls();
+  void syncLabels();
 
   Form& form_;
   /// In the order of the form's controls.

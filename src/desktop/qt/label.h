@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Draws a Label: plain text from the top; a label that is higher than one line breaks its text, a lower one
-// shows its whole caption even where it is wider than the label.
+// Draws a Label: plain text from the top. A label that is higher than one line breaks its text. A lower one
+// shows its whole caption: past its width where nothing stands there, and a little narrower than the font
+// would have it where something does.
 #pragma once
 
 #include <QLabel>
@@ -15,6 +16,9 @@ class Label : public QLabel, public ControlWidget {
  public:
   Label(zqn::Label& model, QWidget* parent);
 
+  /// Pixels for a line of text: up to the next visible control on the right, or to the edge.
+  int room() const;
+
  protected:
   void draw() override;
   void compare(Differences& found) const override;
@@ -24,8 +28,11 @@ class Label : public QLabel, public ControlWidget {
   QString words() const;
   /// Room for a second line.
   bool breaksLines() const;
+  /// Percent of its natural width that the caption is drawn with.
+  int stretch() const;
 
   zqn::Label& model_;
+  int drawnStretch_ = 100;
 };
 
 }  // namespace zqn::qt

@@ -45,6 +45,7 @@ void DialogStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     case PE_FrameFocusRect:
       drawFocusFrame(*painter, option->rect, colour);
       return;
+    case PE_PanelButtonCommand:
     case PE_PanelLineEdit:
     case PE_Frame:
       QProxyStyle::drawPrimitive(element, option, painter, widget);

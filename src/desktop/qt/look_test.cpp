@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QFontInfo>
+#include <QImage>
+#include <QScreen>
+#include <QStyle>
+
+#include "desktop/qt/entry_form_for_tests.h"
+#include "desktop/qt/test_support.h"
+
+namespace zqn::qt::testing {
+
+namespace {
+
+/// How many pixels of the control look different while it has the focus.
+int pixelsOfFocus(Person& person, Control& control, Control& elsewhere) {
+  QWidget& widget = *person.desktop.widgetOf(control);
+  const auto look = [&widget] { return widget.grab().toImage().convertToFormat(QImage::Format_RGB32); };
+  elsewhere.SetFocus();
+  const QImage without = look();
+  control.SetFocus();
+  const QImage with = look();
+  int different = 0;
+  for (int y = 0; y < with.height(); ++y) {
+    for (int x = 0; x < with.width(); ++x) different += with.pixel(x, y) != without.pixel(x, y);
+  }
+  return different;
+}
+
+void expectVisibleFocus(Form& form, Control& first, Control& second) {
+  Person person;
+  person.at(form, {[&] {
+              for (const auto& control : form.controls()) {
+                if (!control->takesFocus() || !control->isUsable()) continue;
+                Control& elsewhere = control.get() == &first ? second : first;
+                EXPECT_GT(pixelsOfFocus(person, *control, elsewhere), 40) << toUtf8(control->fullName());
+              }
+            }});
+}
+
+TEST(Looks, ShowTheFocusOnEveryKindOfControl) {
+  StatiForm stati;
+  expectVisibleFocus(stati, stati.Schluessel, stati.Kurztext);
+  EntryForm entries;
+  expectVisibleFocus(entries, entries.txtKey, entries.cbo);
+}
+
+TEST(Looks, UseTheFontThatTheDesignsWereMeasuredWith) {
+  const QFontInfo font(QApplication::font());
+  EXPECT_THAT(font.family().toStdString(), ::testing::AnyOf("Tahoma", "Liberation Sans"));
+  EXPECT_NEAR(font.pixelSize(), 11.0 * QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 96, 1);
+}
+
+TEST(Looks, HaveTheNarrowRadioIndicator) {
+  const QStyle& style = *QApplication::style();
+  const double scale = QGuiApplication::primaryScreen()->logicalDotsPerInchX() / 96;
+  QWidget widget;
+  EXPECT_EQ(style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &widget), qRound(12 * scale));
+  EXPECT_EQ(style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &widget), qRound(4 * scale));
+}
+
+}  // namespace
+
+}  // namespace zqn::qt::testing

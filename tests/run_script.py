@@ -154,7 +154,7 @@ def main():
     parser.add_argument("action", choices=("check", "approve", "show"))
     parser.add_argument("names", metavar="NAME", nargs="*")
     parser.add_argument("--ui", choices=DESKTOPS)
-    options = parser.parse_args()
+    options = parser.parse_intermixed_args()
     act = {"check": check, "approve": approve, "show": show}[options.action]
     desktops = (options.ui,) if options.ui else DESKTOPS
 

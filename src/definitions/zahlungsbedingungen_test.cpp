@@ -181,9 +181,15 @@ TEST_F(Zahlungsbedingungen, AMissingTableOrExtraColumnsDoNoHarm) {
             Variant(u"14"));
 }
 
-TEST_F(Zahlungsbedingungen, ANumberBeyondTheMaskIsNotShown) {
+TEST_F(Zahlungsbedingungen, ANumberBeyondTheMaskSurvivesASave) {
   execute(u"UPDATE Zahlungsbedingungen SET NettoTage=123456 WHERE ZahlBedSchl='14'");
-  show(3, {u"14"}, [&] { EXPECT_NE(number(u"tdbnNettoTage"), Variant(123456.0)); });
+  show(3, {u"14"}, [&] {
+    EXPECT_EQ(number(u"tdbnNettoTage"), Variant(123456.0));
+    put(u"tdbnSkTage(0)", u"7");
+    press(key::F9);
+  });
+  EXPECT_THAT(rows(u"SELECT SkontoTage1, NettoTage FROM Zahlungsbedingungen"),
+              ::testing::Contains(u"7|123456"));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ class TDBNumber : public ValueEntry {
 
   /// A Double, or Null when the field is empty.
   using ValueEntry::Value;
-  /// Null, Empty (as 0), or anything that converts to a number; raises ValueChange when the number differs.
+  /// Null, Empty (as 0), or anything that converts to a number; raises ValueChange, for the same number, too.
   /// The format binds typing alone: a number with more digits than it has is kept, and shown in full. Errors
   /// 13, 6.
   void Value(const Variant& value);

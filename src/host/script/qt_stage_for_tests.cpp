@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <memory>
 
 #include "host/script/qt_user.h"
 #include "host/script/stage_for_tests.h"
@@ -16,20 +17,26 @@ void failOnWarning(QtMsgType, const QMessageLogContext&, const QString& words) {
   ADD_FAILURE() << "the toolkit says: " << words.toStdString();
 }
 
-/// One application for all tests of the process; on no display unless the caller chose one.
-void haveApplication() {
-  static int count = 1;
-  static char name[] = "test";
-  static char* names[] = {name, nullptr};
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QApplication application(count, names);
-  static const bool ready = [] {
-    qt::configureApplication(application);
+/// One application for all tests of the process, gone before the program ends; on no display unless the
+/// caller chose one.
+class Application : public ::testing::Environment {
+ public:
+  void SetUp() override {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(count_, names_);
+    qt::configureApplication(*application_);
     qInstallMessageHandler(failOnWarning);
-    return true;
-  }();
-  static_cast<void>(ready);
-}
+  }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  int count_ = 1;
+  char name_[5] = "test";
+  char* names_[2] = {name_, nullptr};
+  std::unique_ptr<QApplication> application_;
+};
+
+const ::testing::Environment* const application = ::testing::AddGlobalTestEnvironment(new Application);
 
 class QtStage : public Stage {
  public:
@@ -44,9 +51,6 @@ class QtStage : public Stage {
 
 }  // namespace
 
-std::unique_ptr<Stage> makeStage() {
-  haveApplication();
-  return std::make_unique<QtStage>();
-}
+std::unique_ptr<Stage> makeStage() { return std::make_unique<QtStage>(); }
 
 }  // namespace zqn::script

@@ -1,0 +1,122 @@
+# SPDX-License-Identifier: MIT
+"""The runner of scripts finds what it is there to find: tried with a command that does as it is told."""
+
+import contextlib
+import io
+import os
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+from unittest import mock
+
+sys.path.insert(0, str(Path(__file__).parent))
+import run_script
+
+COMMAND = """#!{python}
+import pathlib, sys
+arguments = sys.argv[1:]
+if arguments[0] == "init":
+    sys.exit(0)
+desktop = arguments[arguments.index("--ui") + 1]
+here = pathlib.Path({folder!r})
+target = arguments[arguments.index("--transcript") + 1]
+pathlib.Path(target).write_bytes((here / ("transcript." + desktop)).read_bytes())
+sys.stderr.write((here / "stderr").read_text())
+sys.exit(int((here / "status").read_text()))
+"""
+
+DONE = '{"shown":"frmBühne"}\n{"result":{"return":"10","param":["10"]}}\n'
+
+
+class RunScript(unittest.TestCase):
+    def setUp(self):
+        made = tempfile.TemporaryDirectory()
+        self.addCleanup(made.cleanup)
+        self.folder = Path(made.name)
+        command = self.folder / "command"
+        command.write_text(COMMAND.format(python=sys.executable, folder=made.name))
+        command.chmod(0o755)
+        for patch in (mock.patch.dict(os.environ, ZQN_DIALOG=str(command)),
+                      mock.patch.object(run_script, "SCRIPTS", self.folder)):
+            patch.start()
+            self.addCleanup(patch.stop)
+        self.script("# args: show 21 10\n")
+        self.behave()
+
+    def script(self, text):
+        (self.folder / "name.jsonl").write_text(text, encoding="utf-8")
+
+    def behave(self, headless=DONE, qt=None, stderr="", status=0):
+        """What the command does from now on."""
+        (self.folder / "transcript.headless").write_text(headless, encoding="utf-8")
+        (self.folder / "transcript.qt").write_text(headless if qt is None else qt, encoding="utf-8")
+        (self.folder / "stderr").write_text(stderr, encoding="utf-8")
+        (self.folder / "status").write_text(str(status))
+
+    def run_script(self, *arguments):
+        """The exit status, and what was said."""
+        said = io.StringIO()
+        with mock.patch.object(sys, "argv", ["run_script.py", *arguments]), contextlib.redirect_stderr(said):
+            return run_script.main(), said.getvalue()
+
+    def approved(self):
+        return (self.folder / "name.approved.jsonl").read_text(encoding="utf-8")
+
+    def test_an_approved_transcript_passes_on_both_desktops(self):
+        self.assertEqual(self.run_script("approve", "name"), (0, ""))
+        self.assertEqual(self.approved(), DONE)
+        self.assertEqual(self.run_script("check"), (0, ""))
+
+    def test_a_script_that_nobody_approved_fails(self):
+        status, said = self.run_script("check", "name")
+        self.assertEqual(status, 1)
+        self.assertIn("nobody has approved", said)
+
+    def test_a_difference_on_one_desktop_fails_and_is_shown(self):
+        self.run_script("approve", "name")
+        self.behave(qt=DONE.replace('"10"', '"11"', 1))
+        status, said = self.run_script("check", "name")
+        self.assertEqual(status, 1)
+        self.assertIn('-{"result":{"return":"10"', said)
+        self.assertIn('+{"result":{"return":"11"', said)
+        self.assertEqual(self.run_script("check", "--ui", "headless", "name"), (0, ""))
+
+    def test_a_difference_of_one_byte_fails(self):
+        self.run_script("approve", "name")
+        self.behave(headless=DONE.rstrip("\n"))
+        self.assertEqual(self.run_script("check", "name")[0], 1)
+
+    def test_nothing_is_approved_while_the_desktops_differ(self):
+        self.behave(qt=DONE.replace("frm", "Frm"))
+        status, said = self.run_script("approve", "name")
+        self.assertEqual(status, 1)
+        self.assertIn("the desktops differ", said)
+        self.assertFalse((self.folder / "name.approved.jsonl").exists())
+
+    def test_what_is_said_on_standard_error_fails(self):
+        self.run_script("approve", "name")
+        self.behave(stderr="QWidget: something is wrong\n")
+        status, said = self.run_script("check", "name")
+        self.assertEqual(status, 1)
+        self.assertIn("something is wrong", said)
+
+    def test_an_exit_status_that_does_not_belong_to_the_transcript_fails(self):
+        self.run_script("approve", "name")
+        for status in (1, 4, 139):
+            self.behave(status=status)
+            self.assertEqual(self.run_script("check", "name")[0], 1)
+        for transcript, status in (('{"result":{"return":""}}\n', 1), ('{"result":{"return":null}}\n', 1),
+                                   ('{"result":{"return":{"empty":true}}}\n', 1),
+                                   ('{"result":{"return":false}}\n', 0), ('{"scriptError":"x"}\n', 4)):
+            self.behave(headless=transcript, status=status)
+            self.assertEqual(self.run_script("approve", "name"), (0, ""), transcript)
+
+    def test_a_script_without_arguments_or_without_a_file_fails(self):
+        self.script('{"get":[]}\n# args: show 21\n')
+        self.assertIn("# args:", self.run_script("check", "name")[1] + self.run_script("approve", "name")[1])
+        self.assertEqual(self.run_script("check", "nirgends")[0], 1)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/host.h"
 
+#include "contract/object_factory.h"
+#include "contract/ws_profile.h"
 #include "host/database.h"
 #include "host/rows.h"
 
@@ -14,6 +16,15 @@ script::ScriptWorld::Rows query(ado::Connection& connection, StringView statemen
   for (int row = 0; row < found.rows(); ++row) rows.push_back(rowValues(found, row));
   return rows;
 }
+
+class Profile : public WSProfile {
+ public:
+  explicit Profile(String folder) : folder_(std::move(folder)) {}
+  String GetAppPath() override { return folder_; }
+
+ private:
+  String folder_;
+};
 
 }  // namespace
 
@@ -46,6 +57,14 @@ script::ScriptWorld Host::world() const {
               },
           .settings =
               [this](StringView section) { return session_->settings().section(section, session_->user()); }};
+}
+
+void offerCompanions(const HostOptions& options) {
+  const auto folder = options.appPath.empty() ? dataFolder() : std::filesystem::absolute(options.appPath);
+  // A trailing separator would leave an empty file name.
+  const auto plain = folder.has_filename() ? folder : folder.parent_path();
+  ObjectFactory::current().offer(u"zqWSPro.WSProfile",
+                                 [text = plain.u16string()] { return std::make_shared<Profile>(text); });
 }
 
 Locale localeOf(const HostOptions& options) {

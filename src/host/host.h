@@ -42,6 +42,10 @@ class Host {
   bool multiselect_;
 };
 
+/// Offers the companions that the dialogs create by name: the profile with the application folder of the
+/// options, or the data folder.
+void offerCompanions(const HostOptions& options);
+
 /// The German locale, with the day of the options as the present.
 Locale localeOf(const HostOptions& options);
 

@@ -39,6 +39,7 @@ void endOnFatal(QtMsgType type, const QMessageLogContext&, const QString& messag
 
 ExitStatus runDesk(const Options& options) {
   const Locale::Scope locale(localeOf(options.host));
+  offerCompanions(options.host);
   DeskWindow desk(options.host);
   desk.show();
   QApplication::exec();

@@ -94,6 +94,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
 
   const Locale::Scope locale(localeOf(options.host));
   const Host host(options.host);
+  offerCompanions(options.host);
   std::unique_ptr<std::ofstream> transcriptFile;
   if (request.transcript) transcriptFile = openTranscript(*request.transcript);
 

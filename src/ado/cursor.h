@@ -29,7 +29,7 @@ class Cursor {
   virtual RowView row(int row, RowStore& buffer) = 0;
   /// Rows are read from the database each time: a list keeps those that it draws.
   virtual bool readsRows() const noexcept = 0;
-  /// The first row from `from` on that the criterion fits, -1 for none. `buffer` as in row.
+  /// The first row from `from` on, a known one, that the criterion fits; -1 for none. `buffer` as in row.
   virtual int find(const Criterion& criterion, int from, int direction, RowStore& buffer) = 0;
 
   /// The row has been written with these values, one a column, Empty for those that were left alone.

@@ -92,15 +92,14 @@ int KeysetCursor::firstAmong(const std::vector<RowHandle>& matches, int from, in
   for (const int at : rows) {
     if (fits(at)) return at;
   }
-  // What is not known yet stands below all that is.
+  // What is not known yet stands below all that is, and so below `from`.
   std::ranges::sort(unknown);
   while (direction > 0 && !unknown.empty() && !complete_) {
     const int known = knownRows();
     fetch(KeysPerBatch);
     for (int at = known; at < knownRows(); ++at) {
-      if (at >= from && std::ranges::binary_search(unknown, handles_[static_cast<std::size_t>(at)]) &&
-          fits(at))
-        return at;
+      const bool match = std::ranges::binary_search(unknown, handles_[static_cast<std::size_t>(at)]);
+      if (match && fits(at)) return at;
     }
   }
   return -1;

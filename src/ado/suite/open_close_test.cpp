@@ -209,6 +209,8 @@ TEST_P(RecordsetTest, ClosesWithItsConnection) {
   EXPECT_EQ(rs->State(), adStateClosed);
   EXPECT_EQ(errorNumberOf([&] { rs->MoveFirst(); }), error::ObjectClosed);
   EXPECT_EQ(stored(), u"10|Anfrage / 20|Angebot / 30|Null");
+  rs->Open(u"SELECT * FROM Vertriebsstati", context->connect(), adOpenKeyset, adLockOptimistic);
+  EXPECT_EQ(rs->EditMode(), adEditNone);
 }
 
 TEST_P(ConnectionTest, RefusesEverythingOnceClosed) {

@@ -64,6 +64,22 @@ TEST_P(RecordsetTest, WithoutRowsEveryMoveFails) {
 
 TEST_P(RecordsetTest, CountsItsRows) { EXPECT_EQ(list()->RecordCount(), 3); }
 
+TEST_P(RecordsetTest, RowsWithoutAnOrderAreAllThere) {
+  for (int i = 0; i < 30; ++i) {
+    connection->Execute(u"INSERT INTO Vertriebsstati VALUES (" +
+                        sql::value(fromUtf8("x" + std::to_string(i))) + u", 'viele', 0, 0)");
+  }
+  const auto rs = openForWrite(u"SELECT * FROM Vertriebsstati WHERE Bezeichnung='viele'");
+  EXPECT_EQ(rs->RecordCount(), 30);
+  int count = 0;
+  for (; !rs->IsEOF(); rs->MoveNext()) {
+    rs->Fields(u"Gewichtung").Value(++count);
+  }
+  EXPECT_EQ(stored(u"SELECT count(DISTINCT Gewichtung), sum(Gewichtung) FROM Vertriebsstati WHERE "
+                   u"Bezeichnung='viele'"),
+            u"30|465");
+}
+
 TEST_P(RecordsetTest, BookmarkLeadsBackToItsRow) {
   const auto rs = list();
   rs->MoveNext();

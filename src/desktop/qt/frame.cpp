@@ -2,6 +2,8 @@
 #include "desktop/qt/frame.h"
 
 #include <QChildEvent>
+#include <QPainter>
+#include <QStyle>
 
 #include "desktop/qt/accessible_names.h"
 #include "desktop/qt/text.h"
@@ -20,6 +22,22 @@ QString Frame::words() const {
 
 void Frame::draw() {
   if (title() != words()) setTitle(words());
+}
+
+void Frame::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QString caption = withoutAccessKey(toQt(model_.Caption()));
+  const int line = caption.isEmpty() ? 0 : fontMetrics().height() / 2;
+  const QRect words(fontMetrics().averageCharWidth() + 2, 0, fontMetrics().horizontalAdvance(caption) + 4,
+                    fontMetrics().height());
+  painter.save();
+  if (!caption.isEmpty()) painter.setClipRegion(QRegion(rect()).subtracted(words));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::Window).darker(140));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 2, 2);
+  painter.restore();
+  style()->drawItemText(&painter, words, Qt::AlignCenter, palette(), isEnabled(), caption,
+                        QPalette::WindowText);
 }
 
 void Frame::compare(Differences& found) const { found.expect("Caption", title(), words()); }

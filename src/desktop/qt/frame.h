@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Draws a Frame. The widgets of the controls in it are its children, so their places are relative to it, and
-// they are hidden and disabled with it.
+// Draws a Frame, its caption in the upper line. The widgets of the controls in it are its children, so their
+// places are relative to it, and they are hidden and disabled with it.
 #pragma once
 
 #include <QGroupBox>
@@ -19,6 +19,7 @@ class Frame : public QGroupBox, public ControlWidget {
   void draw() override;
   void compare(Differences& found) const override;
   void childEvent(QChildEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   QString words() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt/toggle_button.h"
 
+#include <QStyleOptionButton>
+
 #include "desktop/qt/text.h"
 
 namespace zqn::qt {
@@ -23,6 +25,18 @@ ToggleButton::ToggleButton(zqn::ToggleButton& model, QWidget* parent)
 void ToggleButton::draw() {
   if (text() != toQt(model_.Caption())) setText(toQt(model_.Caption()));
   if (isChecked() != model_.Value()) setChecked(model_.Value());
+}
+
+void ToggleButton::initStyleOption(QStyleOptionButton* option) const {
+  QPushButton::initStyleOption(option);
+  if (!isChecked() || !isEnabled()) return;
+  // Grey alone is hard to tell from a button that is up.
+  const QColor up = option->palette.color(QPalette::Button);
+  const QColor mark = option->palette.color(QPalette::Active, QPalette::Highlight);
+  const auto mixed = [](int a, int b) { return (2 * a + b) / 3; };
+  option->palette.setColor(
+      QPalette::Button,
+      QColor(mixed(up.red(), mark.red()), mixed(up.green(), mark.green()), mixed(up.blue(), mark.blue())));
 }
 
 void ToggleButton::compare(Differences& found) const {

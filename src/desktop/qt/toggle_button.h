@@ -20,6 +20,7 @@ class ToggleButton : public QPushButton, public ControlWidget {
   void compare(Differences& found) const override;
   /// The model decides what a click makes of the value.
   void nextCheckState() override {}
+  void initStyleOption(QStyleOptionButton* option) const override;
 
  private:
   zqn::ToggleButton& model_;

@@ -13,6 +13,7 @@
 #include "forms/tdb_number.h"
 #include "forms/text_box.h"
 #include "forms/toggle_button.h"
+#include "forms/zq_combo.h"
 
 namespace zqn {
 
@@ -40,6 +41,7 @@ constexpr Kind kinds[] = {
     {ControlKind::TDBNumber, u"TDBNumber", make<TDBNumber>},
     {ControlKind::TextBox, u"TextBox", make<TextBox>},
     {ControlKind::ToggleButton, u"ToggleButton", make<ToggleButton>},
+    {ControlKind::zqCombo, u"zqCombo", make<zqCombo>},
 };
 
 const Kind& row(ControlKind kind) noexcept { return *std::ranges::find(kinds, kind, &Kind::kind); }

@@ -28,7 +28,8 @@ enum class ControlKind {
   TDBList,
   TDBNumber,
   TextBox,
-  ToggleButton
+  ToggleButton,
+  zqCombo
 };
 
 /// The kind's name as a roster, a script or a dump writes it: "TextBox".
@@ -46,6 +47,11 @@ struct OtherDesign {
   bool MultiLine = false;
   /// Digits and looks of a number: positive, negative, zero and Null, semicolons between them. TDBNumber.
   const char16_t* Format = u"";
+  /// Which entries it offers (zq_combo.h says which numbers there are), how many the open list shows at once,
+  /// and whether a person may type into the field. zqCombo.
+  int rowsourcetype = 0;
+  int maxrows = 8;
+  bool allowedit = false;
   /// The button that Esc, or Enter, presses from anywhere on the form. CommandButton.
   bool Cancel = false;
   bool Default = false;

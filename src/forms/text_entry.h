@@ -42,7 +42,7 @@ class TextEntry : public Control {
   virtual String pastedAs(StringView text) const;
   /// A person has edited: the whole text as it is now. Raises Change when it differs. A text that is not
   /// accepted changes nothing, and the view draws the old one again.
-  void userEdited(StringView text, int selStart, int selLength);
+  virtual void userEdited(StringView text, int selStart, int selLength);
   /// A person has moved the caret or the selection.
   void userSelected(int selStart, int selLength);
   /// A person pastes; the part that the limit leaves room for goes in.

@@ -14,6 +14,7 @@
 #include "desktop/qt/tdb_number.h"
 #include "desktop/qt/text_box.h"
 #include "desktop/qt/toggle_button.h"
+#include "desktop/qt/zq_combo.h"
 
 namespace zqn::qt {
 
@@ -46,6 +47,7 @@ constexpr Row table[] = {
     {ControlKind::TDBNumber, make<TDBNumber, zqn::TDBNumber>},
     {ControlKind::TextBox, makeTextBox},
     {ControlKind::ToggleButton, make<ToggleButton, zqn::ToggleButton>},
+    {ControlKind::zqCombo, make<zqCombo, zqn::zqCombo>},
 };
 
 }  // namespace

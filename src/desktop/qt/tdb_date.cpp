@@ -24,18 +24,7 @@ QDate toQt(Date date) {
 
 }  // namespace
 
-TDBDate::TDBDate(zqn::TDBDate& model, QWidget* parent) : TextEntry(model, parent), model_(model) {
-  button_.setFocusPolicy(Qt::NoFocus);
-  button_.setArrowType(Qt::DownArrow);
-  button_.setCursor(Qt::ArrowCursor);
-  button_.setAccessibleName(QStringLiteral("Kalender"));
-  button_.setToolTip(QStringLiteral("Kalender (F4)"));
-  connect(&button_, &QToolButton::clicked, this, [this] {
-    shielded(model_, u"MouseDown", [this] {
-      if (model_.form().mousePressed(model_)) openCalendar();
-    });
-  });
-}
+TDBDate::TDBDate(zqn::TDBDate& model, QWidget* parent) : TextEntry(model, parent), model_(model) {}
 
 TDBDate::~TDBDate() = default;
 
@@ -55,14 +44,9 @@ void TDBDate::initStyleOption(QStyleOptionFrame* option) const {
 }
 
 void TDBDate::placeButton() {
-  const int side = height() - 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) - 2;
-  const int width = side * 3 / 4;
   const int text = fontMetrics().horizontalAdvance(qt::toQt(zqn::TDBDate::emptyMask));
-  const bool fits = this->width() - captionWidth() >= text + width + side / 2;
-  if (button_.isHidden() == fits) button_.setVisible(fits);
-  button_.setGeometry(this->width() - width - (height() - side) / 2, (height() - side) / 2, width, side);
-  const QMargins margins(0, 0, fits ? width : 0, 0);
-  if (textMargins() != margins) setTextMargins(margins);
+  const int button = button_.wantedWidth();
+  button_.place(width() - captionWidth() >= text + button + button * 2 / 3);
 }
 
 void TDBDate::draw() {

@@ -5,9 +5,9 @@
 #pragma once
 
 #include <QCalendarWidget>
-#include <QToolButton>
 #include <memory>
 
+#include "desktop/qt/field_button.h"
 #include "desktop/qt/text_entry.h"
 #include "forms/tdb_date.h"
 
@@ -39,7 +39,7 @@ class TDBDate : public TextEntry {
   void choose(const QDate& day);
 
   zqn::TDBDate& model_;
-  QToolButton button_{this};
+  FieldButton button_{*this, model_, QStringLiteral("Kalender"), [this] { openCalendar(); }};
   std::unique_ptr<QCalendarWidget> calendar_;
 };
 

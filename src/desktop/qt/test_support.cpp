@@ -80,7 +80,7 @@ void Person::click(Control& control, QPoint place) {
   QTest::mouseClick(area.window()->windowHandle(), Qt::LeftButton, {}, inWindow(area, at));
 }
 
-void Person::click(QPushButton& button) {
+void Person::click(QAbstractButton& button) {
   QTest::mouseClick(button.window()->windowHandle(), Qt::LeftButton, {},
                     inWindow(button, button.rect().center()));
 }

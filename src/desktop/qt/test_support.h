@@ -31,7 +31,7 @@ class Person {
   void at(Form& form, Steps steps);
 
   void click(Control& control, QPoint place = {});
-  void click(QPushButton& button);
+  void click(QAbstractButton& button);
   void press(Control& control);
   void release(Control& control);
   /// Click and double click on a row that is in sight.

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/qt/zq_combo.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QScreen>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "desktop/qt/shield.h"
+#include "desktop/qt/text.h"
+
+namespace zqn::qt {
+
+// ---- rows
+
+QVariant zqComboRows::data(const QModelIndex& index, int role) const {
+  if (role != Qt::DisplayRole || !index.isValid()) return {};
+  return toQt(index.column() == 0 ? combo_.keyOf(index.row()) : combo_.textOf(index.row()));
+}
+
+void zqComboRows::follow() {
+  beginResetModel();
+  rows_ = combo_.ListCount();
+  endResetModel();
+}
+
+// ---- zqCombo
+
+zqCombo::zqCombo(zqn::zqCombo& model, QWidget* parent)
+    : TextEntry(model, parent), model_(model), rows_(model), window_(this, Qt::Popup) {
+  setReadOnly(!model.allowedit());
+  if (isReadOnly()) setCursor(Qt::ArrowCursor);
+  window_.setFrameShape(QFrame::Box);
+  list_.setModel(&rows_);
+  list_.setFrameShape(QFrame::NoFrame);
+  list_.setHeaderHidden(true);
+  list_.setRootIsDecorated(false);
+  list_.setItemsExpandable(false);
+  list_.setUniformRowHeights(true);
+  list_.setAllColumnsShowFocus(true);
+  list_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  list_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list_.setFocusPolicy(Qt::NoFocus);
+  list_.setMouseTracking(true);
+  list_.setAccessibleName(button_.accessibleName());
+  // Keys and clicks on the list, and its hiding, come here first.
+  for (QObject* each : {static_cast<QObject*>(&window_), static_cast<QObject*>(&list_),
+                        static_cast<QObject*>(list_.viewport())})
+    each->installEventFilter(this);
+}
+
+// ---- drawing
+
+void zqCombo::draw() {
+  button_.place(true);
+  TextEntry::draw();
+  drawList();
+}
+
+void zqCombo::drawList() {
+  if (window_.isVisible() != model_.isOpen()) {
+    if (model_.isOpen()) {
+      openList();
+    } else {
+      window_.hide();
+    }
+  }
+  if (!model_.isOpen() || list_.currentIndex().row() == model_.markedEntry()) return;
+  list_.setCurrentIndex(rows_.index(model_.markedEntry(), 0));
+}
+
+void zqCombo::openList() {
+  rows_.follow();
+  int columns = 0;
+  for (int column = 0; column < rows_.columnCount(); ++column) {
+    list_.resizeColumnToContents(column);
+    columns += list_.columnWidth(column);
+  }
+  const int frames = 2 * window_.frameWidth();
+  const int shown = std::min(model_.maxrows(), rows_.rowCount());
+  const bool scrolls = rows_.rowCount() > shown;
+  const int bar = scrolls ? list_.verticalScrollBar()->sizeHint().width() : 0;
+  const QSize inside(std::max(columns + bar, width() - frames), shown * list_.sizeHintForRow(0));
+  list_.setGeometry(QRect(QPoint(window_.frameWidth(), window_.frameWidth()), inside));
+
+  const QRect room = screen()->availableGeometry();
+  const QSize size(inside.width() + frames, inside.height() + frames);
+  QPoint place = mapToGlobal(QPoint(0, height()));
+  if (place.y() + size.height() > room.bottom()) place.ry() -= size.height() + height();
+  place.setX(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - size.width())));
+  window_.setGeometry(QRect(place, size));
+  window_.show();
+}
+
+void zqCombo::compare(Differences& found) const {
+  TextEntry::compare(found);
+  found.expect("open list", window_.isVisible(), model_.isOpen());
+  if (!model_.isOpen()) return;
+  found.expect("entries", rows_.rowCount(), model_.ListCount());
+  found.expect("marked entry", list_.currentIndex().row(), model_.markedEntry());
+}
+
+void zqCombo::resizeEvent(QResizeEvent* event) {
+  TextEntry::resizeEvent(event);
+  button_.place(true);
+}
+
+// ---- input
+
+void zqCombo::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
+  if (isReadOnly() || model_.isListKey(stroke)) {
+    model_.ownKey(stroke);
+  } else {
+    TextEntry::ownKey(event, stroke, asTyped);
+  }
+}
+
+bool zqCombo::pressed(const QMouseEvent& event, bool focusCame) {
+  return isReadOnly() || TextEntry::pressed(event, focusCame);
+}
+
+void zqCombo::toList(const QMouseEvent& event) {
+  const QModelIndex entry = list_.indexAt(event.position().toPoint());
+  if (!entry.isValid()) return;
+  if (event.type() == QEvent::MouseMove) {
+    model_.userMarked(entry.row());
+  } else {
+    shielded(model_, u"Click", [&] { model_.userChose(entry.row()); });
+  }
+}
+
+bool zqCombo::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+      QCoreApplication::sendEvent(this, event);
+      return true;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      if (watched == list_.viewport()) {
+        toList(static_cast<QMouseEvent&>(*event));
+        return true;
+      }
+      break;
+    case QEvent::MouseButtonPress: {
+      // A press on the list marks nothing by itself; one on the field or its button closes the list and is
+      // over, and opens it not again.
+      if (watched == list_.viewport()) return true;
+      const QPoint place = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+      window_.setAttribute(Qt::WA_NoMouseReplay, rect().contains(mapFromGlobal(place)));
+      break;
+    }
+    case QEvent::Hide:
+      // A click elsewhere has closed it.
+      if (watched == &window_ && !isDrawing()) model_.userClosed();
+      break;
+    default:
+      break;
+  }
+  return TextEntry::eventFilter(watched, event);
+}
+
+}  // namespace zqn::qt

@@ -6,6 +6,7 @@
 
 #include "forms/combo_box.h"
 #include "forms/tdb_list.h"
+#include "forms/zq_combo.h"
 
 namespace zqn::script {
 
@@ -46,28 +47,63 @@ int listMarkedRow(const Control& control) { return dynamic_cast<const TDBList&>(
 
 constexpr RowAccess listRows{listContents, listHasRow, listMarkedRow, false, nullptr};
 
-ComboBox& comboOf(Control& control) { return dynamic_cast<ComboBox&>(control); }
+// ---- drop-downs
 
-Json comboContents(Control& control) {
-  const ComboBox& combo = comboOf(control);
+const DropDown& dropDownOf(const Control& control) { return dynamic_cast<const DropDown&>(control); }
+
+bool dropDownHasRow(Control& control, int row) { return row >= 0 && row < dropDownOf(control).ListCount(); }
+
+int dropDownMarkedRow(const Control& control) { return dropDownOf(control).ListIndex(); }
+
+Json dropDownContents(const DropDown& drop, Json (*rowOf)(const DropDown&, int)) {
   Json rows = Json::array();
-  for (int i = 0; i < combo.ListCount(); ++i) rows.push_back(Json::array({jsonText(combo.List(i))}));
-  return {{"columns", Json::array()}, {"rows", std::move(rows)}, {"row", combo.ListIndex()}};
+  for (int i = 0; i < drop.ListCount(); ++i) rows.push_back(rowOf(drop, i));
+  return {{"columns", Json::array()}, {"rows", std::move(rows)}, {"row", drop.ListIndex()}};
 }
 
-bool comboHasRow(Control& control, int row) { return row >= 0 && row < comboOf(control).ListCount(); }
-
-int comboMarkedRow(const Control& control) { return dynamic_cast<const ComboBox&>(control).ListIndex(); }
-
-int comboRowOfText(Control& control, StringView text) {
-  const ComboBox& combo = comboOf(control);
-  for (int i = 0; i < combo.ListCount(); ++i) {
-    if (combo.List(i) == text) return i;
+int rowOfText(const DropDown& drop, StringView text, const String& (*textOf)(const DropDown&, int)) {
+  for (int i = 0; i < drop.ListCount(); ++i) {
+    if (textOf(drop, i) == text) return i;
   }
   return -1;
 }
 
-constexpr RowAccess comboRows{comboContents, comboHasRow, comboMarkedRow, true, comboRowOfText};
+Json comboContents(Control& control) {
+  return dropDownContents(dropDownOf(control), [](const DropDown& combo, int row) {
+    return Json::array({jsonText(combo.List(row))});
+  });
+}
+
+int comboRowOfText(Control& control, StringView text) {
+  return rowOfText(dropDownOf(control), text,
+                   [](const DropDown& combo, int row) -> const String& { return combo.List(row); });
+}
+
+constexpr RowAccess comboRows{comboContents, dropDownHasRow, dropDownMarkedRow, true, comboRowOfText};
+
+/// As it would be if somebody opened the list now.
+const zqCombo& opened(Control& control) {
+  auto& combo = dynamic_cast<zqCombo&>(control);
+  combo.readEntries();
+  return combo;
+}
+
+const zqCombo& zqComboOf(const DropDown& drop) { return dynamic_cast<const zqCombo&>(drop); }
+
+Json zqComboContents(Control& control) {
+  return dropDownContents(opened(control), [](const DropDown& drop, int row) {
+    return Json::array({jsonText(zqComboOf(drop).keyOf(row)), jsonText(zqComboOf(drop).textOf(row))});
+  });
+}
+
+bool zqComboHasRow(Control& control, int row) { return row >= 0 && row < opened(control).ListCount(); }
+
+int zqComboRowOfKey(Control& control, StringView key) {
+  return rowOfText(opened(control), key,
+                   [](const DropDown& drop, int row) -> const String& { return zqComboOf(drop).keyOf(row); });
+}
+
+constexpr RowAccess zqComboRows{zqComboContents, zqComboHasRow, dropDownMarkedRow, true, zqComboRowOfKey};
 
 constexpr ControlTraits traits[] = {
     {ControlKind::CheckBox, "caption", false, nullptr},
@@ -80,6 +116,7 @@ constexpr ControlTraits traits[] = {
     {ControlKind::TDBNumber, "text", true, nullptr},
     {ControlKind::TextBox, "text", true, nullptr},
     {ControlKind::ToggleButton, "caption", false, nullptr},
+    {ControlKind::zqCombo, "text", true, &zqComboRows},
 };
 
 }  // namespace

@@ -18,7 +18,7 @@ struct RowAccess {
   int (*markedRow)(const Control&);
   /// The rows stand in a drop-down and are chosen by number or text; else they are clicked.
   bool inDropDown;
-  /// The first row of a drop-down with this text, -1 for none.
+  /// The first row of a drop-down with this text, or key where it has keys; -1 for none.
   int (*rowOfText)(Control&, StringView text);
 };
 

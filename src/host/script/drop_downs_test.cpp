@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/combo_box.h"
+#include "forms/zq_combo.h"
 #include "host/script/script_test.h"
 
 namespace zqn::script {
@@ -110,6 +111,125 @@ TEST_F(DropDown, IsListedWithoutColumns) {
                   R"~({"list":"cbo(1)","columns":[],"rows":[],"row":-1})~",
                   HasSubstr(R"~({"name":"cbo(0)","kind":"ComboBox","left":120,"top":540,"width":2500,)~"
                             R"~("height":315,"text":"Vertrag","enabled":true})~")));
+}
+
+// ---- over keys
+
+constexpr ControlDesign keyRoster[] = {
+    {u"txtKey", ControlKind::TextBox, u"", 120, 120, 855, 285},
+    {u"VertriebsStatus",
+     ControlKind::zqCombo,
+     u"",
+     120,
+     540,
+     3135,
+     315,
+     {.rowsourcetype = 2, .maxrows = 3, .allowedit = true}},
+    {u"Herkunft", ControlKind::zqCombo, u"", 120, 960, 3135, 315, {.rowsourcetype = 4, .Enabled = false}},
+};
+constexpr FormDesign keyDesign{u"frmKeyCombos", u"Auswahl", 5400, 3300, keyRoster};
+
+class KeyCombo : public ScriptTest {
+ protected:
+  KeyCombo() {
+    connection->Execute(
+        u"CREATE TABLE Vertriebsstati (Status VARCHAR(10) PRIMARY KEY, Bezeichnung VARCHAR(30))");
+    connection->Execute(
+        u"INSERT INTO Vertriebsstati VALUES ('05', 'Adresse'), ('10', 'Interesse'), ('20', 'Angebot'), "
+        u"('30', NULL), ('40', 'Zusage')");
+    faults.takeStatements();
+    status.Connection(connection);
+    status.Click = [this] { ++clicks; };
+  }
+
+  Lines actsOnCombos(const std::string& script) {
+    Lines lines = run(script, [this] { combos.Show(); });
+    return {lines.begin() + 1, lines.end() - 1};
+  }
+
+  Form combos{keyDesign};
+  zqCombo& status = combos.Get<zqCombo>(u"VertriebsStatus");
+  int clicks = 0;
+};
+
+TEST_F(KeyCombo, TakesAnEntryByItsKeyOrNumber) {
+  EXPECT_THAT(actsOnCombos(R"~({"select":"VertriebsStatus","text":"20"}
+                                {"get":["VertriebsStatus.Value","VertriebsStatus.Text","Form.ActiveControl"]}
+                                {"select":"VertriebsStatus","index":4}
+                                {"get":["VertriebsStatus.Value"]}
+                                {"statements":true})~"),
+              ElementsAre(R"~({"values":{"VertriebsStatus.Value":"20","VertriebsStatus.Text":"20 Angebot",)~"
+                          R"~("Form.ActiveControl":"VertriebsStatus"}})~",
+                          R"~({"values":{"VertriebsStatus.Value":"40"}})~", R"~({"statements":[]})~"));
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(KeyCombo, RefusesKeysThatItLacks) {
+  EXPECT_THAT(
+      actsOnCombos(R"~({"select":"VertriebsStatus","text":"Angebot"}
+                        {"select":"VertriebsStatus","index":5}
+                        {"select":"Herkunft","text":"MESSE"}
+                        {"get":["VertriebsStatus.Value"]})~"),
+      ElementsAre(
+          R"~({"refused":"VertriebsStatus has no entry \"Angebot\"","action":{"select":"VertriebsStatus",)~"
+          R"~("text":"Angebot"}})~",
+          R"~({"refused":"VertriebsStatus has no entry 5","action":{"select":"VertriebsStatus","index":5}})~",
+          R"~({"refused":"Herkunft is disabled","action":{"select":"Herkunft","text":"MESSE"}})~",
+          R"~({"values":{"VertriebsStatus.Value":null}})~"));
+}
+
+TEST_F(KeyCombo, IsListedByKeyAndTextAsSomebodyElseLeftThem) {
+  EXPECT_THAT(
+      actsOnCombos(R"~({"list":"VertriebsStatus"}
+                        {"exec":"DELETE FROM Vertriebsstati WHERE Status<>'30'"}
+                        {"select":"VertriebsStatus","text":"30"}
+                        {"list":"VertriebsStatus"}
+                        {"dump":true})~"),
+      ElementsAre(R"~({"list":"VertriebsStatus","columns":[],"rows":[["05","Adresse"],["10","Interesse"],)~"
+                  R"~(["20","Angebot"],["30",""],["40","Zusage"]],"row":-1})~",
+                  R"~({"list":"VertriebsStatus","columns":[],"rows":[["30",""]],"row":0})~",
+                  HasSubstr(R"~({"name":"VertriebsStatus","kind":"zqCombo","left":120,"top":540,)~"
+                            R"~("width":3135,"height":315,"text":"30","enabled":true})~")));
+}
+
+TEST_F(KeyCombo, CompletesWhatIsTypedAndNeverTakesWhatWasFoundBefore) {
+  EXPECT_THAT(
+      actsOnCombos(R"~({"focus":"VertriebsStatus"}
+                                {"type":"1"}
+                                {"get":["VertriebsStatus.Value","VertriebsStatus.Text","VertriebsStatus.SelStart"]}
+                                {"type":"x"}
+                                {"get":["VertriebsStatus.Value","VertriebsStatus.Text"]}
+                                {"key":"Tab"}
+                                {"get":["VertriebsStatus.Value","VertriebsStatus.Text"]})~"),
+      ElementsAre(R"~({"values":{"VertriebsStatus.Value":"10","VertriebsStatus.Text":"10 Interesse",)~"
+                  R"~("VertriebsStatus.SelStart":1}})~",
+                  R"~({"values":{"VertriebsStatus.Value":null,"VertriebsStatus.Text":"1x"}})~",
+                  R"~({"values":{"VertriebsStatus.Value":null,"VertriebsStatus.Text":""}})~"));
+}
+
+TEST_F(KeyCombo, KeysAreTheOpenListsAndLettersTheFields) {
+  EXPECT_THAT(actsOnCombos(R"~({"click":"VertriebsStatus"}
+                                {"key":"F4"}
+                                {"key":"Down"}
+                                {"key":"Down"}
+                                {"get":["VertriebsStatus.Value"]}
+                                {"type":"ad"}
+                                {"get":["VertriebsStatus.Value","VertriebsStatus.Text"]}
+                                {"key":"Down"}
+                                {"key":"Enter"}
+                                {"get":["VertriebsStatus.Value","Form.ActiveControl"]})~"),
+              ElementsAre(R"~({"values":{"VertriebsStatus.Value":null}})~",
+                          R"~({"values":{"VertriebsStatus.Value":"05","VertriebsStatus.Text":"adresse"}})~",
+                          R"~({"values":{"VertriebsStatus.Value":"10","Form.ActiveControl":)~"
+                          R"~("VertriebsStatus"}})~"));
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(KeyCombo, TakesNothingWhileValidateKeepsTheFocus) {
+  combos.Get<TextBox>(u"txtKey").Validate = [](bool& cancel) { cancel = true; };
+  EXPECT_THAT(actsOnCombos(R"~({"select":"VertriebsStatus","text":"20"}
+                                {"get":["VertriebsStatus.Value","Form.ActiveControl"]})~"),
+              ElementsAre(R"~({"values":{"VertriebsStatus.Value":null,"Form.ActiveControl":"txtKey"}})~"));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/script/headless_user.h"
 
-#include "forms/combo_box.h"
+#include "forms/drop_down.h"
 #include "forms/tdb_list.h"
 
 namespace zqn::script {
@@ -43,13 +43,16 @@ void HeadlessUser::mouseDownAgain(const Spot& spot) {
 }
 
 void HeadlessUser::takeEntry(Control& control, int entry) {
-  auto& combo = dynamic_cast<ComboBox&>(control);
-  if (!combo.isOpen()) {
+  auto& drop = dynamic_cast<DropDown&>(control);
+  if (!drop.isOpen()) {
     mouseDown({control});
+    const bool agreed = pressed_;
     mouseUp({control});
+    // A click into the text of a field opens nothing; its button does.
+    if (agreed) guarded(control, u"Click", [&] { drop.userOpened(); });
   }
   guarded(control, u"Click", [&] {
-    if (combo.isOpen()) combo.userChose(entry);
+    if (drop.isOpen()) drop.userChose(entry);
   });
 }
 

@@ -16,6 +16,7 @@
 
 #include "desktop/qt/key_events.h"
 #include "desktop/qt/text.h"
+#include "desktop/qt/zq_combo.h"
 
 namespace zqn::script {
 
@@ -91,14 +92,17 @@ void QtUser::mouseDownAgain(const Spot& spot) {
 }
 
 void QtUser::takeEntry(Control& control, int entry) {
-  auto& combo = dynamic_cast<QComboBox&>(*desktop_.widgetOf(control));
-  QAbstractItemView& drop = *combo.view();
+  QWidget& field = *desktop_.widgetOf(control);
+  auto* withButton = dynamic_cast<qt::zqCombo*>(&field);
+  QAbstractItemView& drop =
+      withButton != nullptr ? withButton->list() : *dynamic_cast<QComboBox&>(field).view();
   if (!drop.isVisible()) {
-    mouseDown({control});
-    mouseUp({control});
+    QWidget& opener = withButton != nullptr ? withButton->button() : field;
+    sendMouse(opener, QEvent::MouseButtonPress, opener.rect().center());
+    sendMouse(opener, QEvent::MouseButtonRelease, opener.rect().center());
   }
   if (!drop.isVisible()) return;
-  const QModelIndex row = combo.model()->index(entry, combo.modelColumn());
+  const QModelIndex row = drop.model()->index(entry, 0);
   drop.scrollTo(row);
   const QPoint place = drop.visualRect(row).center();
   sendMouse(*drop.viewport(), QEvent::MouseMove, place);

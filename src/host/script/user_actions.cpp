@@ -4,7 +4,7 @@
 #include <chrono>
 #include <utility>
 
-#include "forms/combo_box.h"
+#include "forms/drop_down.h"
 #include "host/script/control_kinds.h"
 #include "host/script/key_names.h"
 #include "host/script/line_functions.h"
@@ -59,8 +59,8 @@ void focus(const Scene& scene, const Arguments& line) {
   if (!traitsOf(control).entry) throw Refusal(describe(control) + ", which is no entry control");
   scene.hands.click(spotOf(control));
   // A click opens a drop-down; another one closes it again.
-  const auto* combo = dynamic_cast<const ComboBox*>(&control);
-  if (combo != nullptr && combo->isOpen()) scene.hands.click(spotOf(control));
+  const auto* drop = dynamic_cast<const DropDown*>(&control);
+  if (drop != nullptr && drop->isOpen()) scene.hands.click(spotOf(control));
 }
 
 void type(const Scene& scene, const Arguments& line) {

@@ -41,7 +41,8 @@ SUBJECT = re.compile(
 OPEN_MARKS = re.compile(r"\b(" + "|".join(("TO" + "DO", "FIX" + "ME", "XX" + "X", "HA" + "CK")) + r")\b")
 # One machine's folders, and places on the net: neither means anything to the next reader.
 MACHINE_PATHS = re.compile(r"(?<![\w.~-])/(?:" + "|".join(("work", "root", "farm")) + r")/")
-ADDRESSES = re.compile(r"\b(?:https?|ftp|git)" + "://")
+# The name that every SVG file carries is none that anybody opens.
+ADDRESSES = re.compile(r"\b(?:https?|ftp|git)" + "://(?!www[.]w3[.]org/2000/svg)")
 
 
 def git(*arguments):

@@ -11,7 +11,7 @@ packages=(
   # the libraries of floors 4 and 5; the fonts are the ones the windows are measured for
   libsqlite3-dev qt6-base-dev fonts-liberation libcli11-dev nlohmann-json3-dev
   # tests and benchmarks
-  libgtest-dev libgmock-dev libbenchmark-dev python3
+  libgtest-dev libgmock-dev libbenchmark-dev python3 pkg-config dpkg-dev
   # ./check
   clang-format clang-tidy
 )

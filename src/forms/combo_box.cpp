@@ -8,7 +8,10 @@
 
 namespace zqn {
 
-ComboBox::ComboBox(Form& form, const ControlDesign& design, int tabIndex) : Control(form, design, tabIndex) {}
+ComboBox::ComboBox(Form& form, const ControlDesign& design, int tabIndex)
+    : TextEntry(form, design, tabIndex) {
+  if (!allowedit()) showChoice();
+}
 
 const String& ComboBox::List(int index) const noexcept {
   static const String none;
@@ -19,22 +22,42 @@ void ComboBox::ListIndex(int index) {
   if (index < -1 || index >= ListCount()) throw RuntimeError(error::InvalidPropertyValue);
   if (listIndex_ == index) return;
   listIndex_ = index;
-  changed();
+  showChoice();
   Click.raise();
 }
 
 void ComboBox::Text(StringView text) {
+  if (allowedit()) return assignText(text);
+  const int entry = entryOf(text);
+  if (entry < 0) throw RuntimeError(error::PropertyIsReadOnly);
+  ListIndex(entry);
+}
+
+int ComboBox::entryOf(StringView text) const {
   const auto found =
       std::ranges::find_if(entries_, [&](const String& entry) { return sameName(entry, text); });
-  if (found == entries_.end()) throw RuntimeError(error::PropertyIsReadOnly);
-  ListIndex(static_cast<int>(found - entries_.begin()));
+  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+}
+
+void ComboBox::showChoice() {
+  showingChoice_ = true;
+  assignText(List(listIndex_));
+  showingChoice_ = false;
+  changed();
+}
+
+void ComboBox::edited() {
+  if (showingChoice_) return;
+  listIndex_ = entryOf(Text());
+  markChosen();
+  Change.raise();
 }
 
 void ComboBox::Clear() {
   entries_.clear();
   listIndex_ = -1;
   dropList();
-  changed();
+  showChoice();
 }
 
 void ComboBox::AddItem(StringView text) {
@@ -42,12 +65,28 @@ void ComboBox::AddItem(StringView text) {
   changed();
 }
 
+// ---- a person
+
+void ComboBox::choose(int index) {
+  // What was typed may be the entry in other letters.
+  if (listIndex_ == index) showChoice();
+  ListIndex(index);
+}
+
+bool ComboBox::ownKey(const KeyStroke& stroke) {
+  return closedListTakes(stroke) || (allowedit() && TextEntry::ownKey(stroke));
+}
+
+void ComboBox::clicked() {
+  if (!allowedit()) userToggled();
+}
+
 // ---- automation
 
 Variant ComboBox::Property(StringView name) const {
   const ControlName element = splitName(name);
   if (element.index >= 0 && sameName(element.name, u"List")) return List(element.index);
-  return Control::Property(name);
+  return TextEntry::Property(name);
 }
 
 const PropertyEntry* ComboBox::findProperty(StringView name) const {
@@ -62,7 +101,7 @@ const PropertyEntry* ComboBox::findProperty(StringView name) const {
       {u"ListCount", [](const Control& c) { return Variant(std::int32_t{combo(c).ListCount()}); }, nullptr},
   };
   const PropertyEntry* entry = findIn(entries, name);
-  return entry != nullptr ? entry : Control::findProperty(name);
+  return entry != nullptr ? entry : TextEntry::findProperty(name);
 }
 
 }  // namespace zqn

@@ -297,5 +297,89 @@ TEST_F(OpenList, ClosesWhenTheListIsCleared) {
   });
 }
 
+// ---- any text
+
+constexpr ControlDesign fieldRoster[] = {
+    {u"ZahlungsartFibu", ControlKind::ComboBox, u"BAR", 0, 0, 705, 315, {.allowedit = true}},
+    {u"btnCancel", ControlKind::CommandButton, u"Schließen", 0, 800, 1215, 315, {.Cancel = true}},
+};
+
+class ComboField : public FormTest {
+ protected:
+  ComboField() {
+    for (const StringView entry : {u"E", u"Bank"}) cbo.AddItem(entry);
+    cbo.Click = [this] { note("Click"); };
+    cbo.Change = [this] { note("Change"); };
+  }
+  std::string state() const { return toUtf8(cbo.Text()) + " " + std::to_string(cbo.ListIndex()); }
+
+  SampleForm form{fieldRoster};
+  ComboBox& cbo = form.Get<ComboBox>(u"ZahlungsartFibu");
+};
+
+TEST_F(ComboField, HoldsAnyTextAndTheEntryThatItHappensToBe) {
+  EXPECT_EQ(state(), "BAR -1");
+  cbo.Text(u"bank");
+  EXPECT_EQ(state(), "bank 1");
+  EXPECT_EQ(happened(), "Change");
+  cbo.Text(u"bank");
+  EXPECT_EQ(happened(), "");
+  cbo.Text(u"");
+  EXPECT_EQ(state(), " -1");
+  EXPECT_EQ(happened(), "Change");
+}
+
+TEST_F(ComboField, AChoiceByCodeShowsItsEntryAndRaisesClickAlone) {
+  cbo.ListIndex(0);
+  EXPECT_EQ(state(), "E 0");
+  EXPECT_EQ(happened(), "Click");
+  cbo.ListIndex(-1);
+  EXPECT_EQ(state(), " -1");
+  EXPECT_EQ(happened(), "Click");
+}
+
+TEST_F(ComboField, TypingEditsAndRaisesChange) {
+  show(form, [&] {
+    press(key::End);
+    type(u"X");
+    EXPECT_EQ(state(), "BARX -1");
+    press(key::Home);
+    press(key::End, shift::Shift);
+    type(u"e");
+    EXPECT_EQ(state(), "e 0") << "the entry counts without regard to case";
+    EXPECT_EQ(happened(), "Change Change");
+  });
+}
+
+TEST_F(ComboField, TheListReplacesWhatWasTyped) {
+  cbo.Text(u"e");
+  happened();
+  show(form, [&] {
+    press(key::F4);
+    EXPECT_TRUE(cbo.isOpen());
+    press(key::Enter);
+    EXPECT_EQ(state(), "E 0");
+    EXPECT_EQ(happened(), "") << "it was this entry already";
+    press(key::Down);
+    EXPECT_EQ(state(), "Bank 1");
+    EXPECT_EQ(happened(), "Click");
+  });
+}
+
+TEST_F(ComboField, AClickSetsTheCaretAndLeavesTheListShut) {
+  show(form, [&] {
+    click(cbo);
+    EXPECT_FALSE(cbo.isOpen());
+    cbo.userToggled();
+    EXPECT_TRUE(cbo.isOpen());
+  });
+}
+
+TEST_F(ComboField, ClearEmptiesItAndRaisesNothing) {
+  cbo.Clear();
+  EXPECT_EQ(state(), " -1");
+  EXPECT_EQ(happened(), "");
+}
+
 }  // namespace
 }  // namespace zqn::testing

@@ -8,13 +8,13 @@
 #include "desktop/qt/command_button.h"
 #include "desktop/qt/frame.h"
 #include "desktop/qt/label.h"
+#include "desktop/qt/list_field.h"
 #include "desktop/qt/multi_line_text_box.h"
 #include "desktop/qt/tdb_date.h"
 #include "desktop/qt/tdb_list.h"
 #include "desktop/qt/tdb_number.h"
 #include "desktop/qt/text_box.h"
 #include "desktop/qt/toggle_button.h"
-#include "desktop/qt/zq_combo.h"
 
 namespace zqn::qt {
 
@@ -31,6 +31,11 @@ ControlWidget* makeTextBox(Control& control, QWidget& parent) {
                       : make<TextBox, zqn::TextBox>(control, parent);
 }
 
+ControlWidget* makeComboBox(Control& control, QWidget& parent) {
+  return static_cast<zqn::ComboBox&>(control).allowedit() ? make<ComboField, zqn::ComboBox>(control, parent)
+                                                          : make<ComboBox, zqn::ComboBox>(control, parent);
+}
+
 struct Row {
   ControlKind kind;
   ControlWidget* (*make)(Control&, QWidget&);
@@ -38,7 +43,7 @@ struct Row {
 
 constexpr Row table[] = {
     {ControlKind::CheckBox, make<CheckBox, zqn::CheckBox>},
-    {ControlKind::ComboBox, make<ComboBox, zqn::ComboBox>},
+    {ControlKind::ComboBox, makeComboBox},
     {ControlKind::CommandButton, make<CommandButton, zqn::CommandButton>},
     {ControlKind::Frame, make<Frame, zqn::Frame>},
     {ControlKind::Label, make<Label, zqn::Label>},

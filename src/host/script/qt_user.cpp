@@ -15,8 +15,8 @@
 #include <QTableView>
 
 #include "desktop/qt/key_events.h"
+#include "desktop/qt/list_field.h"
 #include "desktop/qt/text.h"
-#include "desktop/qt/zq_combo.h"
 
 namespace zqn::script {
 
@@ -93,7 +93,7 @@ void QtUser::mouseDownAgain(const Spot& spot) {
 
 void QtUser::takeEntry(Control& control, int entry) {
   QWidget& field = *desktop_.widgetOf(control);
-  auto* withButton = dynamic_cast<qt::zqCombo*>(&field);
+  auto* withButton = dynamic_cast<qt::ListField*>(&field);
   QAbstractItemView& drop =
       withButton != nullptr ? withButton->list() : *dynamic_cast<QComboBox&>(field).view();
   if (!drop.isVisible()) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The drop-down over keys in its window: typed into, opened, clicked.
-#include "desktop/qt/zq_combo.h"
+// The drop-downs that a person can type into, in their window: typed into, opened, clicked.
+#include "desktop/qt/list_field.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +24,8 @@ constexpr ControlDesign roster[] = {
     {u"lblTyped",   Label,         u"Status",     120,  510,  900, 255},
     {u"Typed",      zqCombo,       u"",          1080,  480, 3135, 315, {.rowsourcetype = 2, .maxrows = 5, .allowedit = true}},
     {u"Picked",     zqCombo,       u"",          1080,  900, 3135, 315, {.rowsourcetype = 4, .maxrows = 4}},
+    {u"lblFibu",    Label,         u"Fibu",       120, 1350,  900, 255},
+    {u"Fibu",       ComboBox,      u"",          1080, 1320,  705, 315, {.allowedit = true}},
     {u"btnCancel",  CommandButton, u"Schließen", 3000, 1800, 1215, 315, {.Cancel = true}},
 };
 // clang-format on
@@ -58,7 +60,7 @@ class KeyCombos : public ::testing::Test {
     QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), letter);
   }
   static void press(QWidget& target, QPoint place) { QTest::mouseClick(&target, Qt::LeftButton, {}, place); }
-  static QPoint entry(zqCombo& combo, int row) {
+  static QPoint entry(ListField& combo, int row) {
     return combo.list().visualRect(combo.list().model()->index(row, 0)).center();
   }
 
@@ -211,6 +213,37 @@ TEST_F(KeyCombos, AreNamedByTheirLabel) {
               EXPECT_EQ(widget(typed).accessibleName(), QStringLiteral("Status"));
               EXPECT_EQ(widget(typed).button().accessibleName(), QStringLiteral("Liste"));
             }});
+}
+
+TEST_F(KeyCombos, AFieldForAnyTextTakesWhatIsTypedAndWhatIsChosen) {
+  auto& fibu = form.Get<zqn::ComboBox>(u"Fibu");
+  fibu.AddItem(u"E");
+  fibu.AddItem(u"Bank");
+  const auto field = [&]() -> ComboField& {
+    return dynamic_cast<ComboField&>(*person.desktop.widgetOf(fibu));
+  };
+  person.at(form, {[&] { person.click(fibu); },
+                   [&] {
+                     EXPECT_FALSE(field().list().isVisible()) << "a click into the text opens nothing";
+                     type('x');
+                     type('y');
+                   },
+                   [&] {
+                     EXPECT_EQ(fibu.Text(), u"xy");
+                     EXPECT_EQ(fibu.ListIndex(), -1);
+                     person.click(field().button());
+                   },
+                   [&] {
+                     ASSERT_TRUE(field().list().isVisible());
+                     EXPECT_EQ(field().list().model()->columnCount(), 1);
+                     press(*field().list().viewport(), entry(field(), 1));
+                   },
+                   [&] {
+                     EXPECT_EQ(fibu.Text(), u"Bank");
+                     EXPECT_EQ(field().text(), QStringLiteral("Bank"));
+                     key(Qt::Key_Z, Qt::ControlModifier);
+                   },
+                   [&] { EXPECT_EQ(person.desktop.differences(form), QString()); }});
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/qt/zq_combo.h"
+#include "desktop/qt/list_field.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -14,22 +14,38 @@ namespace zqn::qt {
 
 // ---- rows
 
-QVariant zqComboRows::data(const QModelIndex& index, int role) const {
+QVariant ListFieldRows::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole || !index.isValid()) return {};
-  return toQt(index.column() == 0 ? combo_.keyOf(index.row()) : combo_.textOf(index.row()));
+  return toQt(cell_(index.row(), index.column()));
 }
 
-void zqComboRows::follow() {
+void ListFieldRows::follow(int rows) {
   beginResetModel();
-  rows_ = combo_.ListCount();
+  rows_ = rows;
   endResetModel();
 }
 
-// ---- zqCombo
+// ---- the kinds
+
+ComboField::ComboField(zqn::ComboBox& model, QWidget* parent)
+    : ListField(model, parent, 8, 1, [&model](int row, int) -> const String& { return model.List(row); }) {}
 
 zqCombo::zqCombo(zqn::zqCombo& model, QWidget* parent)
-    : TextEntry(model, parent), model_(model), rows_(model), window_(this, Qt::Popup) {
-  setReadOnly(!model.allowedit());
+    : ListField(model, parent, model.maxrows(), 2, [&model](int row, int column) -> const String& {
+        return column == 0 ? model.keyOf(row) : model.textOf(row);
+      }) {}
+
+// ---- the field
+
+ListField::ListField(zqn::TextEntry& field, zqn::DropDown& entries, bool editable, QWidget* parent,
+                     int maxrows, int columns, ListFieldRows::Cell cell)
+    : TextEntry(field, parent),
+      model_(field),
+      entries_(entries),
+      maxrows_(maxrows),
+      rows_(columns, std::move(cell)),
+      window_(this, Qt::Popup) {
+  setReadOnly(!editable);
   if (isReadOnly()) setCursor(Qt::ArrowCursor);
   window_.setFrameShape(QFrame::Box);
   list_.setModel(&rows_);
@@ -52,33 +68,33 @@ zqCombo::zqCombo(zqn::zqCombo& model, QWidget* parent)
 
 // ---- drawing
 
-void zqCombo::draw() {
+void ListField::draw() {
   button_.place(true);
   TextEntry::draw();
   drawList();
 }
 
-void zqCombo::drawList() {
-  if (window_.isVisible() != model_.isOpen()) {
-    if (model_.isOpen()) {
+void ListField::drawList() {
+  if (window_.isVisible() != entries_.isOpen()) {
+    if (entries_.isOpen()) {
       openList();
     } else {
       window_.hide();
     }
   }
-  if (!model_.isOpen() || list_.currentIndex().row() == model_.markedEntry()) return;
-  list_.setCurrentIndex(rows_.index(model_.markedEntry(), 0));
+  if (!entries_.isOpen() || list_.currentIndex().row() == entries_.markedEntry()) return;
+  list_.setCurrentIndex(rows_.index(entries_.markedEntry(), 0));
 }
 
-void zqCombo::openList() {
-  rows_.follow();
+void ListField::openList() {
+  rows_.follow(entries_.ListCount());
   int columns = 0;
   for (int column = 0; column < rows_.columnCount(); ++column) {
     list_.resizeColumnToContents(column);
     columns += list_.columnWidth(column);
   }
   const int frames = 2 * window_.frameWidth();
-  const int shown = std::min(model_.maxrows(), rows_.rowCount());
+  const int shown = std::min(maxrows_, rows_.rowCount());
   const bool scrolls = rows_.rowCount() > shown;
   const int bar = scrolls ? list_.verticalScrollBar()->sizeHint().width() : 0;
   const QSize inside(std::max(columns + bar, width() - frames), shown * list_.sizeHintForRow(0));
@@ -93,44 +109,44 @@ void zqCombo::openList() {
   window_.show();
 }
 
-void zqCombo::compare(Differences& found) const {
+void ListField::compare(Differences& found) const {
   TextEntry::compare(found);
-  found.expect("open list", window_.isVisible(), model_.isOpen());
-  if (!model_.isOpen()) return;
-  found.expect("entries", rows_.rowCount(), model_.ListCount());
-  found.expect("marked entry", list_.currentIndex().row(), model_.markedEntry());
+  found.expect("open list", window_.isVisible(), entries_.isOpen());
+  if (!entries_.isOpen()) return;
+  found.expect("entries", rows_.rowCount(), entries_.ListCount());
+  found.expect("marked entry", list_.currentIndex().row(), entries_.markedEntry());
 }
 
-void zqCombo::resizeEvent(QResizeEvent* event) {
+void ListField::resizeEvent(QResizeEvent* event) {
   TextEntry::resizeEvent(event);
   button_.place(true);
 }
 
 // ---- input
 
-void zqCombo::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
-  if (isReadOnly() || model_.isListKey(stroke)) {
+void ListField::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
+  if (isReadOnly() || entries_.isListKey(stroke)) {
     model_.ownKey(stroke);
   } else {
     TextEntry::ownKey(event, stroke, asTyped);
   }
 }
 
-bool zqCombo::pressed(const QMouseEvent& event, bool focusCame) {
+bool ListField::pressed(const QMouseEvent& event, bool focusCame) {
   return isReadOnly() || TextEntry::pressed(event, focusCame);
 }
 
-void zqCombo::toList(const QMouseEvent& event) {
+void ListField::toList(const QMouseEvent& event) {
   const QModelIndex entry = list_.indexAt(event.position().toPoint());
   if (!entry.isValid()) return;
   if (event.type() == QEvent::MouseMove) {
-    model_.userMarked(entry.row());
+    entries_.userMarked(entry.row());
   } else {
-    shielded(model_, u"Click", [&] { model_.userChose(entry.row()); });
+    shielded(model_, u"Click", [&] { entries_.userChose(entry.row()); });
   }
 }
 
-bool zqCombo::eventFilter(QObject* watched, QEvent* event) {
+bool ListField::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -154,7 +170,7 @@ bool zqCombo::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::Hide:
       // A click elsewhere has closed it.
-      if (watched == &window_ && !isDrawing()) model_.userClosed();
+      if (watched == &window_ && !isDrawing()) entries_.userClosed();
       break;
     default:
       break;

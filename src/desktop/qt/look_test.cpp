@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QScreen>
 #include <QStyle>
+#include <cmath>
 
 #include "desktop/qt/entry_form_for_tests.h"
 #include "desktop/qt/test_support.h"
@@ -51,6 +52,21 @@ TEST(Looks, UseTheFontThatTheDesignsWereMeasuredWith) {
   const QFontInfo font(QApplication::font());
   EXPECT_THAT(font.family().toStdString(), ::testing::AnyOf("Tahoma", "Liberation Sans"));
   EXPECT_NEAR(font.pixelSize(), 11.0 * QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 96, 1);
+}
+
+/// How bright a colour looks, from 0 to 1.
+double luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+TEST(Looks, KeepAFieldReadableThatCannotBeChanged) {
+  const QPalette palette = QApplication::palette();
+  const double back = luminance(palette.color(QPalette::Disabled, QPalette::Window));
+  const double text = luminance(palette.color(QPalette::Disabled, QPalette::Text));
+  EXPECT_GT((back + 0.05) / (text + 0.05), 4.5) << "what people with weak sight need";
 }
 
 TEST(Looks, HaveTheNarrowRadioIndicator) {

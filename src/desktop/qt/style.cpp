@@ -78,6 +78,10 @@ QFont dialogFont() {
 void configureApplication(QApplication& app) {
   app.setStyle(new DialogStyle);
   app.setFont(dialogFont());
+  // A field that cannot be changed is still read.
+  QPalette palette = QApplication::palette();
+  palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x66, 0x66, 0x66));
+  QApplication::setPalette(palette);
 }
 
 }  // namespace zqn::qt

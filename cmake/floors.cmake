@@ -32,6 +32,10 @@ endfunction()
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
+# Tests are compiled for a quick turn: what they drive is optimized, they themselves need not be.
+add_library(zqn_test_flags INTERFACE)
+target_compile_options(zqn_test_flags INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0> $<$<CONFIG:RelWithDebInfo>:-g1>)
+
 # zqn_test(name sources... [USES folders] [LINKS libraries]): a GoogleTest program <name>_test, one ctest entry a case.
 function(zqn_test name)
   cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
@@ -39,6 +43,6 @@ function(zqn_test name)
   foreach(used IN LISTS ARG_USES)
     target_link_libraries(${name}_test PRIVATE zqn_${used})
   endforeach()
-  target_link_libraries(${name}_test PRIVATE zqn_flags ${ARG_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
+  target_link_libraries(${name}_test PRIVATE zqn_flags zqn_test_flags ${ARG_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
   gtest_discover_tests(${name}_test TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
 endfunction()

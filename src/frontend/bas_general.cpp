@@ -113,6 +113,15 @@ String BuildWoDrucken(const PrintMarks& marks) {
   return text;
 }
 
+// ---- lists
+
+std::int32_t FindListIndex(const ComboBox& List, StringView Text, std::int32_t Default) {
+  for (int index = 0; index < List.ListCount(); ++index) {
+    if (StrComp(List.List(index), Text) == 0) return index;
+  }
+  return Default;
+}
+
 // ---- payment terms
 
 String TagText(const Variant& Anzahl) { return CLng(Anzahl) == 1 ? u" Tag " : u" Tage "; }

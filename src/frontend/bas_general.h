@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Free routines of the definition classes: opening a recordset from its parts, reading a text block, the
-// print marks of a text block, and the sentence of a payment term.
+// print marks of a text block, finding an entry of a list, and the sentence of a payment term.
 //
 //     Ref<ado::Recordset> list =
 //         basGeneral::GetRecordset(u"Zahlungsbedingungen", u"ZahlbedSchl, Kurztext", {}, u"ZahlBedSchl",
@@ -13,6 +13,7 @@
 
 #include "ado/recordset.h"
 #include "ado/sql.h"
+#include "forms/combo_box.h"
 #include "runtime/ref.h"
 #include "runtime/variant.h"
 
@@ -71,6 +72,11 @@ struct PrintMarks {
 PrintMarks SplitWoDrucken(StringView WoDrucken);
 /// The letters and hyphens of the marks that take part.
 String BuildWoDrucken(const PrintMarks& marks);
+
+// ---- lists
+
+/// The first entry that equals the text without regard to case, `Default` when none does.
+std::int32_t FindListIndex(const ComboBox& List, StringView Text, std::int32_t Default);
 
 // ---- payment terms
 

@@ -177,6 +177,20 @@ TEST_F(Queries, AFailedQueryLeavesTheBlockAsItWas) {
   EXPECT_EQ(number, u"01");
 }
 
+// ---- lists
+
+TEST(ListEntries, AreFoundWithoutRegardToCaseTheFirstOfEquals) {
+  constexpr ControlDesign roster[] = {{u"cbo", ControlKind::ComboBox, u"", 0, 0, 1500, 315}};
+  Form form({u"frmProbe", u"Probe", 3000, 3000, roster});
+  auto& list = form.Get<ComboBox>(u"cbo");
+  EXPECT_EQ(FindListIndex(list, u"", 7), 7) << "an empty list";
+  for (const StringView entry : {u"", u"Abc", u"ABC", u"Größe"}) list.AddItem(entry);
+  EXPECT_EQ(FindListIndex(list, u"abc", 0), 1);
+  EXPECT_EQ(FindListIndex(list, u"GRÖßE", -1), 3);
+  EXPECT_EQ(FindListIndex(list, u"", -1), 0);
+  EXPECT_EQ(FindListIndex(list, u"abcd", -1), -1);
+}
+
 // ---- conversions
 
 TEST(NullAndValues, AreExchangedByTheLanguagesComparison) {

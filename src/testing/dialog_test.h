@@ -72,8 +72,11 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
 
   // ---- the dialog
 
+  /// The form that serves the kind, or the generic form in any case.
+  enum class Through { Show, GenericForm };
   /// Shows a dialog; `acts` runs when the form waits for the person. Returns what Show returned.
-  Variant show(std::int32_t kind, VariantArray param, const std::function<void()>& acts = {});
+  Variant show(std::int32_t kind, VariantArray param, const std::function<void()>& acts = {},
+               Through through = Through::Show);
   /// Param as Show left it.
   VariantArray param;
 

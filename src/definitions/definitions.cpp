@@ -3,6 +3,9 @@
 
 #include <algorithm>
 
+#include "definitions/buchungskreise.h"
+#include "definitions/coded_catalogues.h"
+#include "definitions/laendernamen.h"
 #include "definitions/zahlungsbedingungen.h"
 
 namespace zqn {
@@ -21,6 +24,17 @@ struct Definition {
 
 constexpr Definition definitions[] = {
     {3, make<clsZahlungsbedingungen>},
+    {7, make<clsProvisionsgruppenKunde>},
+    {11, make<clsProvisionsgruppenArtikel>},
+    {12, make<clsErloeskontoKennungen>},
+    {13, make<clsWEKontoKennungen>},
+    {14, make<clsLieferantengruppen>},
+    {19, make<clsVertragsarten>},
+    {22, make<clsMitbewerber>},
+    {23, make<clsAdressHerkunft>},
+    {24, make<clsLaendernamen>},
+    {27, make<clsBuchungskreise>},
+    {37, make<clsKontaktgrund>},
 };
 
 }  // namespace

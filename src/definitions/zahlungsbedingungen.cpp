@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/zahlungsbedingungen.h"
 
-#include "ado/command.h"
 #include "frontend/bas_basis.h"
-#include "frontend/bas_general.h"
-#include "runtime/convert.h"
-#include "runtime/resume_next.h"
 
 namespace zqn {
-
-using ado::sql::value;
-using basBasis::NullToValue;
 
 // The order in which the columns are read and written.
 const clsZahlungsbedingungen::NumberField clsZahlungsbedingungen::numberFields[7] = {
@@ -44,57 +37,25 @@ void clsZahlungsbedingungen::Init(const Variant& Key, const Ref<ado::Connection>
 
 void clsZahlungsbedingungen::ReadData(ado::Recordset& Recordset) {
   BasisControls& c = controls();
-  c.txtKey().Text(NullToValue(Recordset.Fields(u"ZahlBedSchl").Value(), u""));
+  readText(Recordset, u"ZahlBedSchl", c.txtKey());
   for (const NumberField& field : numberFields) {
-    (c.*field.control)().Value(NullToValue(Recordset.Fields(field.column).Value(), std::int32_t{0}));
+    (c.*field.control)().Value(
+        basBasis::NullToValue(Recordset.Fields(field.column).Value(), std::int32_t{0}));
   }
   // Last: the numbers have rebuilt the sentence, and what is stored goes over it.
-  c.txtKeyText().Text(NullToValue(Recordset.Fields(u"Kurztext").Value(), u""));
+  readText(Recordset, u"Kurztext", c.txtKeyText());
 }
 
-void clsZahlungsbedingungen::WriteData() {
-  ResumeNext step;
+void clsZahlungsbedingungen::writeKey(ResumeNext& step, const Ref<ado::Recordset>& row) {
+  step([&] { row->Fields(u"ZahlBedSchl").Value(controls().txtKey().Text()); });
+}
+
+void clsZahlungsbedingungen::writeFields(ResumeNext& step, const Ref<ado::Recordset>& row) {
   BasisControls& c = controls();
-  Ref<ado::Recordset> rs;
-  step([&] { rs = GetRecordsetForReadWrite(); });
-  if (step.test([&] { return rs->IsEOF(); })) {
-    step([&] { rs->AddNew(); });
-    step([&] { rs->Fields(u"ZahlBedSchl").Value(c.txtKey().Text()); });
-  }
-  step([&] { rs->Fields(u"Kurztext").Value(c.txtKeyText().Text()); });
+  step([&] { row->Fields(u"Kurztext").Value(c.txtKeyText().Text()); });
   for (const NumberField& field : numberFields) {
-    step([&] { rs->Fields(field.column).Value((c.*field.control)().Value()); });
+    step([&] { row->Fields(field.column).Value((c.*field.control)().Value()); });
   }
-  step([&] { rs->Update(); });
-  step([&] { rs->Close(); });
-}
-
-void clsZahlungsbedingungen::DeleteData() {
-  ResumeNext step;
-  ado::Command command;
-  step([&] { command.ActiveConnection(basBasis::GetConnection()); });
-  step([&] { command.CommandType(ado::adCmdText); });
-  step([&] {
-    // The row that is marked in the list, whatever stands in the key field.
-    command.CommandText(u"Delete From Zahlungsbedingungen WHERE ZahlBedSchl = " +
-                        value(controls().tdblShow().Columns(0).Value()));
-  });
-  step([&] { command.Execute(); });
-}
-
-Ref<ado::Recordset> clsZahlungsbedingungen::GetRecordsetForShow() {
-  return basGeneral::GetRecordset(u"Zahlungsbedingungen", u"ZahlbedSchl, Kurztext", {}, u"ZahlBedSchl",
-                                  ado::adLockReadOnly);
-}
-
-Ref<ado::Recordset> clsZahlungsbedingungen::GetRecordsetForReadWrite() {
-  return basGeneral::GetRecordset(u"Zahlungsbedingungen", u"*",
-                                  u"ZahlBedSchl = " + value(controls().txtKey().Text()), u"",
-                                  ado::adLockOptimistic);
-}
-
-ado::sql::Text clsZahlungsbedingungen::FindCriteria() {
-  return u"ZahlBedSchl=" + value(controls().txtKey().Text());
 }
 
 }  // namespace zqn

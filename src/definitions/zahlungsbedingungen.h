@@ -5,19 +5,22 @@
 // row.
 #pragma once
 
-#include "definitions/definition_class.h"
+#include "definitions/table_editor.h"
 
 namespace zqn {
 
-class clsZahlungsbedingungen final : public DefinitionClass {
+class clsZahlungsbedingungen final : public TableEditor {
  public:
+  clsZahlungsbedingungen() : TableEditor({u"Zahlungsbedingungen", u"ZahlBedSchl"}) {}
+
   void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   void ReadData(ado::Recordset& Recordset) override;
-  void WriteData() override;
-  void DeleteData() override;
-  Ref<ado::Recordset> GetRecordsetForShow() override;
-  Ref<ado::Recordset> GetRecordsetForReadWrite() override;
-  ado::sql::Text FindCriteria() override;
+
+ protected:
+  StringView listFields() const override { return u"ZahlbedSchl, Kurztext"; }
+  /// Texts and numbers go in as they are: an empty text stays one.
+  void writeKey(ResumeNext& step, const Ref<ado::Recordset>& row) override;
+  void writeFields(ResumeNext& step, const Ref<ado::Recordset>& row) override;
 
  private:
   /// A number column and the control that holds it.

@@ -10,10 +10,6 @@ using ::testing::ElementsAre;
 
 class Zahlungsbedingungen : public PaymentTerms {
  protected:
-  void put(StringView control, StringView digits) {
-    click(control);
-    type(digits);
-  }
   std::vector<String> row(StringView key) {
     return rows(u"SELECT * FROM Zahlungsbedingungen WHERE ZahlBedSchl='" + String(key) + u"'");
   }
@@ -27,10 +23,7 @@ TEST_F(Zahlungsbedingungen, ShowsItsFieldsAndCaptions) {
     EXPECT_EQ(get(u"tdblShow", u"Columns(1).Caption"), Variant(u"Kurztext:"));
     EXPECT_EQ(get(u"txtKey", u"MaxLength"), Variant(std::int32_t{3}));
     EXPECT_FALSE(enabled(u"txtKeyText"));
-    std::vector<String> shown;
-    for (const auto& control : form().controls()) {
-      if (control->isShown()) shown.push_back(control->fullName());
-    }
+    const std::vector<String> shown = shownControls();
     EXPECT_EQ(shown.size(), 28u);
     EXPECT_THAT(shown, ::testing::Not(
                            ::testing::Contains(::testing::AnyOf(u"txtZusatz", u"cbo(0)", u"chk1", u"fra"))));

@@ -81,7 +81,7 @@ class clsBasisDialog {
   /// Blanks the fields for a record that does not exist. The key field stays.
   virtual void InitData() = 0;
   /// The key that the dialog returns: the one handed in, saved or picked last.
-  virtual const Variant& Key() const = 0;
+  virtual Variant Key() const = 0;
   virtual void Key(Variant Key) = 0;
   /// The check box has changed.
   virtual void DataChanged(Control& Control) = 0;
@@ -118,6 +118,7 @@ class BasisDialog {
   /// Binds the list.
   void ShowData(const Ref<ado::Recordset>& Recordset);
   BasisControls& controls() noexcept { return controls_; }
+  const BasisControls& controls() const noexcept { return controls_; }
 
  private:
   Variant key_;

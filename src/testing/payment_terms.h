@@ -3,11 +3,11 @@
 // A small catalogue of payment terms for tests of the generic form.
 #pragma once
 
-#include "testing/dialog_test.h"
+#include "testing/generic_form.h"
 
 namespace zqn::testing {
 
-class PaymentTerms : public DialogTest {
+class PaymentTerms : public GenericFormTest {
  protected:
   PaymentTerms() {
     execute(
@@ -19,17 +19,6 @@ class PaymentTerms : public DialogTest {
         u"INSERT INTO Zahlungsbedingungen VALUES ('14', '14 Tage netto.', 0, 0, 0, 14, 0, 0, 0);"
         u"INSERT INTO Zahlungsbedingungen VALUES ('S1', '10 Tage 2%, 30 Tage netto.', 10, 0, 0, 30, 2, 0, "
         u"0)");
-  }
-
-  /// New, a key, and on to the first field.
-  void enter(StringView key) {
-    click(u"cmdNew");
-    type(key);
-    press(key::Tab);
-  }
-  Variant number(StringView control) const { return get(control, u"Value"); }
-  void expectDeleteQuestion(MsgBoxResult answer) {
-    expectBox(u"Datensatz löschen?", u"Abfrage", msgbox::YesNo | msgbox::Question, answer);
   }
 };
 

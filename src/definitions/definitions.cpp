@@ -5,7 +5,11 @@
 
 #include "definitions/buchungskreise.h"
 #include "definitions/coded_catalogues.h"
+#include "definitions/entry_schemes.h"
+#include "definitions/group_catalogues.h"
 #include "definitions/laendernamen.h"
+#include "definitions/payment_types.h"
+#include "definitions/shipping_types.h"
 #include "definitions/zahlungsbedingungen.h"
 
 namespace zqn {
@@ -23,13 +27,25 @@ struct Definition {
 };
 
 constexpr Definition definitions[] = {
+    {1, make<clsZahlungsart>},
+    {2, make<clsZahlungsartEk>},
     {3, make<clsZahlungsbedingungen>},
+    {4, make<clsVersandarten>},
+    {5, make<clsKundengruppen>},
+    {6, make<clsKundengruppeShop>},
     {7, make<clsProvisionsgruppenKunde>},
+    {8, make<clsArtikelgruppe>},
+    {9, make<clsVerkaufsgruppe>},
+    {10, make<clsEinkaufsgruppe>},
     {11, make<clsProvisionsgruppenArtikel>},
     {12, make<clsErloeskontoKennungen>},
     {13, make<clsWEKontoKennungen>},
     {14, make<clsLieferantengruppen>},
+    {15, make<clsErfassungsschema>},
+    {17, make<clsErfassungsschemaEK>},
+    {18, make<clsVersandartenEK>},
     {19, make<clsVertragsarten>},
+    {20, make<clsVerkaufsgruppenShop>},
     {22, make<clsMitbewerber>},
     {23, make<clsAdressHerkunft>},
     {24, make<clsLaendernamen>},

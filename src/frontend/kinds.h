@@ -37,5 +37,7 @@ const KindInfo* findKind(std::int32_t number) noexcept;
 bool isOffered(std::int32_t number) noexcept;
 /// The form of an offered kind as it stands before it is filled, for checks that run on every form.
 std::unique_ptr<Form> makeForm(std::int32_t number);
+/// The same on the generic form, which has catalogues for some kinds with a form of their own, too.
+std::unique_ptr<Form> makeGenericForm(std::int32_t number);
 
 }  // namespace zqn

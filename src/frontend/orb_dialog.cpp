@@ -98,9 +98,15 @@ bool isOffered(std::int32_t number) noexcept {
 
 std::unique_ptr<Form> makeForm(std::int32_t number) {
   if (const Dispatch* row = findDispatch(number)) return row->make();
-  auto generic = std::make_unique<frmDialog>();
-  generic->Init(nothing, u"", number);
-  return generic;
+  return makeGenericForm(number);
+}
+
+std::unique_ptr<Form> makeGenericForm(std::int32_t number) {
+  ResumeNext step;
+  auto form = std::make_unique<frmDialog>();
+  // Without a connection a class may fail to fill its drop-downs, the last thing it does.
+  step([&] { form->Init(nothing, u"", number); });
+  return form;
 }
 
 void ORBDialog::Session(Ref<zqn::Session> session) {

@@ -44,6 +44,8 @@ void GroupCatalogue::ShowData(const Ref<ado::Recordset>& Recordset) {
   m_objBasis.ShowData(Recordset);
   BasisControls& c = controls();
   TDBList& list = c.tdblShow();
+  // Fifteen capitals, and "Verkaufsgruppe Shop" above them.
+  list.Columns(0).Width(1800);
   list.Columns(0).Caption(c.lblKey().Caption());
   list.Columns(1).Caption(c.lblLangtext().Caption());
   list.Columns(2).Caption(c.lblKeyText().Caption());

@@ -46,7 +46,7 @@ void TextBlockEditor::showRecord(StringView caption) {
 void TextBlockEditor::ShowData(const Ref<ado::Recordset>& Recordset) {
   TableEditor::ShowData(Recordset);
   TDBList& list = controls().tdblShow();
-  list.Columns(1).Width(list.Width() - list.Columns(0).Width());
+  if (list.columnCount() > 2) list.Columns(1).Width(list.Width() - list.Columns(0).Width());
 }
 
 // ---- toggles

@@ -53,7 +53,12 @@ void frmDialog::wireFields() {
 // ---- construction
 
 void frmDialog::Init(const Ref<ado::Connection>& Connection, const Variant& Key, std::int32_t Kind) {
-  m_objDialog = makeDefinition(Kind);
+  Init(Connection, Key, makeDefinition(Kind));
+}
+
+void frmDialog::Init(const Ref<ado::Connection>& Connection, const Variant& Key,
+                     std::unique_ptr<clsBasisDialog> Definition) {
+  m_objDialog = std::move(Definition);
   handOver(definition().controls());
   definition().Init(Key, Connection);
 }

@@ -32,6 +32,9 @@ class frmDialog final : public Form {
   /// Chooses the definition class of the kind and lets it set up the form. Error 91 for a kind that has none,
   /// and whatever the class lets out.
   void Init(const Ref<ado::Connection>& Connection, const Variant& Key, std::int32_t Kind);
+  /// The same with a definition class of the caller's.
+  void Init(const Ref<ado::Connection>& Connection, const Variant& Key,
+            std::unique_ptr<clsBasisDialog> Definition);
   /// The key of the definition object as text. Error 91 without one, 94 when it is Null.
   String Key() const;
   /// Fills the form and shows it modally. Never raises: the form always comes up.

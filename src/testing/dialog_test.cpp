@@ -119,6 +119,11 @@ Variant DialogTest::show(std::int32_t kind, VariantArray handedIn, const std::fu
   return through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
 }
 
+void DialogTest::during(const std::function<void()>& shows, const std::function<void()>& acts) {
+  acts_ = acts;
+  shows();
+}
+
 void DialogTest::idle() {
   if (desktop.openMessageBox() != nullptr) {
     const MsgBoxResult answer = boxes_.empty() ? MsgBoxResult::Yes : boxes_.front().answer;

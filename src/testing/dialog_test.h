@@ -77,6 +77,8 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
   /// Shows a dialog; `acts` runs when the form waits for the person. Returns what Show returned.
   Variant show(std::int32_t kind, VariantArray param, const std::function<void()>& acts = {},
                Through through = Through::Show);
+  /// The same for whatever `shows` a form.
+  void during(const std::function<void()>& shows, const std::function<void()>& acts);
   /// Param as Show left it.
   VariantArray param;
 

@@ -9,8 +9,8 @@ using enum KindServer;
 
 // clang-format off
 constexpr KindInfo kinds[] = {
-    {1, u"zqnCommonDialogZahlungsarten", Dedicated, u"frmZahlungsarten", u"", u"Zahlungsarten,Textbausteine"},
-    {2, u"zqnCommonDialogZahlungsartenEK", Dedicated, u"frmZahlungsarten", u"", u"ZahlungsartenEK,Textbausteine"},
+    {1, u"zqnCommonDialogZahlungsarten", Dedicated, u"frmZahlungsarten", u"clsZahlungsart", u"Zahlungsarten,Textbausteine"},
+    {2, u"zqnCommonDialogZahlungsartenEK", Dedicated, u"frmZahlungsarten", u"clsZahlungsartEk", u"ZahlungsartenEK,Textbausteine"},
     {3, u"zqnCommonDialogZahlungsbedingungen", Generic, u"frmDialog", u"clsZahlungsbedingungen", u"Zahlungsbedingungen"},
     {4, u"zqnCommonDialogVersandarten", Generic, u"frmDialog", u"clsVersandarten", u"Versandtexte,Versandformulare,Textbausteine"},
     {5, u"zqnCommonDialogKundengruppen", Generic, u"frmDialog", u"clsKundengruppen", u"Kundengruppen"},
@@ -26,7 +26,7 @@ constexpr KindInfo kinds[] = {
     {15, u"zqnCommonDialogErfassungsschema", Generic, u"frmDialog", u"clsErfassungsschema", u"Erfassungsschema"},
     {16, u"zqnCommonDialogPreislisten", Dedicated, u"frmPreislisten", u"", u"Preislistenkopf,Staffelpreise,Kundenstamm"},
     {17, u"zqnCommonDialogErfassungsschemaEK", Generic, u"frmDialog", u"clsErfassungsschemaEK", u"ErfassungsschemaEK"},
-    {18, u"zqnCommonDialogVersandartenEK", Generic, u"frmDialog", u"clsVersandartenEK", u"VersandtexteEK,Versandformulare,Textbausteine"},
+    {18, u"zqnCommonDialogVersandartenEK", Generic, u"frmDialog", u"clsVersandartenEK", u"VersandtexteEK,Textbausteine"},
     {19, u"zqnCommonDialogVertragsarten", Generic, u"frmDialog", u"clsVertragsarten", u"Vertragsarten"},
     {20, u"zqnCommonDialogVerkaufsgruppeShop", Generic, u"frmDialog", u"clsVerkaufsgruppenShop", u"VerkaufsgruppenShop"},
     {21, u"zqnCommonDialogVertriebsStati", Dedicated, u"frmVertriebsstati", u"", u"Vertriebsstati"},

@@ -23,7 +23,7 @@ struct KindInfo {
   KindServer server;
   /// "frmVertriebsstati"; "frmDialog" for the generic form.
   const char16_t* form;
-  /// Its definition class on the generic form; empty for a dedicated one.
+  /// Its definition class on the generic form; empty for a kind that has none.
   const char16_t* definition;
   /// The tables it reads and writes, commas between them; the first is the catalogue.
   const char16_t* tables;

@@ -99,6 +99,26 @@ TEST_P(FormsOfKind, LookWell) {
   EXPECT_THAT(tabOrder(*form), ::testing::Not(IsEmpty()));
 }
 
+/// The generic form with the catalogues of all kinds that it knows.
+class GenericFormsOfKind : public ::testing::TestWithParam<std::int32_t> {};
+
+TEST_P(GenericFormsOfKind, LookWell) {
+  const std::unique_ptr<Form> form = makeGenericForm(GetParam());
+  EXPECT_THAT(findingsIn(*form), IsEmpty());
+  EXPECT_THAT(tabOrder(*form), ::testing::Not(IsEmpty()));
+}
+
+std::vector<std::int32_t> kindsWithDefinition() {
+  std::vector<std::int32_t> numbers;
+  for (const KindInfo& kind : dialogKinds()) {
+    if (*kind.definition) numbers.push_back(kind.number);
+  }
+  return numbers;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, GenericFormsOfKind, ::testing::ValuesIn(kindsWithDefinition()),
+                         ::testing::PrintToStringParamName());
+
 INSTANTIATE_TEST_SUITE_P(All, FormsOfKind, ::testing::ValuesIn(offeredKinds()),
                          ::testing::PrintToStringParamName());
 

@@ -40,11 +40,13 @@ QStringList visibleDialogs(QTreeWidget& tree) {
 class List : public ::testing::Test {
  protected:
   List() {
-    list.opened = [this](std::int32_t kind) { opened.push_back(kind); };
+    list.opened = [this](const DialogTitle& dialog) { opened.push_back(dialog.kind); };
     list.show();
   }
   QLineEdit& search() { return named<QLineEdit>(list, "Dialog suchen"); }
   QTreeWidget& tree() { return named<QTreeWidget>(list, "Dialoge"); }
+  /// The kind of the marked dialog, 0 when none is.
+  std::int32_t kind() const { return list.dialog() ? list.dialog()->kind : 0; }
 
   DialogList list;
   std::vector<std::int32_t> opened;
@@ -72,7 +74,8 @@ class Desk : public ::testing::Test {
 
 TEST(DialogTitles, AreThoseOfAllKindsOnce) {
   std::vector<std::int32_t> kinds;
-  for (const DialogTitle& title : dialogTitles()) kinds.push_back(title.kind);
+  for (const DialogTitle& title : dialogTitles())
+    if (!title.generic) kinds.push_back(title.kind);
   std::ranges::sort(kinds);
   ASSERT_EQ(kinds.size(), dialogKinds().size());
   for (const KindInfo& kind : dialogKinds()) EXPECT_EQ(kinds.at(kind.number - 1u), kind.number);
@@ -89,7 +92,7 @@ TEST(DialogTitles, OfOneSubjectStandTogether) {
 TEST_F(List, ShowsTheOfferedKindsAndNoOthers) {
   QStringList offered;
   for (const DialogTitle& title : dialogTitles())
-    if (isOffered(title.kind)) offered += QString::fromUtf16(title.title);
+    if (title.generic || isOffered(title.kind)) offered += QString::fromUtf16(title.title);
   EXPECT_EQ(visibleDialogs(tree()), offered);
 }
 
@@ -98,8 +101,18 @@ TEST_F(List, IsNarrowedByTitleNumberFormAndTable) {
        {"stati", "21", "frmVertriebsstati", "vertrieb stati", "zqnCommonDialogVertriebsStati"}) {
     search().setText(typed);
     EXPECT_EQ(visibleDialogs(tree()), QStringList("Vertriebsstati")) << typed;
-    EXPECT_EQ(list.kind(), 21) << typed;
+    EXPECT_EQ(kind(), 21) << typed;
   }
+}
+
+TEST_F(List, OffersThePaymentTypesOnTheGenericFormToo) {
+  QStringList numbers;
+  search().setText("generic form");
+  for (QTreeWidgetItem* item = tree().topLevelItem(0); item; item = tree().itemBelow(item))
+    if (item->parent() && !item->isHidden() && !item->parent()->isHidden()) numbers += item->text(1);
+  EXPECT_EQ(numbers, QStringList({"1 (generic form)", "2 (generic form)"}));
+  ASSERT_NE(list.dialog(), nullptr);
+  EXPECT_TRUE(list.dialog()->generic);
 }
 
 TEST_F(List, OpensWhatIsMarkedByEnterFromTheSearchBox) {
@@ -110,20 +123,20 @@ TEST_F(List, OpensWhatIsMarkedByEnterFromTheSearchBox) {
 
 TEST_F(List, OpensNothingWhenNothingIsFound) {
   QTest::keyClicks(&search(), "gibt es nicht");
-  EXPECT_EQ(list.kind(), 0);
+  EXPECT_EQ(kind(), 0);
   QTest::keyClick(&search(), Qt::Key_Return);
   EXPECT_THAT(opened, IsEmpty());
 }
 
 TEST_F(List, IsWalkedByTheArrowKeysFromTheSearchBox) {
-  const std::int32_t first = list.kind();
+  const std::int32_t first = kind();
   QTest::keyClick(&search(), Qt::Key_Down);
-  EXPECT_NE(list.kind(), first);
-  EXPECT_NE(list.kind(), 0);
+  EXPECT_NE(kind(), first);
+  EXPECT_NE(kind(), 0);
   QTest::keyClick(&search(), Qt::Key_Up);
-  EXPECT_EQ(list.kind(), first);
+  EXPECT_EQ(kind(), first);
   QTest::keyClick(&search(), Qt::Key_Up);
-  EXPECT_EQ(list.kind(), first);
+  EXPECT_EQ(kind(), first);
 }
 
 TEST_F(Desk, WritesDownWhatShowReturned) {
@@ -142,6 +155,24 @@ TEST_F(Desk, WritesDownWhatShowReturned) {
   for (int i = 0; i < call.childCount(); ++i) lines += call.child(i)->text(0) + " " + call.child(i)->text(1);
   EXPECT_EQ(lines, QStringList({"Param vorher (\"10\")", "Rückgabe \"10\"", "Param nachher (\"10\")",
                                 "Result Empty", "Änderungen erlaubt"}));
+}
+
+TEST_F(Desk, OpensPaymentTypesOnTheGenericForm) {
+  headless::HeadlessDesktop desktop;
+  const Desktop::Scope scope(desktop);
+  DeskWindow desk(options());
+  String form;
+  desktop.whenIdle([&] {
+    form = desktop.activeForm()->Name();
+    desktop.press(KeyStroke::ofCode(key::F9));
+  });
+  named<QLineEdit>(desk, "Dialog suchen").setText("generic verkauf");
+  named<QLineEdit>(desk, "Schlüssel").setText("las");
+  QTest::keyClick(&named<QLineEdit>(desk, "Schlüssel"), Qt::Key_Return);
+  EXPECT_EQ(form, u"frmDialog");
+  QTreeWidget& log = named<QTreeWidget>(desk, "Aufrufe");
+  ASSERT_EQ(log.topLevelItemCount(), 1);
+  EXPECT_EQ(log.topLevelItem(0)->child(1)->text(1), "\"LAS\"");
 }
 
 TEST_F(Desk, WritesDownEachPickAsItComes) {

@@ -27,15 +27,11 @@ using qt::toQt;
 
 const char* databaseFilter = "Datenbanken (*.sqlite *.db);;Alle Dateien (*)";
 
-StringView titleOf(std::int32_t kind) {
-  for (const DialogTitle& title : dialogTitles())
-    if (title.kind == kind) return title.title;
-  return {};
-}
-
-QString aboutText(const KindInfo& info) {
-  QStringList parts{QString("Art %1").arg(info.number), toQt(info.constant), toQt(info.form)};
-  if (*info.definition) parts += toQt(info.definition);
+QString aboutText(const KindInfo& info, bool generic) {
+  generic = generic || info.server == KindServer::Generic;
+  QStringList parts{QString("Art %1").arg(info.number), toQt(info.constant),
+                    generic ? QString("frmDialog") : toQt(info.form)};
+  if (generic) parts += toQt(info.definition);
   if (*info.tables) parts += toQt(info.tables).replace(",", ", ");
   return parts.join("  ·  ");
 }
@@ -69,9 +65,9 @@ DeskWindow::DeskWindow(const HostOptions& options)
   statusBar()->addPermanentWidget(userLabel_);
   makeActions();
 
-  list_->opened = [this](std::int32_t kind) { open(kind); };
-  list_->marked = [this](std::int32_t kind) { showKind(kind); };
-  connect(openButton_, &QPushButton::clicked, this, [this] { open(list_->kind()); });
+  list_->opened = [this](const DialogTitle& dialog) { open(dialog); };
+  list_->marked = [this](const DialogTitle* dialog) { showDetails(dialog); };
+  connect(openButton_, &QPushButton::clicked, list_, &DialogList::open);
 
   setWindowTitle("TALVEX Dialoge");
   resize(860, 560);
@@ -79,7 +75,7 @@ DeskWindow::DeskWindow(const HostOptions& options)
   restoreGeometry(remembered.value("geometry").toByteArray());
   splitter_->restoreState(remembered.value("splitter").toByteArray());
   showSession();
-  showKind(list_->kind());
+  showDetails(list_->dialog());
   list_->search();
 }
 
@@ -143,18 +139,18 @@ void DeskWindow::makeActions() {
   });
 }
 
-void DeskWindow::showKind(std::int32_t kind) {
-  const KindInfo* info = findKind(kind);
+void DeskWindow::showDetails(const DialogTitle* dialog) {
+  const KindInfo* info = dialog ? findKind(dialog->kind) : nullptr;
   openButton_->setEnabled(info != nullptr);
-  title_->setText(info ? toQt(titleOf(kind)) : "Kein Dialog gefunden");
-  about_->setText(info ? aboutText(*info) : QString());
+  title_->setText(info ? toQt(dialog->title) : "Kein Dialog gefunden");
+  about_->setText(info ? aboutText(*info, dialog->generic) : QString());
   while (fields_->rowCount() > 0) fields_->removeRow(0);
   paramFields_.clear();
   if (info == nullptr) return;
-  for (const StringView name : paramNames(kind)) {
+  for (const StringView name : paramNames(dialog->kind)) {
     auto* field = new QLineEdit;
     field->setAccessibleName(toQt(name));
-    connect(field, &QLineEdit::returnPressed, this, [this] { open(list_->kind()); });
+    connect(field, &QLineEdit::returnPressed, list_, &DialogList::open);
     fields_->addRow(toQt(name) + ":", field);
     paramFields_.push_back(field);
   }
@@ -166,15 +162,15 @@ VariantArray DeskWindow::param() const {
   return VariantArray(std::move(elements));
 }
 
-void DeskWindow::open(std::int32_t kind) {
-  if (kind == 0 || showing_) return;
+void DeskWindow::open(const DialogTitle& title) {
+  if (showing_) return;
   ORBDialog dialog;
   host_->equip(dialog);
   dialog.Multiselect(multiselect_->isChecked());
-  CallLog::Call call = log_->begin(kind, titleOf(kind), param());
+  CallLog::Call call = log_->begin(title.kind, title.title, param());
   dialog.DblClick = [&](const Variant& key) { call.picked(key); };
   showing_ = true;
-  call.returned(callShow(dialog, kind, param(), generic_->isChecked()));
+  call.returned(callShow(dialog, title.kind, param(), title.generic || generic_->isChecked()));
   showing_ = false;
   activateWindow();
 }

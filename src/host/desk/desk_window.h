@@ -36,8 +36,8 @@ class DeskWindow : public QMainWindow {
  private:
   QWidget* makeDetails();
   void makeActions();
-  void showKind(std::int32_t kind);
-  void open(std::int32_t kind);
+  void showDetails(const DialogTitle* dialog);
+  void open(const DialogTitle& title);
   VariantArray param() const;
 
   void pickDatabase();

@@ -6,9 +6,9 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "definitions/definitions.h"
 #include "desktop/qt/text.h"
 #include "frontend/kinds.h"
-#include "host/desk/dialog_titles.h"
 
 namespace zqn::host {
 
@@ -16,8 +16,13 @@ namespace {
 
 using qt::toQt;
 
-constexpr int KindRole = Qt::UserRole;
+/// The dialog's place among dialogTitles().
+constexpr int PlaceRole = Qt::UserRole;
 constexpr int SearchRole = Qt::UserRole + 1;
+
+bool isListed(const DialogTitle& title) {
+  return title.generic ? hasDefinition(title.kind) : isOffered(title.kind);
+}
 
 /// The item below or, backward, above that is a dialog and not hidden; nullptr at the end.
 QTreeWidgetItem* neighbour(QTreeWidget& tree, QTreeWidgetItem* from, bool backward) {
@@ -56,15 +61,16 @@ DialogList::DialogList(QWidget* parent)
   connect(search_, &QLineEdit::returnPressed, this, &DialogList::open);
   connect(tree_, &QTreeWidget::itemActivated, this, &DialogList::open);
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this] {
-    if (marked) marked(kind());
+    if (marked) marked(dialog());
   });
 }
 
 void DialogList::fill() {
   QTreeWidgetItem* subject = nullptr;
-  for (const DialogTitle& title : dialogTitles()) {
+  for (int place = 0; const DialogTitle& title : dialogTitles()) {
+    const int here = place++;
     const KindInfo* info = findKind(title.kind);
-    if (info == nullptr || !isOffered(title.kind)) continue;
+    if (info == nullptr || !isListed(title)) continue;
     if (subject == nullptr || subject->text(0) != toQt(title.subject)) {
       subject = new QTreeWidgetItem(tree_, {toQt(title.subject)});
       subject->setFlags(Qt::ItemIsEnabled);
@@ -74,11 +80,12 @@ void DialogList::fill() {
       bold.setBold(true);
       subject->setFont(0, bold);
     }
-    const QString number = QString::number(title.kind);
+    QString number = QString::number(title.kind);
+    if (title.generic) number += " (generic form)";
     auto* item = new QTreeWidgetItem(subject, {toQt(title.title), number});
     item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     item->setForeground(1, palette().placeholderText());
-    item->setData(0, KindRole, title.kind);
+    item->setData(0, PlaceRole, here);
     item->setData(0, SearchRole,
                   QStringList{number, toQt(title.subject), toQt(title.title), toQt(info->constant),
                               toQt(info->form), toQt(info->definition), toQt(info->tables)}
@@ -88,9 +95,10 @@ void DialogList::fill() {
   tree_->setCurrentItem(neighbour(*tree_, nullptr, false));
 }
 
-std::int32_t DialogList::kind() const {
+const DialogTitle* DialogList::dialog() const {
   const QTreeWidgetItem* item = tree_->currentItem();
-  return item && !item->isHidden() ? item->data(0, KindRole).toInt() : 0;
+  if (item == nullptr || !item->parent() || item->isHidden()) return nullptr;
+  return &dialogTitles()[item->data(0, PlaceRole).toUInt()];
 }
 
 void DialogList::search() {
@@ -124,7 +132,7 @@ void DialogList::narrow(const QString& text) {
 }
 
 void DialogList::open() {
-  if (kind() != 0 && opened) opened(kind());
+  if (const DialogTitle* title = dialog(); title && opened) opened(*title);
 }
 
 bool DialogList::eventFilter(QObject* object, QEvent* event) {

@@ -4,31 +4,34 @@
 // move in it from the search box, too, and Enter opens.
 //
 //     auto* list = new DialogList(this);
-//     list->opened = [this](std::int32_t kind) { open(kind); };
+//     list->opened = [this](const DialogTitle& dialog) { open(dialog); };
 #pragma once
 
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <QWidget>
-#include <cstdint>
 #include <functional>
+
+#include "host/desk/dialog_titles.h"
 
 namespace zqn::host {
 
 class DialogList : public QWidget {
  public:
-  /// Lists the kinds that this version offers.
+  /// Lists the dialogs that this version offers.
   explicit DialogList(QWidget* parent = nullptr);
 
-  /// The marked dialog; 0 when none is.
-  std::int32_t kind() const;
+  /// The marked dialog; nullptr when none is.
+  const DialogTitle* dialog() const;
   /// Puts the keyboard into the search box.
   void search();
+  /// Opens the marked dialog, if any.
+  void open();
 
   /// A person picked a dialog: Enter, or a double click.
-  std::function<void(std::int32_t kind)> opened;
-  /// Another dialog is marked, or none (0).
-  std::function<void(std::int32_t kind)> marked;
+  std::function<void(const DialogTitle& dialog)> opened;
+  /// Another dialog is marked, or none (nullptr).
+  std::function<void(const DialogTitle* dialog)> marked;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -36,7 +39,6 @@ class DialogList : public QWidget {
  private:
   void fill();
   void narrow(const QString& text);
-  void open();
 
   QLineEdit* search_;
   QTreeWidget* tree_;

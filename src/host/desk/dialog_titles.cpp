@@ -22,6 +22,8 @@ constexpr DialogTitle titles[] = {
     {3, u"Zahlung", u"Zahlungsbedingungen"},
     {1, u"Zahlung", u"Zahlungsarten Verkauf"},
     {2, u"Zahlung", u"Zahlungsarten Einkauf"},
+    {1, u"Zahlung", u"Zahlungsarten Verkauf", true},
+    {2, u"Zahlung", u"Zahlungsarten Einkauf", true},
     {4, u"Versand", u"Versandarten Verkauf"},
     {18, u"Versand", u"Versandarten Einkauf"},
     {5, u"Gruppen", u"Kundengruppen"},

@@ -18,9 +18,12 @@ struct DialogTitle {
   std::int32_t kind;
   const char16_t* subject;
   const char16_t* title;
+  /// Opened on the generic form, though the kind has a form of its own.
+  bool generic = false;
 };
 
-/// All kinds, those of one subject together.
+/// All kinds, those of one subject together; a kind with a form of its own once more where the generic form
+/// has its catalogue, too.
 std::span<const DialogTitle> dialogTitles() noexcept;
 
 /// Names of the elements of Param that the kind reads, the key first.

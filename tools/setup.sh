@@ -13,7 +13,7 @@ packages=(
   # tests and benchmarks
   libgtest-dev libgmock-dev libbenchmark-dev python3 pkg-config dpkg-dev
   # ./check
-  clang-format clang-tidy
+  clang-format clang-tidy doxygen
 )
 
 missing=()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -199,6 +201,17 @@ TEST_F(Desk, WritesDownEachPickAsItComes) {
   named<QLineEdit>(desk, "Dialog suchen").setText("stati");
   QTest::keyClick(&named<QLineEdit>(desk, "Dialog suchen"), Qt::Key_Return);
   EXPECT_GE(step, 2);
+}
+
+TEST_F(Desk, WritesTheSameCallForAProgramAndAShell) {
+  DeskWindow desk(options());
+  named<QLineEdit>(desk, "Dialog suchen").setText("stati");
+  named<QLineEdit>(desk, "Schlüssel").setText("2 0");
+  named<QPushButton>(desk, "C++ kopieren").click();
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().contains("param{u\"2 0\"};"));
+  named<QPushButton>(desk, "Shell kopieren").click();
+  EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
+            "zqn-dialog show 21 --db sqlite:" + file() + " -- '2 0'");
 }
 
 TEST_F(Desk, NamesItsDatabaseAndItsUser) {

@@ -2,18 +2,24 @@
 #include "host/desk/desk_window.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "desktop/qt/text.h"
 #include "frontend/kinds.h"
 #include "host/database.h"
+#include "host/desk/call_lines.h"
 #include "host/desk/dialog_titles.h"
 #include "host/desk/settings_dialog.h"
 #include "host/show_command.h"
@@ -50,8 +56,11 @@ DeskWindow::DeskWindow(const HostOptions& options)
       databaseLabel_(new QLabel),
       userLabel_(new QLabel) {
   auto* right = new QSplitter(Qt::Vertical);
+  auto* lower = new QTabWidget;
   right->addWidget(makeDetails());
-  right->addWidget(log_);
+  right->addWidget(lower);
+  lower->addTab(log_, "A&ufrufe");
+  lower->addTab(makeLines(), "Im &Programm");
   right->setStretchFactor(1, 1);
   right->setChildrenCollapsible(false);
   splitter_->addWidget(list_);
@@ -110,6 +119,33 @@ QWidget* DeskWindow::makeDetails() {
   return details;
 }
 
+QWidget* DeskWindow::makeLines() {
+  auto* lines = new QWidget;
+  auto* layout = new QGridLayout(lines);
+  int row = 0;
+  const auto add = [&](const QString& language, int stretch) {
+    auto* text = new QPlainTextEdit;
+    text->setReadOnly(true);
+    text->setTabChangesFocus(true);
+    text->setAccessibleName(language);
+    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    auto* copy = new QPushButton("Kopieren");
+    copy->setAccessibleName(language + " kopieren");
+    connect(copy, &QPushButton::clicked, text,
+            [text] { QGuiApplication::clipboard()->setText(text->toPlainText()); });
+    layout->addWidget(new QLabel(language), row, 0, Qt::AlignTop);
+    layout->addWidget(text, row, 1);
+    layout->addWidget(copy, row, 2, Qt::AlignTop);
+    layout->setRowStretch(row++, stretch);
+    return text;
+  };
+  cppLines_ = add("C++", 2);
+  shellLine_ = add("Shell", 1);
+  for (QCheckBox* box : {multiselect_, generic_})
+    connect(box, &QCheckBox::toggled, this, [this] { showLines(); });
+  return lines;
+}
+
 void DeskWindow::makeActions() {
   const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto handler) {
     QAction* action = menu->addAction(text);
@@ -151,15 +187,30 @@ void DeskWindow::showDetails(const DialogTitle* dialog) {
     auto* field = new QLineEdit;
     field->setAccessibleName(toQt(name));
     connect(field, &QLineEdit::returnPressed, list_, &DialogList::open);
+    connect(field, &QLineEdit::textChanged, this, [this] { showLines(); });
     fields_->addRow(toQt(name) + ":", field);
     paramFields_.push_back(field);
   }
+  fields_->addRow("Zurück:", new QLabel(toQt(resultName(dialog->kind))));
+  showLines();
 }
 
-VariantArray DeskWindow::param() const {
-  std::vector<Variant> elements;
+std::vector<String> DeskWindow::param() const {
+  std::vector<String> elements;
   for (const QLineEdit* field : paramFields_) elements.emplace_back(fromQt(field->text()));
-  return VariantArray(std::move(elements));
+  return elements;
+}
+
+void DeskWindow::showLines() {
+  const DialogTitle* dialog = list_->dialog();
+  if (dialog == nullptr) return;
+  const CallToWrite call{.kind = dialog->kind,
+                         .param = param(),
+                         .database = "sqlite:" + host_->file().string(),
+                         .multiselect = multiselect_->isChecked(),
+                         .generic = dialog->generic || generic_->isChecked()};
+  cppLines_->setPlainText(QString::fromStdString(cppLines(call)));
+  shellLine_->setPlainText(QString::fromStdString(shellLine(call)));
 }
 
 void DeskWindow::open(const DialogTitle& title) {
@@ -167,10 +218,12 @@ void DeskWindow::open(const DialogTitle& title) {
   ORBDialog dialog;
   host_->equip(dialog);
   dialog.Multiselect(multiselect_->isChecked());
-  CallLog::Call call = log_->begin(title.kind, title.title, param());
+  const std::vector<String> texts = param();
+  const VariantArray given(std::vector<Variant>(texts.begin(), texts.end()));
+  CallLog::Call call = log_->begin(title.kind, title.title, given);
   dialog.DblClick = [&](const Variant& key) { call.picked(key); };
   showing_ = true;
-  call.returned(callShow(dialog, title.kind, param(), title.generic || generic_->isChecked()));
+  call.returned(callShow(dialog, title.kind, given, title.generic || generic_->isChecked()));
   showing_ = false;
   activateWindow();
 }
@@ -207,6 +260,7 @@ void DeskWindow::useDatabase(const QString& file) {
     host_ = std::move(opened);
     options_ = options;
     showSession();
+    showLines();
   } catch (const CommandFailure& failure) {
     QMessageBox::critical(
         this, windowTitle(),

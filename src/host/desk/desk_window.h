@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <memory>
@@ -35,10 +36,12 @@ class DeskWindow : public QMainWindow {
 
  private:
   QWidget* makeDetails();
+  QWidget* makeLines();
   void makeActions();
   void showDetails(const DialogTitle* dialog);
   void open(const DialogTitle& title);
-  VariantArray param() const;
+  std::vector<String> param() const;
+  void showLines();
 
   void pickDatabase();
   void createDatabase();
@@ -57,6 +60,7 @@ class DeskWindow : public QMainWindow {
   QLabel *title_, *about_;
   QFormLayout* fields_;
   std::vector<QLineEdit*> paramFields_;
+  QPlainTextEdit *cppLines_, *shellLine_;
   QCheckBox *multiselect_, *generic_;
   QPushButton* openButton_;
   QLabel *databaseLabel_, *userLabel_;

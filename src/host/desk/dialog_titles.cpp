@@ -59,8 +59,31 @@ std::vector<StringView> paramNames(std::int32_t kind) {
       return {u"Aufteilung", u"Menge", u"Mengeneinheit", u"Aufteilungsart", u"Verfalldatum Pflicht"};
     case 35:
       return {u"Schlagwort", u"Abschnitt"};
+    case 27:
+      return {u"Herkunft"};
+    case 36:
+      return {u"Grund"};
     default:
       return {u"Schlüssel"};
+  }
+}
+
+StringView resultName(std::int32_t kind) {
+  switch (kind) {
+    case 27:
+      return u"Schlüssel des Buchungskreises";
+    case 28:
+      return u"Wert";
+    case 31:
+      return u"ob gespeichert wurde";
+    case 34:
+      return u"Aufteilung";
+    case 35:
+      return u"Schlagwort";
+    case 36:
+      return u"Grund, leer nach Abbruch";
+    default:
+      return u"Schlüssel";
   }
 }
 

@@ -28,5 +28,7 @@ std::span<const DialogTitle> dialogTitles() noexcept;
 
 /// Names of the elements of Param that the kind reads, the key first.
 std::vector<StringView> paramNames(std::int32_t kind);
+/// What Show returns for the kind, in words.
+StringView resultName(std::int32_t kind);
 
 }  // namespace zqn::host

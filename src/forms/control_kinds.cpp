@@ -6,8 +6,10 @@
 #include "forms/check_box.h"
 #include "forms/combo_box.h"
 #include "forms/command_button.h"
+#include "forms/flex_grid.h"
 #include "forms/frame.h"
 #include "forms/label.h"
+#include "forms/picture_box.h"
 #include "forms/tdb_date.h"
 #include "forms/tdb_list.h"
 #include "forms/tdb_number.h"
@@ -36,6 +38,9 @@ constexpr Kind kinds[] = {
     {ControlKind::CommandButton, u"CommandButton", make<CommandButton>},
     {ControlKind::Frame, u"Frame", make<Frame>},
     {ControlKind::Label, u"Label", make<Label>},
+    {ControlKind::MSFlexGrid, u"MSFlexGrid", make<MSFlexGrid>},
+    {ControlKind::MSHFlexGrid, u"MSHFlexGrid", make<MSHFlexGrid>},
+    {ControlKind::PictureBox, u"PictureBox", make<PictureBox>},
     {ControlKind::TDBDate, u"TDBDate", make<TDBDate>},
     {ControlKind::TDBList, u"TDBList", make<TDBList>},
     {ControlKind::TDBNumber, u"TDBNumber", make<TDBNumber>},

@@ -24,6 +24,9 @@ enum class ControlKind {
   CommandButton,
   Frame,
   Label,
+  MSFlexGrid,
+  MSHFlexGrid,
+  PictureBox,
   TDBDate,
   TDBList,
   TDBNumber,
@@ -45,6 +48,8 @@ struct OtherDesign {
   zqn::Alignment Alignment = zqn::Alignment::Left;
   /// Takes several lines. TextBox.
   bool MultiLine = false;
+  /// Without a frame, to lie over the cell of a grid. TextBox.
+  bool Flat = false;
   /// Digits and looks of a number: positive, negative, zero and Null, semicolons between them. TDBNumber.
   const char16_t* Format = u"";
   /// Which entries it offers (zq_combo.h says which numbers there are), how many the open list shows at once,

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// A small picture without a toolkit: filled outlines in a frame of so many pixels at 96 dpi. A toolkit draws
+// it as fine as its screen is.
+//
+//     constexpr PicturePoint arrow[] = {{4, 2}, {10, 7}, {4, 12}};
+//     constexpr PictureShape shapes[] = {{0x000000, arrow}};
+//     constexpr Picture picCurrent{u"picCurrent", 14, 14, shapes};
+//     box.Picture(&picCurrent);
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+namespace zqn {
+
+/// Pixels at 96 dpi from the upper left corner.
+struct PicturePoint {
+  double x, y;
+};
+
+/// A polygon, filled with a 32-bit colour (control.h).
+struct PictureShape {
+  std::uint32_t colour;
+  std::span<const PicturePoint> outline;
+};
+
+/// Pictures are constants; whoever shows one keeps a pointer, nullptr for none.
+struct Picture {
+  /// What scripts and assistive technology call it.
+  const char16_t* name;
+  int width, height;
+  /// Drawn in this order, the last on top.
+  std::span<const PictureShape> shapes;
+};
+
+}  // namespace zqn

@@ -6,10 +6,12 @@
 #include "desktop/qt/check_box.h"
 #include "desktop/qt/combo_box.h"
 #include "desktop/qt/command_button.h"
+#include "desktop/qt/flex_grid.h"
 #include "desktop/qt/frame.h"
 #include "desktop/qt/label.h"
 #include "desktop/qt/list_field.h"
 #include "desktop/qt/multi_line_text_box.h"
+#include "desktop/qt/picture_box.h"
 #include "desktop/qt/tdb_date.h"
 #include "desktop/qt/tdb_list.h"
 #include "desktop/qt/tdb_number.h"
@@ -47,6 +49,9 @@ constexpr Row table[] = {
     {ControlKind::CommandButton, make<CommandButton, zqn::CommandButton>},
     {ControlKind::Frame, make<Frame, zqn::Frame>},
     {ControlKind::Label, make<Label, zqn::Label>},
+    {ControlKind::MSFlexGrid, make<FlexGrid, zqn::FlexGrid>},
+    {ControlKind::MSHFlexGrid, make<FlexGrid, zqn::FlexGrid>},
+    {ControlKind::PictureBox, make<PictureBox, zqn::PictureBox>},
     {ControlKind::TDBDate, make<TDBDate, zqn::TDBDate>},
     {ControlKind::TDBList, make<TDBList, zqn::TDBList>},
     {ControlKind::TDBNumber, make<TDBNumber, zqn::TDBNumber>},

@@ -40,12 +40,9 @@ constexpr std::array<std::pair<int, int>, 25> namedKeys{{
 constexpr int numpadZero = 96;
 constexpr int functionKeys = 24;
 
-int shiftOf(const QKeyEvent& event) {
-  const Qt::KeyboardModifiers held = event.modifiers();
-  int bits = shift::None;
-  if (held & Qt::ShiftModifier || event.key() == Qt::Key_Backtab) bits |= shift::Shift;
-  if (held & Qt::ControlModifier) bits |= shift::Ctrl;
-  if (held & Qt::AltModifier) bits |= shift::Alt;
+int shiftOfKey(const QKeyEvent& event) {
+  int bits = shiftOf(event.modifiers());
+  if (event.key() == Qt::Key_Backtab) bits |= shift::Shift;
   // Whether a shift key counts in its own event differs from one window system to the next.
   const int own = event.key() == Qt::Key_Shift     ? shift::Shift
                   : event.key() == Qt::Key_Control ? shift::Ctrl
@@ -60,8 +57,16 @@ bool isLetterOrDigit(int key) {
 
 }  // namespace
 
+int shiftOf(Qt::KeyboardModifiers held) {
+  int bits = shift::None;
+  if (held & Qt::ShiftModifier) bits |= shift::Shift;
+  if (held & Qt::ControlModifier) bits |= shift::Ctrl;
+  if (held & Qt::AltModifier) bits |= shift::Alt;
+  return bits;
+}
+
 std::optional<KeyStroke> strokeOf(const QKeyEvent& event) {
-  const int held = shiftOf(event);
+  const int held = shiftOfKey(event);
   const int pressed = event.key();
   if (pressed >= Qt::Key_F1 && pressed < Qt::Key_F1 + functionKeys)
     return KeyStroke::ofCode(key::F1 + pressed - Qt::Key_F1, held);

@@ -17,6 +17,9 @@ namespace zqn::qt {
 /// key, a dead key, a press that types several characters).
 std::optional<KeyStroke> strokeOf(const QKeyEvent& event);
 
+/// The shift bits of the keys that are held.
+int shiftOf(Qt::KeyboardModifiers held);
+
 /// The event that a stroke makes; `type` is QEvent::KeyPress or QEvent::KeyRelease.
 QKeyEvent eventOf(const KeyStroke& stroke, QEvent::Type type);
 

@@ -19,7 +19,9 @@ Qt::Alignment toQt(zqn::Alignment alignment) {
 
 }  // namespace
 
-TextBox::TextBox(zqn::TextBox& model, QWidget* parent) : TextEntry(model, parent), model_(model) {}
+TextBox::TextBox(zqn::TextBox& model, QWidget* parent) : TextEntry(model, parent), model_(model) {
+  setFrame(!model.design().other.Flat);
+}
 
 void TextBox::draw() {
   if (alignment() != toQt(model_.Alignment())) setAlignment(toQt(model_.Alignment()));

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/qt/picture_box.h"
+
+#include <QPainter>
+
+#include "desktop/qt/colours.h"
+#include "desktop/qt/text.h"
+
+namespace zqn::qt {
+
+namespace {
+
+constexpr double standardDpi = 96;
+
+QString nameOf(const zqn::Picture* picture) {
+  return picture != nullptr ? toQt(StringView(picture->name)) : QString();
+}
+
+}  // namespace
+
+QSize sizeOf(const zqn::Picture& picture, const QPaintDevice& device) {
+  return {qRound(picture.width * device.logicalDpiX() / standardDpi),
+          qRound(picture.height * device.logicalDpiY() / standardDpi)};
+}
+
+void drawPicture(QPainter& painter, QPoint place, const zqn::Picture& picture, const QWidget& widget) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.translate(place);
+  painter.scale(widget.logicalDpiX() / standardDpi, widget.logicalDpiY() / standardDpi);
+  for (const PictureShape& shape : picture.shapes) {
+    QPolygonF outline;
+    for (const PicturePoint& point : shape.outline) outline << QPointF(point.x, point.y);
+    painter.setBrush(toQt(shape.colour, widget.palette()));
+    painter.drawPolygon(outline);
+  }
+  painter.restore();
+}
+
+PictureBox::PictureBox(zqn::PictureBox& model, QWidget* parent)
+    : QLabel(parent),
+      ControlWidget(model, *this, {QPalette::Window, QPalette::WindowText, colour::ButtonFace}),
+      model_(model) {}
+
+void PictureBox::draw() {
+  drawn_ = model_.Picture();
+  if (drawn_ == nullptr) {
+    clear();
+    return;
+  }
+  QPixmap pixels(sizeOf(*drawn_, *this) * devicePixelRatioF());
+  pixels.setDevicePixelRatio(devicePixelRatioF());
+  pixels.fill(Qt::transparent);
+  QPainter painter(&pixels);
+  drawPicture(painter, {}, *drawn_, *this);
+  painter.end();
+  setPixmap(pixels);
+}
+
+void PictureBox::compare(Differences& found) const {
+  found.expect("Picture", nameOf(drawn_), nameOf(model_.Picture()));
+}
+
+}  // namespace zqn::qt

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "forms/combo_box.h"
+#include "forms/flex_grid.h"
 #include "forms/tdb_list.h"
 #include "forms/zq_combo.h"
 
@@ -105,12 +106,43 @@ int zqComboRowOfKey(Control& control, StringView key) {
 
 constexpr RowAccess zqComboRows{zqComboContents, zqComboHasRow, dropDownMarkedRow, true, zqComboRowOfKey};
 
+Json gridRow(const FlexGrid& grid, int row) {
+  Json texts = Json::array();
+  for (int col = 0; col < grid.Cols(); ++col) {
+    if (grid.ColWidth(col) > 0) texts.push_back(jsonText(grid.TextMatrix(row, col)));
+  }
+  return texts;
+}
+
+/// The first row of headings as columns, and all rows that are none.
+Json gridContents(Control& control) {
+  const auto& grid = dynamic_cast<const FlexGrid&>(control);
+  Json rows = Json::array();
+  for (int row = grid.FixedRows(); row < grid.Rows(); ++row) rows.push_back(gridRow(grid, row));
+  Json columns = grid.FixedRows() > 0 ? gridRow(grid, 0) : Json::array();
+  return {{"columns", std::move(columns)}, {"rows", std::move(rows)}, {"row", grid.Row()}};
+}
+
+bool gridHasRow(Control& control, int row) {
+  return row >= 0 && row < dynamic_cast<const FlexGrid&>(control).Rows();
+}
+
+int gridMarkedRow(const Control& control) {
+  const auto& grid = dynamic_cast<const FlexGrid&>(control);
+  return grid.Row() < grid.Rows() ? grid.Row() : -1;
+}
+
+constexpr RowAccess gridRows{gridContents, gridHasRow, gridMarkedRow, false, nullptr};
+
 constexpr ControlTraits traits[] = {
     {ControlKind::CheckBox, "caption", false, nullptr},
     {ControlKind::ComboBox, "text", true, &comboRows},
     {ControlKind::CommandButton, "caption", false, nullptr},
     {ControlKind::Frame, "caption", false, nullptr},
     {ControlKind::Label, "caption", false, nullptr},
+    {ControlKind::MSFlexGrid, "text", true, &gridRows},
+    {ControlKind::MSHFlexGrid, "text", true, &gridRows},
+    {ControlKind::PictureBox, "text", false, nullptr},
     {ControlKind::TDBDate, "text", true, nullptr},
     {ControlKind::TDBList, "text", true, &listRows},
     {ControlKind::TDBNumber, "text", true, nullptr},

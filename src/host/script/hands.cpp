@@ -21,6 +21,13 @@ void Hands::doubleClick(const Spot& spot) {
   if (pressAndRelease(spot, &UserInput::mouseDown)) pressAndRelease(spot, &UserInput::mouseDownAgain);
 }
 
+void Hands::drag(const Spot& from, const Spot& to) {
+  const int before = interruptions_;
+  input_.mouseDown(from);
+  if (interruptions_ == before) input_.mouseMove(to);
+  if (interruptions_ == before) input_.mouseUp(to);
+}
+
 void Hands::press(Form& form, const Key& key) {
   held_ = key;
   input_.keyDown(form, key);

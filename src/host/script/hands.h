@@ -22,6 +22,10 @@ class Hands {
 
   void click(const Spot& spot);
   void doubleClick(const Spot& spot);
+  void mouseDown(const Spot& spot) { input_.mouseDown(spot); }
+  void mouseUp(const Spot& spot) { input_.mouseUp(spot); }
+  /// Presses on one spot, releases on another one of the same control.
+  void drag(const Spot& from, const Spot& to);
   void press(Form& form, const Key& key);
   /// Begins to type; typeOn presses key by key, so that what a key sets off is over before the next.
   void type(Form& form, const std::vector<Key>& keys);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/script/headless_user.h"
 
+#include "desktop/headless/grid_mouse.h"
 #include "forms/drop_down.h"
 #include "forms/tdb_list.h"
 
@@ -21,24 +22,44 @@ void guarded(EventOwner& owner, StringView event, Act&& act) {
 }  // namespace
 
 void HeadlessUser::mouseDown(const Spot& spot) {
+  auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
   guarded(spot.control, u"MouseDown", [&] {
+    if (grid != nullptr) {
+      pressed_ = headless::pressOn(*grid, {spot.row, spot.col}, spot.button);
+      return;
+    }
     pressed_ = spot.control.form().mousePressed(spot.control);
     auto* list = dynamic_cast<TDBList*>(&spot.control);
     if (pressed_ && list != nullptr) list->userSelect(spot.row);
   });
+  twice_ = false;
+}
+
+void HeadlessUser::mouseMove(const Spot& spot) {
+  auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
+  if (!pressed_ || grid == nullptr) return;
+  guarded(spot.control, u"Scroll", [&] { headless::dragTo(*grid, {spot.row, spot.col}); });
 }
 
 void HeadlessUser::mouseUp(const Spot& spot) {
   if (!pressed_) return;
   pressed_ = false;
+  auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
+  if (grid != nullptr)
+    guarded(spot.control, u"MouseUp", [&] { grid->userReleased({spot.row, spot.col}, spot.button, 0); });
+  if (spot.button != 1 || twice_) return;
   guarded(spot.control, u"Click", [&] { spot.control.form().mouseReleased(spot.control); });
 }
 
 void HeadlessUser::mouseDownAgain(const Spot& spot) {
   guarded(spot.control, u"MouseDown", [&] {
-    auto* list = dynamic_cast<TDBList*>(&spot.control);
     const bool passes = spot.control.form().mousePressed(spot.control);
-    if (passes && list != nullptr) list->userDoubleClick(spot.row);
+    if (!passes) return;
+    if (auto* list = dynamic_cast<TDBList*>(&spot.control)) list->userDoubleClick(spot.row);
+    auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
+    if (grid == nullptr) return;
+    pressed_ = twice_ = true;
+    grid->userPressedTwice({spot.row, spot.col});
   });
 }
 

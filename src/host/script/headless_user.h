@@ -14,6 +14,7 @@ class HeadlessUser : public UserInput {
   explicit HeadlessUser(headless::HeadlessDesktop& desktop) : desktop_(desktop) {}
 
   void mouseDown(const Spot& spot) override;
+  void mouseMove(const Spot& spot) override;
   void mouseUp(const Spot& spot) override;
   void mouseDownAgain(const Spot& spot) override;
   void takeEntry(Control& control, int entry) override;
@@ -26,6 +27,8 @@ class HeadlessUser : public UserInput {
   headless::HeadlessDesktop& desktop_;
   /// The form let the press pass, so a release belongs to the control.
   bool pressed_ = false;
+  /// It was the second press of a double click, which makes no further Click.
+  bool twice_ = false;
 };
 
 }  // namespace zqn::script

@@ -14,6 +14,7 @@
 #include <QStyleOptionButton>
 #include <QTableView>
 
+#include "desktop/qt/flex_grid.h"
 #include "desktop/qt/key_events.h"
 #include "desktop/qt/list_field.h"
 #include "desktop/qt/text.h"
@@ -22,9 +23,10 @@ namespace zqn::script {
 
 namespace {
 
-void sendMouse(QWidget& widget, QEvent::Type type, QPoint place) {
-  const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-  const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+void sendMouse(QWidget& widget, QEvent::Type type, QPoint place, int number = 1) {
+  const Qt::MouseButton button = number == 1 ? Qt::LeftButton : Qt::RightButton;
+  const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : button;
+  const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
   QMouseEvent event(type, place, widget.mapToGlobal(place), changed, held, Qt::NoModifier);
   QApplication::sendEvent(&widget, &event);
 }
@@ -76,19 +78,37 @@ bool showsBox(const QMessageBox& window, const MessageBox& box) {
 
 // ---- mouse
 
+void QtUser::point(const Spot& spot) {
+  QWidget* const widget = desktop_.widgetOf(spot.control);
+  if (auto* grid = dynamic_cast<qt::FlexGrid*>(widget)) {
+    grid->scrollToCell({spot.row, spot.col});
+    pointer_ = grid->placeOf({spot.row, spot.col}).value_or(grid->viewport()->rect().center());
+    return;
+  }
+  auto* list = qobject_cast<QTableView*>(widget);
+  pointer_ = list != nullptr && spot.row >= 0 ? placeOfRow(*list, spot.row)
+                                              : placeOn(*desktop_.mouseAreaOf(spot.control));
+}
+
 void QtUser::mouseDown(const Spot& spot) {
-  QWidget& area = *desktop_.mouseAreaOf(spot.control);
-  auto* list = qobject_cast<QTableView*>(desktop_.widgetOf(spot.control));
-  pressed_ = list != nullptr && spot.row >= 0 ? placeOfRow(*list, spot.row) : placeOn(area);
-  sendMouse(area, QEvent::MouseButtonPress, pressed_);
+  point(spot);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonPress, pointer_, spot.button);
+}
+
+void QtUser::mouseMove(const Spot& spot) {
+  point(spot);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseMove, pointer_, spot.button);
 }
 
 void QtUser::mouseUp(const Spot& spot) {
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonRelease, pressed_);
+  // A cell may have moved under the pointer meanwhile.
+  const auto* grid = dynamic_cast<qt::FlexGrid*>(desktop_.widgetOf(spot.control));
+  if (grid != nullptr) pointer_ = grid->placeOf({spot.row, spot.col}).value_or(pointer_);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonRelease, pointer_, spot.button);
 }
 
 void QtUser::mouseDownAgain(const Spot& spot) {
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pressed_);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pointer_, spot.button);
 }
 
 void QtUser::takeEntry(Control& control, int entry) {

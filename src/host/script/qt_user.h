@@ -16,6 +16,7 @@ class QtUser : public UserInput {
   explicit QtUser(qt::QtDesktop& desktop) : desktop_(desktop) {}
 
   void mouseDown(const Spot& spot) override;
+  void mouseMove(const Spot& spot) override;
   void mouseUp(const Spot& spot) override;
   void mouseDownAgain(const Spot& spot) override;
   void takeEntry(Control& control, int entry) override;
@@ -27,9 +28,11 @@ class QtUser : public UserInput {
   std::vector<String> differences(Form& form) override;
 
  private:
+  void point(const Spot& spot);
+
   qt::QtDesktop& desktop_;
-  /// Where the button went down, in the widget: it comes up there, wherever a list has scrolled meanwhile.
-  QPoint pressed_;
+  /// Where the pointer is, in the widget: a button comes up there, wherever a list has scrolled meanwhile.
+  QPoint pointer_;
 };
 
 }  // namespace zqn::script

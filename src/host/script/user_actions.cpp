@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "forms/drop_down.h"
+#include "forms/flex_grid.h"
 #include "host/script/control_kinds.h"
 #include "host/script/key_names.h"
 #include "host/script/line_functions.h"
@@ -19,7 +20,23 @@ constexpr std::array<std::pair<const char*, MsgBoxResult>, 4> answers{{{"ok", Ms
                                                                        {"no", MsgBoxResult::No},
                                                                        {"cancel", MsgBoxResult::Cancel}}};
 
+struct MouseEvent {
+  std::string_view name;
+  void (Hands::*act)(const Spot&);
+};
+constexpr std::array<MouseEvent, 4> mouseEvents{{{"down", &Hands::mouseDown},
+                                                 {"up", &Hands::mouseUp},
+                                                 {"click", &Hands::click},
+                                                 {"dblclick", &Hands::doubleClick}}};
+
 std::string describe(const Control& control) { return nameOf(control) + " is a " + kindOf(control); }
+
+/// The first column of a grid that is no heading and can be seen.
+int freeColumn(const FlexGrid& grid) {
+  int col = std::min(grid.FixedCols(), grid.Cols() - 1);
+  while (col + 1 < grid.Cols() && grid.ColWidth(col) <= 0) ++col;
+  return col;
+}
 
 /// A row of a control that a person can click on.
 Spot rowSpot(const Scene& scene, const std::string& name, int row) {
@@ -27,12 +44,45 @@ Spot rowSpot(const Scene& scene, const std::string& name, int row) {
   const RowAccess* rows = traitsOf(control).rows;
   if (rows == nullptr || rows->inDropDown) throw Refusal(describe(control) + " and has no rows to click on");
   if (!rows->hasRow(control, row)) throw Refusal(nameOf(control) + " has no row " + std::to_string(row));
-  return {control, row};
+  const auto* grid = dynamic_cast<const FlexGrid*>(&control);
+  return {control, row, grid != nullptr ? freeColumn(*grid) : -1};
 }
 
 Spot spotOf(Control& control) {
+  const auto* grid = dynamic_cast<const FlexGrid*>(&control);
+  if (grid != nullptr && grid->Rows() > 0)
+    return {control, std::max(grid->Row(), std::min(grid->FixedRows(), grid->Rows() - 1)), freeColumn(*grid)};
   const RowAccess* rows = traitsOf(control).rows;
   return {control, rows == nullptr || rows->inDropDown ? -1 : rows->markedRow(control)};
+}
+
+/// A cell of a grid, or a place beside its cells, that a person can point at.
+Spot cellSpot(FlexGrid& grid, int row, int col, int button) {
+  if (row < -1 || row >= grid.Rows()) throw Refusal(nameOf(grid) + " has no row " + std::to_string(row));
+  if (col < -1 || col >= grid.Cols()) throw Refusal(nameOf(grid) + " has no column " + std::to_string(col));
+  if (col >= 0 && grid.ColWidth(col) <= 0)
+    throw Refusal("column " + std::to_string(col) + " of " + nameOf(grid) + " is hidden");
+  if (row >= 0 && grid.RowHeight(row) <= 0)
+    throw Refusal("row " + std::to_string(row) + " of " + nameOf(grid) + " is hidden");
+  const FlexGridLayout place = grid.layout();
+  if ((row < 0 && !place.yOf(row)) || (col < 0 && !place.xOf(col)))
+    throw Refusal(nameOf(grid) + " shows no place beside its cells");
+  return {grid, row, col, button};
+}
+
+FlexGrid& usableGrid(const Scene& scene, const std::string& name) {
+  Control& control = scene.usableControl(name);
+  auto* grid = dynamic_cast<FlexGrid*>(&control);
+  if (grid == nullptr) throw Refusal(describe(control) + ", which is no grid");
+  return *grid;
+}
+
+/// [row, column].
+std::pair<int, int> cellOf(const Arguments& line, const char* member) {
+  const Json& cell = line.any(member);
+  if (!cell.is_array() || cell.size() != 2 || !cell[0].is_number_integer() || !cell[1].is_number_integer())
+    throw ScriptError(std::string("\"") + member + "\" must be [row, column]");
+  return {cell[0].get<int>(), cell[1].get<int>()};
 }
 
 /// Takes an entry of a drop-down by its number or its text.
@@ -95,11 +145,23 @@ void dblclick(const Scene& scene, const Arguments& line) {
 }
 
 void mouse(const Scene& scene, const Arguments& line) {
-  throw Refusal(describe(scene.usableControl(line.text("mouse"))) + ", which is no grid");
+  const std::string name = line.text("mouse");
+  const int row = line.wholeNumber("row");
+  const int col = line.wholeNumber("col");
+  const int button = line.has("button") ? line.wholeNumber("button", 1, 2) : 1;
+  const std::string event = line.text("event", "click");
+  const auto known = std::ranges::find(mouseEvents, event, &MouseEvent::name);
+  if (known == mouseEvents.end())
+    throw ScriptError("unknown event \"" + event + "\"; there is down, up, click, dblclick");
+  (scene.hands.*known->act)(cellSpot(usableGrid(scene, name), row, col, button));
 }
 
 void drag(const Scene& scene, const Arguments& line) {
-  throw Refusal(describe(scene.usableControl(line.text("drag"))) + ", which is no grid");
+  const std::string name = line.text("drag");
+  const auto from = cellOf(line, "from");
+  const auto to = cellOf(line, "to");
+  FlexGrid& grid = usableGrid(scene, name);
+  scene.hands.drag(cellSpot(grid, from.first, from.second, 1), cellSpot(grid, to.first, to.second, 1));
 }
 
 void menu(const Scene& scene, const Arguments& line) {

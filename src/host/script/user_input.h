@@ -27,18 +27,23 @@ struct Key {
   String text;
 };
 
-/// Where the pointer is: on a control, and in a list on one of its rows, -1 for none.
+/// Where the pointer is: on a control, and in a list on one of its rows, in a grid on a cell, -1 for none.
 struct Spot {
   Control& control;
   int row = -1;
+  int col = -1;
+  /// Which button: 1 left, 2 right.
+  int button = 1;
 };
 
 class UserInput {
  public:
   virtual ~UserInput() = default;
 
-  /// The left button goes down, or up again at the same spot. A row is scrolled into view first.
+  /// The button goes down, or up again at the same spot. A row is scrolled into view first.
   virtual void mouseDown(const Spot& spot) = 0;
+  /// The pointer moves to another cell of a grid while the button is down.
+  virtual void mouseMove(const Spot& spot) = 0;
   virtual void mouseUp(const Spot& spot) = 0;
   /// The second press of a double click.
   virtual void mouseDownAgain(const Spot& spot) = 0;

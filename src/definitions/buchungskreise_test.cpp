@@ -160,6 +160,10 @@ TEST_F(Buchungskreise, KeysOfSignsAndBlanksAreSafe) {
               ::testing::UnorderedElementsAre(u"-", u"1", u"001", u"002", u"a b", u"ЖЩЮ", u"%_*", u"#1"));
 }
 
+TEST_F(Buchungskreise, AnyOperationMayFail) {
+  failEachOperation([&] { show(27, {u"VK"}, [&] { workThrough(u"NEU"); }); });
+}
+
 TEST_F(Buchungskreise, AnOriginWithAnApostropheShowsNothingAndWritesNothing) {
   show(27, {u"V'K"}, [&] {
     EXPECT_TRUE(listRows(u"tdblShow").empty());

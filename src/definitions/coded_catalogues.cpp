@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/coded_catalogues.h"
 
-#include "frontend/bas_basis.h"
-
 namespace zqn {
 
-void CodedCatalogue::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+void CodedCatalogue::setUp() {
   BasisControls& c = controls();
   showKeyAndText();
   placeButtons(3360);
@@ -15,7 +12,6 @@ void CodedCatalogue::Init(const Variant& Key, const Ref<ado::Connection>& Connec
   c.frmDialog().Caption(values_.caption);
   c.lblKey().Caption(values_.keyCaption);
   c.lblKeyText().Caption(values_.textCaption);
-  m_objBasis.Init(Key, Connection);
 }
 
 void CodedCatalogue::ReadData(ado::Recordset& Recordset) {

@@ -27,11 +27,11 @@ struct CodedValues {
 
 class CodedCatalogue : public TableEditor {
  public:
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   void ReadData(ado::Recordset& Recordset) override;
 
  protected:
   explicit CodedCatalogue(const CodedValues& values) : TableEditor(values.table), values_(values) {}
+  void setUp() override;
   void writeFields(ResumeNext& step, const Ref<ado::Recordset>& row) override;
 
  private:

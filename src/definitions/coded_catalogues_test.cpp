@@ -232,6 +232,10 @@ TEST_P(CodedCatalogues, ExtraColumnsAndAMissingTableDoNoHarm) {
             Variant(u"A"));
 }
 
+TEST_P(CodedCatalogues, AnyOperationMayFail) {
+  failEachOperation([&] { showThis({u"A"}, [&] { workThrough(u"NEU"); }); });
+}
+
 INSTANTIATE_TEST_SUITE_P(All, CodedCatalogues, ::testing::ValuesIn(catalogues), nameOf);
 
 }  // namespace

@@ -9,6 +9,12 @@ namespace zqn {
 using ado::sql::Text;
 using ado::sql::value;
 
+void DefinitionClass::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
+  basBasis::SetConnection(Connection);
+  setUp();
+  m_objBasis.Init(Key, Connection);
+}
+
 void DefinitionClass::ShowData(const Ref<ado::Recordset>& Recordset) {
   m_objBasis.ShowData(Recordset);
   BasisControls& c = controls();

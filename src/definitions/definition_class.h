@@ -32,6 +32,8 @@ consteval const Values& valuesOf(const Values (&family)[count], StringView defin
 
 class DefinitionClass : public clsBasisDialog {
  public:
+  /// Stores the connection, sets the form up and keeps the key.
+  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   void InitData() override { m_objBasis.InitData(); }
   Variant Key() const override { return m_objBasis.Key(); }
   void Key(Variant Key) override { m_objBasis.Key(std::move(Key)); }
@@ -48,6 +50,8 @@ class DefinitionClass : public clsBasisDialog {
 
   // ---- set-up
 
+  /// Shows, captions and places what the table needs.
+  virtual void setUp() = 0;
   /// Makes controls visible, in this order.
   static void show(std::initializer_list<Control*> controls);
   /// Makes visible what most catalogues have: the list, the four buttons, key and text with their labels.

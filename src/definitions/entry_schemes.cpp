@@ -6,8 +6,7 @@
 
 namespace zqn {
 
-void EntrySchemes::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+void EntrySchemes::setUp() {
   BasisControls& c = controls();
   show({&c.tdblShow(), &c.cmdCancel(), &c.cmdOK(), &c.lblKey(), &c.fra()});
   // The height follows from where the button was designed; only then does it move beside the list.
@@ -24,7 +23,6 @@ void EntrySchemes::Init(const Variant& Key, const Ref<ado::Connection>& Connecti
   c.lblKey().Caption(u"Erfassungsschema:");
   c.fra().Caption(u"Beschreibung");
   c.tdblShow().ColumnHeaders(false);
-  m_objBasis.Init(Key, Connection);
 }
 
 void EntrySchemes::ReadData(ado::Recordset& Recordset) {

@@ -10,7 +10,6 @@ namespace zqn {
 
 class EntrySchemes : public DefinitionClass {
  public:
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   /// The key goes into the key field, which stays hidden, the description into the frame.
   void ReadData(ado::Recordset& Recordset) override;
   void WriteData() override {}
@@ -20,6 +19,7 @@ class EntrySchemes : public DefinitionClass {
 
  protected:
   explicit EntrySchemes(StringView table) : DefinitionClass({table, u"ErfSchema"}) {}
+  void setUp() override;
   StringView listFields() const override { return u"ErfSchema, Bezeichnung"; }
 };
 

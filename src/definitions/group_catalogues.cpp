@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/group_catalogues.h"
 
-#include "frontend/bas_basis.h"
 #include "runtime/convert.h"
 
 namespace zqn {
 
-void GroupCatalogue::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+void GroupCatalogue::setUp() {
   BasisControls& c = controls();
   showKeyAndText();
   c.lblLangtext().Width(c.txtLangtext().Width());
@@ -20,7 +18,6 @@ void GroupCatalogue::Init(const Variant& Key, const Ref<ado::Connection>& Connec
   c.lblKey().Caption(values_.keyCaption);
   c.lblKeyText().Caption(u"Kurztext");
   c.lblLangtext().Caption(u"Bezeichnung");
-  m_objBasis.Init(Key, Connection);
 }
 
 void GroupCatalogue::ReadData(ado::Recordset& Recordset) {

@@ -23,7 +23,6 @@ struct GroupValues {
 
 class GroupCatalogue : public TableEditor {
  public:
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   /// An empty short text shows the long one.
   void ReadData(ado::Recordset& Recordset) override;
   /// The list shows key and long text.
@@ -31,6 +30,7 @@ class GroupCatalogue : public TableEditor {
 
  protected:
   explicit GroupCatalogue(const GroupValues& values) : TableEditor(values.table), values_(values) {}
+  void setUp() override;
   StringView listFields() const override { return values_.listFields; }
   /// A long text that is empty, or of blanks, gets the short one.
   void writeFields(ResumeNext& step, const Ref<ado::Recordset>& row) override;

@@ -229,6 +229,10 @@ TEST_P(GroupCatalogues, AMissingTableLeavesTheFormUp) {
             Variant(u"A"));
 }
 
+TEST_P(GroupCatalogues, AnyOperationMayFail) {
+  failEachOperation([&] { showThis({u"A"}, [&] { workThrough(u"NEU"); }); });
+}
+
 INSTANTIATE_TEST_SUITE_P(All, GroupCatalogues, ::testing::ValuesIn(groups), nameOf);
 
 }  // namespace

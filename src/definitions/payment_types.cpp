@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/payment_types.h"
 
-#include "frontend/bas_basis.h"
-
 namespace zqn {
 
 namespace {
@@ -35,8 +33,7 @@ void PaymentTypeRecord::writeFields(ResumeNext& step, const Ref<ado::Recordset>&
 
 // ---- sales
 
-void clsZahlungsart::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+void clsZahlungsart::setUp() {
   showPaymentType(4840);
   BasisControls& c = controls();
   c.chk1().Visible(true);
@@ -44,7 +41,6 @@ void clsZahlungsart::Init(const Variant& Key, const Ref<ado::Connection>& Connec
   c.chk1().Left(c.txtLangtext().Left());
   c.chk1().Top(c.txtLangtext().Top() + c.txtLangtext().Height() + 160);
   c.chk1().Width(c.txtLangtext().Width());
-  m_objBasis.Init(Key, Connection);
 }
 
 void clsZahlungsart::DataChanged(Control&) {
@@ -70,14 +66,6 @@ void clsZahlungsart::enableCode(bool enable) {
   c.txtZusatz().Enabled(enable);
   // The colour of the form while it is off, of an entry field while it is on: both are taken from neighbours.
   c.txtZusatz().BackColor(enable ? c.txtLangtext().BackColor() : c.chk1().BackColor());
-}
-
-// ---- purchase
-
-void clsZahlungsartEk::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
-  showPaymentType(4440);
-  m_objBasis.Init(Key, Connection);
 }
 
 }  // namespace zqn

@@ -30,11 +30,11 @@ class clsZahlungsart final : public PaymentTypeRecord {
  public:
   clsZahlungsart() : PaymentTypeRecord(u"Zahlungsarten", u"ZAA", salesSide) {}
 
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   /// The code can be typed while the check box is off; its text stays.
   void DataChanged(Control& Control) override;
 
  protected:
+  void setUp() override;
   void readFields(ado::Recordset& row) override;
   String accountingCode() override;
 
@@ -47,7 +47,8 @@ class clsZahlungsartEk final : public PaymentTypeRecord {
  public:
   clsZahlungsartEk() : PaymentTypeRecord(u"ZahlungsartenEK", u"EZA", purchaseSide) {}
 
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
+ protected:
+  void setUp() override { showPaymentType(4440); }
 };
 
 }  // namespace zqn

@@ -170,6 +170,10 @@ TEST_F(PaymentTypes, AMissingColumnLeavesTheFieldsBehindItAsTheyWere) {
   });
 }
 
+TEST_F(PaymentTypes, AnyOperationMayFail) {
+  failEachOperation([&] { showGeneric(1, {u"BAR"}, [&] { workThrough(u"NEU"); }); });
+}
+
 // ---- purchase
 
 TEST_F(PaymentTypes, ShowTheFieldsOfThePurchaseSide) {

@@ -19,14 +19,16 @@ void choose(ComboBox& combo, const Variant& stored) {
 }  // namespace
 
 void clsVersandarten::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+  TextBlockEditor::Init(Key, Connection);
+  FillLayoutCombos();
+}
+
+void clsVersandarten::setUp() {
   BasisControls& c = controls();
   showRecord(caption);
   show({&c.lblCbo1(), &c.lblCbo2(), &c.cbo1(), &c.cbo2()});
   c.lblCbo1().Caption(u"Layout Frachtbrief");
   c.lblCbo2().Caption(u"Layout Versandetiketten");
-  m_objBasis.Init(Key, Connection);
-  FillLayoutCombos();
 }
 
 void clsVersandarten::FillLayoutCombos() {
@@ -69,11 +71,9 @@ void clsVersandarten::writeFields(ResumeNext& step, const Ref<ado::Recordset>& r
   writeText(step, row, u"LayoutEtiketten", c.cbo2().List(c.cbo2().ListIndex()));
 }
 
-void clsVersandartenEK::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+void clsVersandartenEK::setUp() {
   showRecord(caption);
   placeButtons(4080);
-  m_objBasis.Init(Key, Connection);
 }
 
 }  // namespace zqn

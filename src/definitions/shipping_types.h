@@ -19,6 +19,7 @@ class clsVersandarten final : public TextBlockEditor {
   void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
 
  protected:
+  void setUp() override;
   /// A layout that is no longer offered shows the first one.
   void readFields(ado::Recordset& row) override;
   void writeFields(ResumeNext& step, const Ref<ado::Recordset>& row) override;
@@ -33,7 +34,8 @@ class clsVersandartenEK final : public TextBlockEditor {
  public:
   clsVersandartenEK() : TextBlockEditor({u"VersandtexteEK", u"Versandart"}, {u"EVA", purchaseSide}) {}
 
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
+ protected:
+  void setUp() override;
 };
 
 }  // namespace zqn

@@ -287,6 +287,42 @@ TEST_F(Versandarten, KeysWithSignsBlanksAndForeignLettersAreSafe) {
                                                               u"VSA|a b|ÿÿÿ"));
 }
 
+TEST_F(Versandarten, ABlockOfNullsBesideItsTextShowsNoMarks) {
+  execute(u"UPDATE Textbausteine SET WoDrucken=NULL, Schriftart=NULL, Schriftgröße=NULL");
+  show(4, {u"LKW"}, [&] {
+    EXPECT_EQ(text(u"txtLangtext"), u"Frei Haus.");
+    EXPECT_EQ(pressed(), u"");
+  });
+}
+
+TEST_F(Versandarten, MissingAndExtraColumnsDoNoHarm) {
+  execute(
+      u"ALTER TABLE Textbausteine DROP COLUMN Schriftstil; ALTER TABLE Textbausteine ADD COLUMN Farbe "
+      u"INTEGER;"
+      u"ALTER TABLE Versandtexte ADD COLUMN Gewicht INTEGER");
+  show(4, {u"LKW"}, [&] {
+    put(u"txtKeyText", u"LKW");
+    press(key::F9);
+  });
+  EXPECT_THAT(head(), Contains(u"LKW|LKW|Frachtbrief A4|NULL|NULL"));
+  EXPECT_THAT(blocks(), Contains(u"VSA|LKW|000|ÿÿÿ|LKW|Frei Haus.|N-L--|Arial|10|NULL"));
+}
+
+TEST_F(Versandarten, WithoutTextBlocksTheHeadRowIsKeptAllTheSame) {
+  execute(u"DROP TABLE Textbausteine");
+  show(4, {u"LKW"}, [&] {
+    EXPECT_EQ(text(u"txtKeyText"), u"Eigener LKW");
+    EXPECT_EQ(pressed(), u"AN AB LS RG ");
+    put(u"txtKeyText", u"LKW");
+    press(key::F9);
+  });
+  EXPECT_THAT(head(), Contains(u"LKW|LKW|Frachtbrief A4|NULL"));
+}
+
+TEST_F(Versandarten, AnyOperationMayFail) {
+  failEachOperation([&] { show(4, {u"LKW"}, [&] { workThrough(u"NEU"); }); });
+}
+
 // ---- purchase
 
 TEST_F(Versandarten, ShowsTheFieldsOfThePurchaseSide) {

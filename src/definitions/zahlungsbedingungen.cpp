@@ -13,8 +13,7 @@ const clsZahlungsbedingungen::NumberField clsZahlungsbedingungen::numberFields[7
     {u"SkontoProzent3", &BasisControls::tdbnPercent3},
 };
 
-void clsZahlungsbedingungen::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
-  basBasis::SetConnection(Connection);
+void clsZahlungsbedingungen::setUp() {
   BasisControls& c = controls();
   show({&c.tdblShow(),      &c.cmdCancel(),   &c.cmdOK(),        &c.cmdNew(),       &c.cmdDelete(),
         &c.lblKey(),        &c.txtKey(),      &c.lblKeyText(),   &c.txtKeyText(),   &c.lblSkonto(),
@@ -32,7 +31,6 @@ void clsZahlungsbedingungen::Init(const Variant& Key, const Ref<ado::Connection>
   c.lblKeyText().Top(3930);
   c.lblKeyText().Left(120);
   placeButtons(4440);
-  m_objBasis.Init(Key, Connection);
 }
 
 void clsZahlungsbedingungen::ReadData(ado::Recordset& Recordset) {

@@ -13,10 +13,10 @@ class clsZahlungsbedingungen final : public TableEditor {
  public:
   clsZahlungsbedingungen() : TableEditor({u"Zahlungsbedingungen", u"ZahlBedSchl"}) {}
 
-  void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   void ReadData(ado::Recordset& Recordset) override;
 
  protected:
+  void setUp() override;
   StringView listFields() const override { return u"ZahlbedSchl, Kurztext"; }
   /// Texts and numbers go in as they are: an empty text stays one.
   void writeKey(ResumeNext& step, const Ref<ado::Recordset>& row) override;

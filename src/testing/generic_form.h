@@ -37,6 +37,33 @@ class GenericFormTest : public DialogTest {
     expectDeleteQuestion(MsgBoxResult::Yes);
     click(u"cmdDelete");
   }
+  /// Runs a session again and again, each time with another one of its database operations failing: nothing
+  /// of it reaches the person, the form closes, and nothing stays open.
+  void failEachOperation(const std::function<void()>& session) {
+    tolerateEverything();
+    std::size_t position = 0;
+    do {
+      operations.clear();
+      failAt(++position);
+      session();
+      EXPECT_THAT(reportedErrors, ::testing::IsEmpty()) << "operation " << position;
+      EXPECT_EQ(connection->openRecordsets(), 0u) << "operation " << position;
+    } while (operations.size() >= position);
+    failAt(0);
+    EXPECT_GT(position, 20u);
+  }
+  /// What a clerk does on any catalogue that can be written: browse, add, change, delete, pick.
+  void workThrough(StringView newKey) {
+    mark(0);
+    press(key::Down);
+    enter(newKey);
+    type(u"Neu");
+    press(key::F9);
+    put(u"txtKeyText", u"Anders");
+    click(u"cmdOK");
+    click(u"cmdDelete");
+    doubleClick(0, u"tdblShow");
+  }
   /// The statements of one kind of operation since operations was cleared.
   std::vector<String> statements(ado::Operation operation) const {
     std::vector<String> texts;

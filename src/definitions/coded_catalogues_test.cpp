@@ -193,14 +193,24 @@ TEST_P(CodedCatalogues, AFailingDatabaseIsSilent) {
   EXPECT_THAT(all(), ElementsAre(u"A|Erste", u"B|NULL"));
 }
 
-TEST_P(CodedCatalogues, AFailingColumnKeepsItsValueAndTheOthersAreWritten) {
+TEST_P(CodedCatalogues, ARowWhoseKeyCannotBeWrittenIsNotStored) {
   showThis({u"A"}, [&] {
     enter(u"NEU");
     type(u"Text");
     fail(ado::Operation::Field, table(), error::ProviderFailure, 1);
     press(key::F9);
   });
-  EXPECT_THAT(all(), ElementsAre(u"A|Erste", u"B|NULL")) << "a row without its key cannot be stored";
+  EXPECT_THAT(all(), ElementsAre(u"A|Erste", u"B|NULL"));
+}
+
+TEST_P(CodedCatalogues, AColumnThatCannotBeWrittenKeepsItsValue) {
+  showThis({u"A"}, [&] {
+    put(u"txtKeyText", u"Anders");
+    fail(ado::Operation::Field, table(), error::ProviderFailure, 1);
+    press(key::F9);
+    EXPECT_EQ(text(u"txtKeyText"), u"Erste") << "as stored";
+  });
+  EXPECT_THAT(all(), ElementsAre(u"A|Erste", u"B|NULL"));
 }
 
 TEST_P(CodedCatalogues, KeysWithSignsBlanksAndForeignLettersAreSafe) {

@@ -184,6 +184,10 @@ void FlexGrid::setInCurrent(T Cell::*member, T value) {
   if (std::exchange(target.*member, value) != value) changed();
 }
 
+void FlexGrid::setPicture(int row, int col, const Picture* picture) {
+  if (std::exchange(cellAt(row, col).picture, picture) != picture) changed();
+}
+
 void FlexGrid::CellAlignment(int alignment) { setInCurrent(&Cell::alignment, alignment); }
 
 void FlexGrid::CellBackColor(std::uint32_t colour) { setInCurrent(&Cell::backColor, colour); }

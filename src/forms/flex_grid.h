@@ -113,6 +113,8 @@ class FlexGrid : public Control {
   void CellPictureAlignment(int alignment);
   /// Error 381 outside.
   const Cell& cell(int row, int col) const;
+  /// The picture of any cell, without moving the cursor. Error 381 outside.
+  void setPicture(int row, int col, const Picture* picture);
 
   // ---- places, in twips
 

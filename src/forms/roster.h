@@ -46,6 +46,8 @@ struct OtherDesign {
   /// Longest text in UTF-16 units; 0 is no limit. TextBox.
   int MaxLength = 0;
   zqn::Alignment Alignment = zqn::Alignment::Left;
+  /// Label.
+  bool Bold = false;
   /// Takes several lines. TextBox.
   bool MultiLine = false;
   /// Without a frame, to lie over the cell of a grid. TextBox.

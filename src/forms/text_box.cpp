@@ -56,7 +56,7 @@ bool TextBox::ownKey(const KeyStroke& stroke) {
   const bool ctrl = (stroke.shift & shift::Ctrl) != 0;
   if (!MultiLine() || (stroke.shift & shift::Alt) != 0) return TextEntry::ownKey(stroke);
   if (stroke.code == key::Enter) {
-    userPasted(lineBreak);
+    replaceSelection(lineBreak);
     return true;
   }
   if (ctrl) return TextEntry::ownKey(stroke);

@@ -91,8 +91,14 @@ void TextEntry::userSelected(int selStart, int selLength) {
 
 String TextEntry::pastedAs(StringView text) const { return withBreaks(text, u" "); }
 
+bool TextEntry::pasteTaken(StringView text) {
+  bool taken = false;
+  Paste.raise(text, taken);
+  return taken;
+}
+
 void TextEntry::userPasted(StringView text) {
-  if (!text.empty()) replaceSelection(pastedAs(text));
+  if (!text.empty() && !pasteTaken(text)) replaceSelection(pastedAs(text));
 }
 
 void TextEntry::replaceSelection(StringView text) {

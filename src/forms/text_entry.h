@@ -29,6 +29,9 @@ class TextEntry : public Control {
 
   /// The text has become another one, by code or by typing.
   Event<> Change{*this, u"Change"};
+  /// A person pastes this text, by key or menu. Whoever does something else with it sets the second argument,
+  /// and then nothing goes in.
+  Event<StringView, bool&> Paste{*this, u"Paste"};
 
   // ---- for toolkits
 
@@ -45,8 +48,10 @@ class TextEntry : public Control {
   virtual void userEdited(StringView text, int selStart, int selLength);
   /// A person has moved the caret or the selection.
   void userSelected(int selStart, int selLength);
-  /// A person pastes; the part that the limit leaves room for goes in.
+  /// A person pastes; the part that the limit leaves room for goes in, unless Paste takes the text.
   void userPasted(StringView text);
+  /// Raises Paste. True when the text is taken: a toolkit that pastes natively leaves it then.
+  bool pasteTaken(StringView text);
   bool ownKey(const KeyStroke& stroke) override;
   String content() const override { return text_; }
 
@@ -62,10 +67,11 @@ class TextEntry : public Control {
   /// Where the caret stands: the end of the selection that moves.
   int caret() const noexcept { return caretAtStart_ ? selStart_ : selStart_ + selLength_; }
   void moveCaret(int position, bool extend);
+  /// A person's edit: the text takes the place of what is selected, as far as the limit leaves room.
+  void replaceSelection(StringView text);
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
-  void replaceSelection(StringView text);
   bool ownControlKey(const KeyStroke& stroke);
 
   String text_;

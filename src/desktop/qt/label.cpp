@@ -24,8 +24,18 @@ Label::Label(zqn::Label& model, QWidget* parent)
       ControlWidget(model, *this, {QPalette::Window, QPalette::WindowText, colour::ButtonFace}),
       model_(model) {
   setTextFormat(Qt::PlainText);
-  setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  setAlignment(Qt::AlignTop | (isRightAligned() ? Qt::AlignRight : Qt::AlignLeft));
+  setFont(fontStretched(natural));
   setTextInteractionFlags(Qt::NoTextInteraction);
+}
+
+bool Label::isRightAligned() const { return model_.design().other.Alignment == Alignment::Right; }
+
+QFont Label::fontStretched(int percent) const {
+  QFont font;
+  if (model_.design().other.Bold) font.setBold(true);
+  if (percent != natural) font.setStretch(percent);
+  return font;
 }
 
 QString Label::words() const { return withoutAccessKey(toQt(model_.Caption())); }
@@ -46,15 +56,17 @@ int Label::room() const {
 
 int Label::stretch() const {
   if (breaksLines()) return natural;
-  const int width = QFontMetrics(parentWidget()->font(), this).horizontalAdvance(words());
+  const QFont font = fontStretched(natural).resolve(parentWidget()->font());
+  const int width = QFontMetrics(font, this).horizontalAdvance(words());
   const int fitting = width > 0 ? natural * room() / width : natural;
   return fitting >= natural || fitting < leastStretch ? natural : fitting;
 }
 
 QRect Label::place() const {
   QRect rect = ControlWidget::place();
-  if (!breaksLines()) rect.setWidth(std::max(rect.width(), fontMetrics().horizontalAdvance(words())));
-  return rect;
+  if (breaksLines()) return rect;
+  const int wider = std::max(0, fontMetrics().horizontalAdvance(words()) - rect.width());
+  return isRightAligned() ? rect.adjusted(-wider, 0, 0, 0) : rect.adjusted(0, 0, wider, 0);
 }
 
 void Label::draw() {
@@ -63,9 +75,7 @@ void Label::draw() {
   const int wanted = stretch();
   if (wanted == drawnStretch_) return;
   drawnStretch_ = wanted;
-  QFont narrower;
-  if (wanted != natural) narrower.setStretch(wanted);
-  setFont(narrower);
+  setFont(fontStretched(wanted));
   setGeometry(place());
 }
 

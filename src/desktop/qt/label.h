@@ -26,6 +26,9 @@ class Label : public QLabel, public ControlWidget {
 
  private:
   QString words() const;
+  bool isRightAligned() const;
+  /// The design's own part of the font; the rest comes from the window.
+  QFont fontStretched(int percent) const;
   /// Room for a second line.
   bool breaksLines() const;
   /// Percent of its natural width that the caption is drawn with.

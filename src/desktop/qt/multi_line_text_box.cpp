@@ -137,6 +137,7 @@ void MultiLineTextBox::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void MultiLineTextBox::insertFromMimeData(const QMimeData* source) {
+  if (model_.pasteTaken(fromQt(source->text()))) return;
   const String pasted = model_.pastedAs(fromQt(source->text()));
   insertPlainText(toQt(withBreaks(cutToLength(pasted, room()), u"\n")));
   ensureCursorVisible();

@@ -108,15 +108,22 @@ void TextEntry::joinLines() {
   --editing_;
 }
 
-void TextEntry::pasteLine() { insert(pasted(QGuiApplication::clipboard()->text())); }
+void TextEntry::pasteLine() {
+  const QString text = QGuiApplication::clipboard()->text();
+  bool taken = text.isEmpty();
+  if (!taken) shielded(model_, u"Paste", [&] { taken = model_.pasteTaken(fromQt(text)); });
+  if (!taken) edit([&] { insert(pasted(text)); });
+}
 
 void TextEntry::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
   KeyStroke typed = stroke;
   typed.character = model_.typedAs(stroke.character);
+  if (event.matches(QKeySequence::Paste)) {
+    pasteLine();
+    return;
+  }
   edit([&] {
-    if (event.matches(QKeySequence::Paste)) {
-      pasteLine();
-    } else if (asTyped && typed.character == stroke.character) {
+    if (asTyped && typed.character == stroke.character) {
       QLineEdit::keyPressEvent(&event);
     } else {
       QKeyEvent other = eventOf(typed, QEvent::KeyPress);

@@ -10,6 +10,7 @@
 #include "frontend/kinds.h"
 #include "runtime/convert.h"
 #include "runtime/resume_next.h"
+#include "split/frm_aufteilung_snch.h"
 
 namespace zqn {
 
@@ -33,6 +34,25 @@ class ShowSteps {
     step([&] { form->ShowData(); });
     step([&] { param_.at(0) = form->SelectedKey; });
     step([&] { returned = form->SelectedKey; });
+    return returned;
+  }
+
+  /// The quantity split: what was divided is the result.
+  Variant quantitySplit() {
+    ResumeNext step;
+    std::unique_ptr<frmAufteilungSNCH> form;
+    Variant returned;
+    step([&] { form = std::make_unique<frmAufteilungSNCH>(); });
+    step([&] { form->Connection = dialog_.Connection(); });
+    step([&] { form->Aufteilung = param_.at(0); });
+    step([&] { form->Gmenge = param_.at(1); });
+    step([&] { form->ME = param_.at(2); });
+    step([&] { form->Aufteilungsart = param_.at(3); });
+    step([&] { form->VerfalldatumPflicht = CBool(param_.at(4)); });
+    step([&] { form->ShowData(); });
+    step([&] { param_.at(0) = form->Aufteilung; });
+    step([&] { param_.at(1) = form->Gmenge; });
+    step([&] { returned = form->Aufteilung; });
     return returned;
   }
 
@@ -78,6 +98,7 @@ std::unique_ptr<Form> make() {
 
 constexpr Dispatch dispatch[] = {
     {21, &ShowSteps::catalogue<frmVertriebsstati>, make<frmVertriebsstati>},
+    {34, &ShowSteps::quantitySplit, make<frmAufteilungSNCH>},
 };
 
 const Dispatch* findDispatch(std::int32_t kind) noexcept {

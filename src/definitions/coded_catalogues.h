@@ -15,11 +15,14 @@ namespace zqn {
 
 /// What one such catalogue does not share with the others.
 struct CodedValues {
+  /// The name of its class.
   const char16_t* definition;
   DefinitionTable table;
   const char16_t* textColumn;
+  /// What a person can type, in characters.
   int keyLength;
   int textLength;
+  /// Captions of the form, of the key and of the text; the list's columns take the last two.
   const char16_t* caption;
   const char16_t* keyCaption;
   const char16_t* textCaption = u"Bezeichnung";

@@ -7,6 +7,8 @@
 #include <string>
 #include <typeindex>
 
+#include "definitions/coded_catalogues.h"
+#include "dialog/frm_dialog.h"
 #include "frontend/kinds.h"
 #include "testing/generic_form.h"
 
@@ -53,6 +55,43 @@ TEST(Definitions, WithoutTheFormTheirControlsAreNotThere) {
     const auto definition = makeDefinition(kind);
     EXPECT_EQ(errorNumberOf([&] { definition->Init(u"A", nothing); }), error::ObjectNotSet) << kind;
   }
+}
+
+// ---- one more
+
+constexpr CodedValues furtherCatalogues[] = {
+    {u"clsLagerorte",
+     {u"Lagerorte", u"Lagerort", true},
+     u"Bezeichnung",
+     15,
+     50,
+     u"Lagerorte bearbeiten",
+     u"Lagerort"},
+};
+
+class clsLagerorte final : public CodedCatalogue {
+ public:
+  clsLagerorte() : CodedCatalogue(valuesOf(furtherCatalogues, u"clsLagerorte")) {}
+};
+
+class AFurtherCatalogue : public GenericFormTest {};
+
+TEST_F(AFurtherCatalogue, IsARowOfValuesAndAShortClass) {
+  execute(
+      u"CREATE TABLE Lagerorte (Lagerort VARCHAR(15) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, Bezeichnung "
+      u"VARCHAR(50));INSERT INTO Lagerorte VALUES ('-', 'System'), ('H1', 'Halle 1')");
+  frmDialog places;
+  places.Init(connection, u"H1", std::make_unique<clsLagerorte>());
+  during([&] { places.ShowData(); },
+         [&] {
+           EXPECT_EQ(form().Caption(), u"Lagerorte bearbeiten");
+           EXPECT_EQ(text(u"txtKeyText"), u"Halle 1");
+           enter(u"H2");
+           type(u"Halle 2");
+           press(key::F9);
+           EXPECT_THAT(listRows(u"tdblShow"), ::testing::ElementsAre(u"H1|Halle 1", u"H2|Halle 2"));
+         });
+  EXPECT_EQ(places.Key(), u"H2");
 }
 
 class EveryDefinition : public GenericFormTest, public ::testing::WithParamInterface<std::int32_t> {

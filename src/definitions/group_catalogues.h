@@ -13,10 +13,12 @@ namespace zqn {
 
 /// What one of these catalogues does not share with the others.
 struct GroupValues {
+  /// The name of its class.
   const char16_t* definition;
   DefinitionTable table;
   /// The columns of the list must come as key, long text, short text: the third is hidden by its position.
   const char16_t* listFields;
+  /// Captions of the form and of the key.
   const char16_t* caption;
   const char16_t* keyCaption;
 };

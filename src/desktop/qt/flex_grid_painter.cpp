@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt/flex_grid_painter.h"
 
+#include <algorithm>
+
 #include "desktop/qt/colours.h"
 #include "desktop/qt/picture_box.h"
 #include "desktop/qt/style.h"
@@ -99,8 +101,13 @@ void FlexGridPainter::paintText(const zqn::FlexGrid::Cell& cell, const QRect& in
 void FlexGridPainter::paintCursor() {
   const auto row = layout_.row(grid_.Row());
   const auto column = layout_.column(grid_.Col());
+  if (layout_.columns().empty()) return;
   QRect place(0, 0, layout_.clientWidth(), layout_.clientHeight());
-  if (row) place = QRect(0, row->start, layout_.clientWidth(), row->length - line);
+  if (row) {
+    const GridBand& last = layout_.columns().back();
+    const int width = std::min(last.start + last.length, layout_.clientWidth());
+    place = QRect(0, row->start, width, row->length - line);
+  }
   if (row && column && grid_.SelectionMode() != zqn::FlexGrid::ByRow) {
     place.setLeft(column->start);
     place.setWidth(column->length - line);

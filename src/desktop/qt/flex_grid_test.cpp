@@ -27,8 +27,8 @@ constexpr PictureShape shapes[] = {{0x000000, square}};
 constexpr zqn::Picture mark{u"mark", 14, 14, shapes};
 
 constexpr ControlDesign roster[] = {
-    {u"Grid", ControlKind::MSHFlexGrid, u"", 90, 45, 4985, 4125},
     {u"Editor", ControlKind::TextBox, u"", 0, 4300, 825, 285, {.Flat = true, .Overlaps = true}},
+    {u"Grid", ControlKind::MSHFlexGrid, u"", 90, 45, 4985, 4125},
     {u"Other", ControlKind::TextBox, u"", 1000, 4300, 825, 285},
     {u"pic", ControlKind::PictureBox, u"", 2000, 4300, 210, 210},
 };
@@ -121,6 +121,8 @@ TEST_F(Grids, AnEntryFieldCoversItsCellExactly) {
                      EXPECT_EQ(field.top(), inWindow(cell.topLeft()).y());
                      EXPECT_EQ(field.right() + 1, inWindow(cell.bottomRight()).x()) << "up to the line";
                      EXPECT_EQ(field.bottom() + 1, inWindow(cell.bottomRight()).y());
+                     const QWidget* const onTop = widget().window()->childAt(field.center());
+                     EXPECT_EQ(onTop, person.desktop.widgetOf(form.Editor)) << "no other widget covers it";
                    }});
 }
 

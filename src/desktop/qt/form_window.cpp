@@ -40,8 +40,9 @@ FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(for
   for (const auto& control : form.controls()) makeWidget(*control);
   for (ControlWidget* each : widgets_) {
     inputs_.push_back(std::make_unique<ControlInput>(*this, *each));
-    // A label stands below what can be entered, wherever the two meet.
+    // A label stands below what can be entered, wherever the two meet, and a field over the cells of a grid.
     if (!each->control().takesFocus()) each->widget().lower();
+    if (each->control().design().other.Flat) each->widget().raise();
   }
   sync();
 }

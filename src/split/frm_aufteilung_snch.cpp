@@ -51,6 +51,14 @@ constexpr std::array<KindDesign, 4> kindDesigns{{{u" ", -1},
                                                  {u"Seriennummernaufteilung", 5},
                                                  {u"Chargen/Seriennummernaufteilung", 3}}};
 
+/// No kind for what is no number from 1 to 3.
+SplitKind kindOf(const Variant& Aufteilungsart) {
+  std::int32_t number = 0;
+  ResumeNext step;
+  step([&] { number = CLng(Aufteilungsart); });
+  return number >= 1 && number <= 3 ? static_cast<SplitKind>(number) : SplitKind::None;
+}
+
 /// Sets a flag, and gives it back the value that it had.
 class Held {
  public:
@@ -87,13 +95,6 @@ frmAufteilungSNCH::frmAufteilungSNCH() : Form(plan::form) {
   btnOK.Click = [this] { btnOK_Click(); };
   KeyUp = [this](int KeyCode, int) { Form_KeyUp(KeyCode); };
   total_.rows(MSHFlexGrid1.Rows());
-}
-
-SplitKind frmAufteilungSNCH::kind() const {
-  std::int32_t number = 0;
-  ResumeNext step;
-  step([&] { number = CLng(Aufteilungsart); });
-  return number >= 1 && number <= 3 ? static_cast<SplitKind>(number) : SplitKind::None;
 }
 
 // ---- cells
@@ -141,16 +142,17 @@ void frmAufteilungSNCH::InitForm() {
   ResumeNext step;
   String unit;
   step([&] { unit = concatenate(ME); });
-  const double target = Val2(Gmenge);
-  lblAufteilungstext.Caption(target != 0 ? u"von " + quantityText(target) + u" " + unit + u" aufgeteilt."
-                                         : unit);
+  kind_ = kindOf(Aufteilungsart);
+  target_ = Val2(Gmenge);
+  lblAufteilungstext.Caption(target_ != 0 ? u"von " + quantityText(target_) + u" " + unit + u" aufgeteilt."
+                                          : unit);
   layOut();
   for (int col = SplitColumns::First; col <= SplitColumns::Last; ++col)
     step([&] { MSHFlexGrid1.TextMatrix(0, col, splitHeading(col)); });
   step([&] { MSHFlexGrid1.Row(0); });
   step([&] { MSHFlexGrid1.Col(1); });
   step([&] { MSHFlexGrid1.CellAlignment(cell_alignment::RightCenter); });
-  aCols = SplitColumns(kind(), unit);
+  aCols = SplitColumns(kind_, unit);
 
   SplitTable table;
   step([&] { table = ParseSplit(concatenate(Aufteilung)); });
@@ -158,10 +160,9 @@ void frmAufteilungSNCH::InitForm() {
   for (int i = 0; i < table.count; ++i) {
     step([&] { MSHFlexGrid1.Row(i + 1); });
     step([&] { InitRow(i + 1, true); });
-    const SplitCells cells = cellsOf(table.rows[static_cast<std::size_t>(i)], kind());
+    const SplitCells cells = cellsOf(table.rows[static_cast<std::size_t>(i)], kind_);
     for (std::size_t j = 0; j < cells.size(); ++j) {
       const int col = static_cast<int>(j) + 1;
-      // A formatted cell is read once more as it is written.
       step([&] { setCell(i + 1, col, cells[j]); });
     }
     step([&] { SaveRow(); });
@@ -177,13 +178,12 @@ void frmAufteilungSNCH::layOut() {
   constexpr int besideGrid = 300;
   MSHFlexGrid1.Cols(SplitColumns::Last + 1);
   MSHFlexGrid1.ColWidth(markColumn, markWidth);
-  const SplitKind kind = this->kind();
-  const KindDesign& design = kindDesigns[static_cast<std::size_t>(kind)];
+  const KindDesign& design = kindDesigns[static_cast<std::size_t>(kind_)];
   Caption(design.caption);
   lStartCol = design.startCol;
   int columns = 0;
   for (int col = SplitColumns::First; col <= SplitColumns::Last; ++col) {
-    if (splitWidth(col, kind) >= 0) MSHFlexGrid1.ColWidth(col, splitWidth(col, kind));
+    if (splitWidth(col, kind_) >= 0) MSHFlexGrid1.ColWidth(col, splitWidth(col, kind_));
     columns += MSHFlexGrid1.ColWidth(col);
   }
   MSHFlexGrid1.Width(columns + besideColumns);
@@ -294,15 +294,14 @@ void frmAufteilungSNCH::RecalcTotals() {
   const bool typing = txtEdit.Visible() && MSHFlexGrid1.Col() == quantityCol && MSHFlexGrid1.Row() >= 1;
   const double sum =
       typing ? total_.without(bottom, MSHFlexGrid1.Row(), Val2(txtEdit.Text())) : total_.without(bottom);
-  lblGmenge.Caption(quantityText(sum));
-  const double target = Val2(Gmenge);
-  if (target != 0) lblGmenge.ForeColor(sum == sixDecimals(target) ? darkGreen : darkRed);
-  const double rest = sixDecimals(target - sum);
-  if (kind() == SplitKind::Batches) {
-    setCell(bottom, quantityCol, quantityText(std::max(rest, 0.0)));
-  } else if (rest > 0) {
-    setCell(bottom, quantityCol, quantityText(1));
-  }
+  // It runs at every turn: what stands there already is not written again.
+  if (sum != shownTotal_) lblGmenge.Caption(quantityText(sum));
+  shownTotal_ = sum;
+  if (target_ != 0) lblGmenge.ForeColor(sum == sixDecimals(target_) ? darkGreen : darkRed);
+  const double rest = sixDecimals(target_ - sum);
+  const double offered = kind_ == SplitKind::Batches ? std::max(rest, 0.0) : 1.0;
+  if (kind_ != SplitKind::Batches && rest <= 0) return;
+  if (total_.at(bottom) != offered) setCell(bottom, quantityCol, quantityText(offered));
 }
 
 }  // namespace zqn

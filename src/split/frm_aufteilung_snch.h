@@ -62,7 +62,6 @@ class frmAufteilungSNCH final : public Form {
   void MarkEdited();
   void SyncRow();
   void RecalcTotals();
-  SplitKind kind() const;
   bool isRowMode() const { return MSHFlexGrid1.SelectionMode() == FlexGrid::ByRow; }
   int bottomRow() const { return MSHFlexGrid1.Rows() - 1; }
   void setRows(int count);
@@ -120,8 +119,13 @@ class frmAufteilungSNCH final : public Form {
   CommandButton& btnOK = Get<CommandButton>(u"btnOK");
   CommandButton& btnCancel = Get<CommandButton>(u"btnCancel");
 
+  /// Aufteilungsart and Gmenge as they were read when the form opened.
+  SplitKind kind_ = SplitKind::None;
+  double target_ = 0;
   SplitColumns aCols;
   SplitTotal total_;
+  /// What lblGmenge shows; no value before the first time.
+  std::optional<double> shownTotal_;
   /// Rows that have a mark at present: two at most.
   std::vector<int> marked_;
   /// The cell that the editor belongs to; -1 for none.

@@ -47,14 +47,13 @@ void frmAufteilungSNCH::btnCancel_Click() {
 
 std::optional<frmAufteilungSNCH::Complaint> frmAufteilungSNCH::complaintAbout(int row) const {
   const SplitCells cells = cellsOfRow(row);
-  const SplitKind kind = this->kind();
   const auto isBlank = [&](SplitField field) { return Trim(cells[field]).empty(); };
-  if (kind == SplitKind::Batches || kind == SplitKind::Both) {
+  if (kind_ == SplitKind::Batches || kind_ == SplitKind::Both) {
     if (Val2(cells[SplitQuantity]) == 0) return Complaint{1, noQuantity};
     if (isBlank(SplitBatch)) return Complaint{3, noBatch};
     if (VerfalldatumPflicht && isBlank(SplitDate)) return Complaint{4, noDate};
   }
-  if ((kind == SplitKind::Serials || kind == SplitKind::Both) && isBlank(SplitSerial))
+  if ((kind_ == SplitKind::Serials || kind_ == SplitKind::Both) && isBlank(SplitSerial))
     return Complaint{5, noSerial};
   return std::nullopt;
 }
@@ -82,8 +81,7 @@ void frmAufteilungSNCH::CheckSplit(bool& Cancel) {
     return;
   }
   const double total = Val2(lblGmenge.Caption());
-  const double target = Val2(Gmenge);
-  if (target != 0 && sixDecimals(std::abs(total - target)) > tolerated) {
+  if (target_ != 0 && sixDecimals(std::abs(total - target_)) > tolerated) {
     MsgBoxResult answer = MsgBoxResult::No;
     step([&] {
       answer = MsgBox(difference, msgbox::YesNo | msgbox::Question | msgbox::DefaultButton2,

@@ -96,7 +96,7 @@ int TDBList::drawnWidth(int column) const {
 void TDBList::DataSource(Ref<ado::Recordset> source) {
   source_ = std::move(source);
   const bool open = !source_.isNothing() && source_->State() != ado::adStateClosed;
-  if (!std::exchange(holdFields_, false)) {
+  if (!holdFields_ || columns_.empty()) {
     columns_.clear();
     const int fields = open ? source_->Fields().Count() : 0;
     for (int i = 0; i < fields; ++i) columns_.push_back(Column(*this, i, source_->Fields(i).Name()));
@@ -112,6 +112,7 @@ void TDBList::DataSource(Ref<ado::Recordset> source) {
 void TDBList::ReBind() {
   const Ref<ado::Recordset> source = source_;
   DataSource(source);
+  holdFields_ = false;
 }
 
 bool TDBList::hasRows() const { return knownRows() > 0; }

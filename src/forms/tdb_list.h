@@ -67,11 +67,11 @@ class TDBList : public Control {
 
   const Ref<ado::Recordset>& DataSource() const noexcept { return source_; }
   /// Binds: marks row 0 when there is one, raises nothing. The columns are made anew from the fields unless
-  /// HoldFields was called before. A closed recordset, or Nothing, shows no columns and no rows.
+  /// HoldFields holds them. A closed recordset, or Nothing, shows no columns and no rows.
   void DataSource(Ref<ado::Recordset> source);
-  /// Leaves the column set-up alone at the next binding.
+  /// Leaves the column set-up, if there is one, alone up to the next ReBind, that one included.
   void HoldFields() { holdFields_ = true; }
-  /// Shows the data source anew: as DataSource with the same recordset.
+  /// Shows the data source anew: as DataSource with the same recordset. Ends HoldFields.
   void ReBind();
 
   /// Error 9 outside the columns.

@@ -56,7 +56,7 @@ TEST_F(ListBinding, MakesTheColumnsFromTheFieldsEachTime) {
   EXPECT_EQ(list.Columns(0).Caption(), u"Bezeichnung");
 }
 
-TEST_F(ListBinding, HoldFieldsKeepsTheColumnsOverTheNextBindingOnly) {
+TEST_F(ListBinding, HoldFieldsKeepsTheColumnsUpToTheNextReBind) {
   insert({u"10"});
   auto rs = bind();
   list.Columns(0).Caption(u"Kennung");
@@ -68,6 +68,26 @@ TEST_F(ListBinding, HoldFieldsKeepsTheColumnsOverTheNextBindingOnly) {
   EXPECT_EQ(list.Columns(1).Width(), 300);
   list.ReBind();
   EXPECT_EQ(list.Columns(0).Caption(), u"Status");
+}
+
+TEST_F(ListBinding, HoldFieldsKeepsTheColumnsOverANewDataSourceToo) {
+  insert({u"10"});
+  bind();
+  list.Columns(0).Visible(false);
+  list.HoldFields();
+  bind();
+  EXPECT_FALSE(list.Columns(0).Visible());
+  list.ReBind();
+  EXPECT_FALSE(list.Columns(0).Visible());
+  bind();
+  EXPECT_TRUE(list.Columns(0).Visible());
+}
+
+TEST_F(ListBinding, HoldFieldsWithoutColumnsHoldsNothing) {
+  insert({u"10"});
+  list.HoldFields();
+  bind();
+  EXPECT_EQ(list.columnCount(), 3);
 }
 
 TEST_F(ListBinding, ReBindShowsWhatARequeryBrought) {

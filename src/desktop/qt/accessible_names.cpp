@@ -103,7 +103,8 @@ bool saysWhatItIs(ControlKind kind) {
 }  // namespace
 
 QString accessibleNameOf(const Control& control) {
-  const QString words = saysWhatItIs(control.kind()) ? toQt(control.content()) : nameByWords(control);
+  const bool saysItself = saysWhatItIs(control.kind()) && !control.content().empty();
+  const QString words = saysItself ? toQt(control.content()) : nameByWords(control);
   const QString name = withoutAccessKey(words).simplified();
   return name.isEmpty() ? toQt(control.fullName()) : name;
 }

@@ -64,12 +64,10 @@ class Look {
                          .arg(height));
       return;
     }
-    const int width = metrics.horizontalAdvance(lineIn(control, text));
-    if (width > room)
-      add(control, QStringLiteral("\"%1\" is %2 pixels wide, room is for %3")
-                       .arg(lineIn(control, text))
-                       .arg(width)
-                       .arg(room));
+    const QString line = lineIn(control, text);
+    const int width = metrics.horizontalAdvance(line);
+    if (!line.isEmpty() && width > room)
+      add(control, QStringLiteral("\"%1\" is %2 pixels wide, room is for %3").arg(line).arg(width).arg(room));
     const bool hasLine = control.takesFocus() || !text.isEmpty();
     if (hasLine && metrics.height() > height)
       add(control,

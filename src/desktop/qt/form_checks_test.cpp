@@ -50,10 +50,11 @@ TEST(FormChecks, FindTextsThatDoNotFit) {
                           HasSubstr("lblFlach: a line is ")));
 }
 
-TEST(FormChecks, LeaveAccessKeysAndWrappedLabelsAlone) {
+TEST(FormChecks, LeaveAccessKeysWrappedLabelsAndEmptyCaptionsAlone) {
   constexpr ControlDesign roster[] = {
       {u"btn", CommandButton, u"&Neu", 0, 0, 600, 315},
       {u"lbl", Label, u"Dieser Status kann auch dann gesetzt werden", 0, 400, 1800, 640},
+      {u"chk", CheckBox, u"", 0, 1200, 255, 255},
   };
   EXPECT_THAT(findingsFor(roster), IsEmpty());
 }

@@ -84,6 +84,7 @@ void MultiLineTextBox::draw() {
 
 void MultiLineTextBox::compare(Differences& found) const {
   found.expect("Text", shownText(), wantedText());
+  found.expect("scroll bar", verticalScrollBarPolicy(), wantedScrollBar());
   if (model_.form().ActiveControl() != &model_) return;
   const int start = inModel(model_.Text(), textCursor().selectionStart());
   found.expect("SelStart", start, model_.SelStart());

@@ -139,9 +139,13 @@ void DialogTest::idle() {
       // The dialog would skip it as a failing statement of its own, and the rest of the test with it.
       ADD_FAILURE() << "the clerk ran into error " << failure.number() << ": " << failure.what();
     }
-  } else {
-    desktop.activeForm()->closeBox();
+    return;
   }
+  Form& open = form();
+  open.closeBox();
+  if (!open.Visible()) return;
+  if (Control* button = headless::cancelButton(open)) desktop.click(*button);
+  if (open.Visible()) throw std::logic_error("the form does not close");
 }
 
 void DialogTest::messageBoxOpened(const MessageBox& box) {

@@ -2,7 +2,7 @@
 //
 // A clerk at a headless desktop, for tests: an empty SQLite database, a session, an ORBDialog. What the clerk
 // does is written as straight code; it runs while the dialog stands open, and afterwards the window is closed
-// by its close box.
+// by its close box, or by its cancel button if it refuses.
 //
 //     TEST_F(Vertriebsstati, PicksByDoubleClick) {
 //       EXPECT_EQ(show(21, {u"10"}, [&] { doubleClick(1); }), Variant(u"20"));

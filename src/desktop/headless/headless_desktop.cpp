@@ -5,9 +5,22 @@
 #include <stdexcept>
 #include <utility>
 
+#include "forms/command_button.h"
 #include "forms/form.h"
+#include "runtime/convert.h"
 
 namespace zqn::headless {
+
+Control* cancelButton(const Form& form) {
+  Control* called = nullptr;
+  for (const auto& control : form.controls()) {
+    const auto* button = dynamic_cast<const CommandButton*>(control.get());
+    if (button == nullptr || !button->isUsable()) continue;
+    if (button->Cancel()) return control.get();
+    if (InStr(UCase(button->Name()), u"CANCEL") != String::npos) called = control.get();
+  }
+  return called;
+}
 
 void HeadlessDesktop::press(const KeyStroke& stroke) {
   Form* form = activeForm();
@@ -68,6 +81,8 @@ MsgBoxResult HeadlessDesktop::runMessageBox(const MessageBox& box) {
 void HeadlessDesktop::leaveAlone() {
   Form* form = activeForm();
   form->closeBox();
+  if (!form->Visible()) return;
+  if (Control* button = cancelButton(*form)) click(*button);
   if (form->Visible())
     throw std::logic_error("a form refused its close box, and nobody is there to act on it");
 }

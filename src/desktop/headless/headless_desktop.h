@@ -7,8 +7,8 @@
 //     Desktop::Scope scope(desktop);
 //     desktop.whenIdle([&] { desktop.press(KeyStroke::ofCode(key::F9)); ... });
 //
-// Without an idle step nobody is there: open forms are closed by their close box, message boxes get their
-// default answer.
+// Without an idle step nobody is there: open forms are closed by their close box, one that refuses it by the
+// button that backs out, and message boxes get their default answer.
 #pragma once
 
 #include <optional>
@@ -16,6 +16,10 @@
 #include "forms/desktop.h"
 
 namespace zqn::headless {
+
+/// The button that backs out of a form: the one that Esc presses, else the one that is called so; nullptr for
+/// none that can be pressed.
+Control* cancelButton(const Form& form);
 
 class HeadlessDesktop : public Desktop {
  public:

@@ -42,6 +42,23 @@ TEST_F(NobodyThere, AFormThatRefusesItsCloseBoxIsADefect) {
   EXPECT_THROW(form.Show(), std::logic_error);
 }
 
+TEST_F(NobodyThere, AFormThatRefusesItsCloseBoxIsLeftByItsCancelButton) {
+  constexpr ControlDesign buttons[] = {
+      {u"OKButton", ControlKind::CommandButton, u"OK", 0, 0, 1000, 285},
+      {u"CancelButton", ControlKind::CommandButton, u"Abbrechen", 0, 300, 1000, 285},
+  };
+  SampleForm asking(buttons);
+  bool refuses = true;
+  asking.Unload = [&](int& cancel) { cancel = refuses ? 1 : 0; };
+  asking.control(u"CancelButton").Click = [&] {
+    refuses = false;
+    asking.UnloadMe();
+  };
+  asking.Show();
+  EXPECT_FALSE(asking.Visible());
+  EXPECT_FALSE(refuses);
+}
+
 TEST_F(NobodyThere, AMessageBoxGetsItsDefaultAnswer) {
   EXPECT_EQ(MsgBox(u"?", msgbox::YesNo, u""), MsgBoxResult::Yes);
   EXPECT_EQ(MsgBox(u"?", msgbox::YesNo | msgbox::DefaultButton2, u""), MsgBoxResult::No);

@@ -5,25 +5,13 @@
 #include <ostream>
 #include <utility>
 
-#include "forms/command_button.h"
+#include "desktop/headless/headless_desktop.h"
 #include "host/script/script_error.h"
 #include "runtime/convert.h"
 
 namespace zqn::script {
 
 namespace {
-
-/// The button that backs out of a form: the one that Esc presses, else the one that is called so.
-Control* cancelButton(const Form& form) {
-  Control* called = nullptr;
-  for (const auto& control : form.controls()) {
-    const auto* button = dynamic_cast<const CommandButton*>(control.get());
-    if (button == nullptr || !button->isUsable()) continue;
-    if (button->Cancel()) return control.get();
-    if (InStr(UCase(button->Name()), u"CANCEL") != String::npos) called = control.get();
-  }
-  return called;
-}
 
 MsgBoxResult defaultAnswer(const MessageBox& box) {
   return box.buttons().at(static_cast<std::size_t>(box.defaultButton() - 1));
@@ -112,7 +100,7 @@ void ScriptedUser::goHome() {
     case 0:
       return input_.closeBox(*form);
     case 1:
-      if (Control* button = cancelButton(*form)) return hands_.click({*button});
+      if (Control* button = headless::cancelButton(*form)) return hands_.click({*button});
       [[fallthrough]];
     default:
       return fail(reader_.lineNumber(), toUtf8(form->Name()) + " refuses to close");

@@ -3,11 +3,33 @@
 
 #include "forms/message_box.h"
 #include "frontend/bas_basis.h"
-#include "runtime/convert.h"
 
 namespace zqn {
 
-CatalogueForm::CatalogueForm(const FormDesign& design) : Form(design) {
+namespace {
+
+/// Runs the statements of a procedure in the error mode that the form has for it.
+class Statements {
+ public:
+  explicit Statements(bool passOver) : passOver_(passOver) {}
+
+  template <class Statement>
+  void operator()(Statement&& statement) {
+    if (passOver_) {
+      resume_(std::forward<Statement>(statement));
+    } else {
+      std::forward<Statement>(statement)();
+    }
+  }
+
+ private:
+  bool passOver_;
+  ResumeNext resume_;
+};
+
+}  // namespace
+
+CatalogueForm::CatalogueForm(const FormDesign& design, Source source) : Form(design), source_(source) {
   Load = [this] { Form_Load(); };
   KeyDown = [this](int& KeyCode, int Shift) { Form_KeyDown(KeyCode, Shift); };
   KeyPress = [this](int& KeyAscii) { Form_KeyPress(KeyAscii); };
@@ -26,14 +48,36 @@ CatalogueForm::CatalogueForm(const FormDesign& design) : Form(design) {
 }
 
 void CatalogueForm::ShowData() {
-  ensureLoaded();
-  rsListe = Ref<ado::Recordset>::make();
-  rsListe->CursorLocation(ado::adUseServer);
-  RefreshList(false);
-  Schluessel.Text(concatenate(SelectedKey));
-  Schluessel_LostFocus();
-  UpdateButtons();
-  Show();
+  Statements step(passesOverFailures(Procedure::ShowData));
+  step([&] { ensureLoaded(); });
+  step([&] { beforeList(); });
+  step([&] { rsListe = Ref<ado::Recordset>::make(); });
+  step([&] { rsListe->CursorLocation(ado::adUseServer); });
+  step([&] { RefreshList(false); });
+  step([&] { Schluessel.Text(concatenate(SelectedKey)); });
+  step([&] { Schluessel_LostFocus(); });
+  step([&] { UpdateButtons(); });
+  step([&] { beforeShow(); });
+  step([&] { Show(); });
+}
+
+// ---- statements
+
+/// "front table WHERE key equals 'present key'"
+ado::sql::Text CatalogueForm::byKey(StringView front, StringView equals) const {
+  String text(front);
+  text.append(source_.table).append(u" WHERE ").append(source_.key).append(equals);
+  return std::move(text) + ado::sql::value(Schluessel.Text());
+}
+
+ado::sql::Text CatalogueForm::readStatement() const { return byKey(u"SELECT * FROM ", u" ="); }
+
+ado::sql::Text CatalogueForm::writeStatement() const { return byKey(u"SELECT * FROM ", u"="); }
+
+ado::sql::Text CatalogueForm::deleteStatement() const { return byKey(u"Delete FROM ", u" ="); }
+
+ado::sql::Text CatalogueForm::listCriterion() const {
+  return String(source_.key) + u"=" + ado::sql::value(Schluessel.Text());
 }
 
 // ---- records
@@ -44,6 +88,7 @@ void CatalogueForm::RefreshList(bool Rebind) {
   step([&] { rsListe->Close(); });
   step([&] { rsListe->Open(listStatement(), Connection, ado::adOpenKeyset, ado::adLockReadOnly); });
   step([&] { TDBList1.DataSource(rsListe); });
+  step([&] { setUpColumns(); });
   if (Rebind) step([&] { TDBList1.ReBind(); });
 }
 
@@ -75,12 +120,15 @@ Variant CatalogueForm::NullIfEmpty(const Variant& Value) {
   return trimmed.empty() ? Variant(Null) : Variant(std::move(trimmed));
 }
 
+Variant CatalogueForm::absolute(const Variant& value) {
+  return value.isNull() ? Variant(std::int32_t{0}) : Abs(value);
+}
+
 // ---- fields and buttons
 
 void CatalogueForm::UpdateButtons() {
-  const bool hasKey = !Trim(Schluessel.Text()).empty();
-  btnOK.Enabled(hasKey);
-  btnDelete.Enabled(hasKey);
+  btnOK.Enabled(hasKey());
+  btnDelete.Enabled(hasKey());
 }
 
 void CatalogueForm::SelectActiveText() {
@@ -111,29 +159,28 @@ void CatalogueForm::btnNew_Click() {
   UpdateButtons();
 }
 
+bool CatalogueForm::mayChange(StringView refusal) const {
+  if (!asksForRights() || basBasis::bAllowChanges) return true;
+  MsgBox(refusal, msgbox::Information, u"TALVEX Software");
+  return false;
+}
+
 void CatalogueForm::btnOK_Click() {
-  if (Trim(Schluessel.Text()).empty()) return;
-  if (!basBasis::bAllowChanges) {
-    MsgBox(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.",
-           msgbox::Information, u"TALVEX Software");
-    return;
-  }
-  WriteRecord();
-  TDBList1.HoldFields();
-  rsListe->Requery();
-  TDBList1.ReBind();
-  rsListe->MoveFirst();
-  rsListe->Find(listCriterion());
-  TDBList1.Bookmark(rsListe->Bookmark());
-  TDBList1.SetFocus();
+  if (!hasKey()) return;
+  if (!mayChange(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.")) return;
+  Statements step(passesOverFailures(Procedure::btnOK_Click));
+  step([&] { WriteRecord(); });
+  step([&] { TDBList1.HoldFields(); });
+  step([&] { rsListe->Requery(); });
+  step([&] { TDBList1.ReBind(); });
+  step([&] { moveToFirst(*rsListe); });
+  step([&] { rsListe->Find(listCriterion()); });
+  step([&] { TDBList1.Bookmark(rsListe->Bookmark()); });
+  step([&] { TDBList1.SetFocus(); });
 }
 
 void CatalogueForm::btnDelete_Click() {
-  if (!basBasis::bAllowChanges) {
-    MsgBox(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.",
-           msgbox::Information, u"TALVEX Software");
-    return;
-  }
+  if (!mayChange(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.")) return;
   if (MsgBox(u"Datensatz löschen?", msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes)
     return;
   DeleteRecord();
@@ -156,11 +203,16 @@ void CatalogueForm::btnCancel_Click() {
 
 // ---- list
 
+void CatalogueForm::takeFromList(const String& listText) {
+  Schluessel.Text(keyOf(listText));
+  ReadRecord();
+}
+
 void CatalogueForm::TDBList1_DblClick() {
   const String value = TDBList1.Text();
   if (Trim(value).empty()) return;
-  Schluessel.Text(value);
-  ReadRecord();
+  takeFromList(value);
+  if (!mayBeTaken()) return;
   SelectedKey = Schluessel.Text();
   if (Multiselect) {
     DblClick.raise(SelectedKey);
@@ -171,10 +223,7 @@ void CatalogueForm::TDBList1_DblClick() {
 
 void CatalogueForm::TDBList1_RowColChange() {
   const String value = TDBList1.Text();
-  if (!Trim(value).empty()) {
-    Schluessel.Text(value);
-    ReadRecord();
-  }
+  if (!Trim(value).empty()) takeFromList(value);
   UpdateButtons();
 }
 
@@ -208,10 +257,14 @@ void CatalogueForm::Form_KeyDown(int KeyCode, int Shift) {
 
 void CatalogueForm::Form_KeyPress(int& KeyAscii) {
   if (KeyAscii != key::Enter) return;
-  String keys = u"{Tab}";
-  Variant wait;
-  objSendKeys->SendKeys(keys, wait);
+  sendTab(*objSendKeys);
   KeyAscii = 0;
+}
+
+void CatalogueForm::sendTab(ZQSendKeys& keys) {
+  String tab = u"{Tab}";
+  Variant wait;
+  keys.SendKeys(tab, wait);
 }
 
 void CatalogueForm::Form_Unload() {

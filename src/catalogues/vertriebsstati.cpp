@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalogues/vertriebsstati.h"
 
-#include "runtime/convert.h"
-
 namespace zqn {
 
 namespace {
@@ -36,12 +34,9 @@ constexpr FormDesign form{u"frmVertriebsstati", u"Vertriebsstati", 6420, 5145, r
 
 }  // namespace plan
 
-/// Absolute value of a field; Null is 0.
-Variant absolute(const Variant& value) { return value.isNull() ? Variant(std::int32_t{0}) : Abs(value); }
-
 }  // namespace
 
-frmVertriebsstati::frmVertriebsstati() : CatalogueForm(plan::form) {
+frmVertriebsstati::frmVertriebsstati() : CatalogueForm(plan::form, {u"Vertriebsstati", u"Status"}) {
   Kurztext.GotFocus = [this] { SelectActiveText(); };
   Gewichtung.GotFocus = [this] { SelectActiveText(); };
   Gewichtung.LostFocus = [this] { Gewichtung_LostFocus(); };
@@ -49,22 +44,6 @@ frmVertriebsstati::frmVertriebsstati() : CatalogueForm(plan::form) {
 
 ado::sql::Text frmVertriebsstati::listStatement() const {
   return u"SELECT Status, Bezeichnung FROM Vertriebsstati Where Status<>'-' ORDER BY Status";
-}
-
-ado::sql::Text frmVertriebsstati::readStatement() const {
-  return u"SELECT * FROM Vertriebsstati WHERE Status =" + ado::sql::value(Schluessel.Text());
-}
-
-ado::sql::Text frmVertriebsstati::writeStatement() const {
-  return u"SELECT * FROM Vertriebsstati WHERE Status=" + ado::sql::value(Schluessel.Text());
-}
-
-ado::sql::Text frmVertriebsstati::deleteStatement() const {
-  return u"Delete FROM Vertriebsstati WHERE Status =" + ado::sql::value(Schluessel.Text());
-}
-
-ado::sql::Text frmVertriebsstati::listCriterion() const {
-  return u"Status=" + ado::sql::value(Schluessel.Text());
 }
 
 void frmVertriebsstati::ClearFields() {

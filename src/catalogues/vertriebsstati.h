@@ -15,10 +15,6 @@ class frmVertriebsstati final : public CatalogueForm {
 
  private:
   ado::sql::Text listStatement() const override;
-  ado::sql::Text readStatement() const override;
-  ado::sql::Text writeStatement() const override;
-  ado::sql::Text deleteStatement() const override;
-  ado::sql::Text listCriterion() const override;
   void ClearFields() override;
   void readFields(ado::Recordset& rs) override;
   void writeFields(ResumeNext& step, ado::Recordset& rs) override;

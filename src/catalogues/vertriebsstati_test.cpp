@@ -3,7 +3,7 @@
 // Kind 21 as a clerk works with it, and with it the pattern of all catalogue forms.
 #include "catalogues/vertriebsstati.h"
 
-#include "testing/dialog_test.h"
+#include "catalogues/catalogue_test.h"
 
 namespace zqn::testing {
 namespace {
@@ -11,12 +11,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr StringView noRightToSave =
-    u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.";
-constexpr StringView noRightToDelete =
-    u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.";
-
-class Vertriebsstati : public DialogTest {
+class Vertriebsstati : public CatalogueTest {
  protected:
   Vertriebsstati() {
     execute(
@@ -28,17 +23,6 @@ class Vertriebsstati : public DialogTest {
         u"INSERT INTO Vertriebsstati VALUES ('90', NULL, NULL, NULL)");
   }
 
-  void enter(StringView key) {
-    click(u"btnNew");
-    type(key);
-    press(key::Tab);
-  }
-  void expectDeleteQuestion(MsgBoxResult answer) {
-    expectBox(u"Datensatz löschen?", u"Abfrage", msgbox::YesNo | msgbox::Question, answer);
-  }
-  void forbidChanges() {
-    session->SaveSetting(u"ZQNComDlg", u"AdminsOnly", u"1", Missing, zqnSaveAsGlobalSetting);
-  }
   std::vector<String> fields() const {
     return {text(u"Schluessel"), text(u"Kurztext"), text(u"Gewichtung"),
             CStr(get(u"AutoOverwrite", u"Value"))};

@@ -2,8 +2,17 @@
 #include "frontend/orb_dialog.h"
 
 #include <algorithm>
+#include <functional>
+#include <initializer_list>
+#include <vector>
 
+#include "catalogues/crm_kategorien.h"
+#include "catalogues/keywords.h"
+#include "catalogues/kuendigungsgruende.h"
+#include "catalogues/selection_list_values.h"
+#include "catalogues/selektionskriterien_vertrag.h"
 #include "catalogues/vertriebsstati.h"
+#include "catalogues/vt_status_grund.h"
 #include "definitions/definitions.h"
 #include "dialog/frm_dialog.h"
 #include "frontend/bas_basis.h"
@@ -19,22 +28,45 @@ class ShowSteps {
  public:
   ShowSteps(ORBDialog& dialog, VariantArray& param) : dialog_(dialog), param_(param) {}
 
-  /// A catalogue that takes Connection, Multiselect and a key, gives the key back, and reports picks to the
-  /// host.
+  /// A catalogue that reports its picks to the host.
   template <class Form>
   Variant catalogue() {
-    ResumeNext step;
-    std::unique_ptr<Form> form;
-    Variant returned;
-    step([&] { form = std::make_unique<Form>(); });
-    step([&] { form->DblClick = [this](const Variant& Result) { reported(Result); }; });
-    step([&] { form->Connection = dialog_.Connection(); });
-    step([&] { form->Multiselect = dialog_.Multiselect(); });
-    step([&] { form->SelectedKey = param_.at(0); });
-    step([&] { form->ShowData(); });
-    step([&] { param_.at(0) = form->SelectedKey; });
-    step([&] { returned = form->SelectedKey; });
-    return returned;
+    return dedicated<Form>(
+        [this](ResumeNext& step, Form& form) {
+          step([&] { form.DblClick = [this](const Variant& Result) { reported(Result); }; });
+          takesHost(step, form);
+        },
+        {&Form::SelectedKey}, 1);
+  }
+
+  /// GrundArt is 1 for reasons of customers, 2 for those of contracts. Nobody hears of picks.
+  template <std::int16_t GrundArt>
+  Variant reasons() {
+    return dedicated<frmKuendigungsgruende>(
+        [this](ResumeNext& step, frmKuendigungsgruende& form) {
+          takesHost(step, form);
+          step([&] { form.GrundArt = GrundArt; });
+        },
+        {&frmKuendigungsgruende::SelectedKey}, 1);
+  }
+
+  Variant selectionListValues() {
+    using Form = frmSelectionListValues;
+    return dedicated<Form>([this](ResumeNext& step, Form& form) { takesHost(step, form); },
+                           {&Form::SelectedKey, &Form::ReferenceType, &Form::FieldID, &Form::FormCaption}, 4);
+  }
+
+  /// The section does not come back.
+  Variant keywords() {
+    using Form = frmKeywords;
+    return dedicated<Form>([this](ResumeNext& step, Form& form) { takesHost(step, form); },
+                           {&Form::SelectedKey, &Form::Section}, 1);
+  }
+
+  /// Neither Connection nor Multiselect: there is nothing to read and nothing to pick.
+  Variant statusReason() {
+    return dedicated<frmVTStatusGrund>([](ResumeNext&, frmVTStatusGrund&) {},
+                                       {&frmVTStatusGrund::SelectedKey}, 1);
   }
 
   /// The quantity split: what was divided is the result.
@@ -72,6 +104,28 @@ class ShowSteps {
   }
 
  private:
+  /// The road of every form of its own: `setFirst` sets what the kind needs; element i of Param goes into
+  /// member i, and the first `comeBack` members go back; member 0 is what Show returns. An element that is
+  /// not there leaves its member Empty.
+  template <class Form>
+  Variant dedicated(const std::function<void(ResumeNext&, Form&)>& setFirst,
+                    std::initializer_list<Variant Form::*> members, std::size_t comeBack) {
+    ResumeNext step;
+    Form form;
+    setFirst(step, form);
+    const std::vector<Variant Form::*> member(members);
+    for (std::size_t i = 0; i < member.size(); ++i) step([&] { form.*member[i] = param_.at(i); });
+    step([&] { form.ShowData(); });
+    for (std::size_t i = 0; i < comeBack; ++i) step([&] { param_.at(i) = form.*member[i]; });
+    return form.*member.front();
+  }
+
+  template <class Form>
+  void takesHost(ResumeNext& step, Form& form) {
+    step([&] { form.Connection = dialog_.Connection(); });
+    step([&] { form.Multiselect = dialog_.Multiselect(); });
+  }
+
   void reported(const Variant& Result) {
     ResumeNext step;
     step([&] { dialog_.Result(Result); });
@@ -98,7 +152,14 @@ std::unique_ptr<Form> make() {
 
 constexpr Dispatch dispatch[] = {
     {21, &ShowSteps::catalogue<frmVertriebsstati>, make<frmVertriebsstati>},
+    {25, &ShowSteps::catalogue<frmCRMKategorien>, make<frmCRMKategorien>},
+    {26, &ShowSteps::catalogue<frmSelektionskriterienVertrag>, make<frmSelektionskriterienVertrag>},
+    {28, &ShowSteps::selectionListValues, make<frmSelectionListValues>},
+    {32, &ShowSteps::reasons<1>, make<frmKuendigungsgruende>},
+    {33, &ShowSteps::reasons<2>, make<frmKuendigungsgruende>},
     {34, &ShowSteps::quantitySplit, make<frmAufteilungSNCH>},
+    {35, &ShowSteps::keywords, make<frmKeywords>},
+    {36, &ShowSteps::statusReason, make<frmVTStatusGrund>},
 };
 
 const Dispatch* findDispatch(std::int32_t kind) noexcept {

@@ -23,7 +23,9 @@ class Show : public DialogTest {
   }
 
   bool allowed(std::int32_t kind) {
-    show(kind, {u"10"});
+    show(kind, {u"10"}, [this] {
+      if (Control* button = headless::cancelButton(form())) desktop.click(*button);
+    });
     return basBasis::bAllowChanges;
   }
   void setting(StringView key, StringView value, std::int32_t scope = zqnSaveAsGlobalSetting) {

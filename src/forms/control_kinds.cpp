@@ -8,6 +8,7 @@
 #include "forms/command_button.h"
 #include "forms/flex_grid.h"
 #include "forms/frame.h"
+#include "forms/image_list.h"
 #include "forms/label.h"
 #include "forms/picture_box.h"
 #include "forms/tdb_date.h"
@@ -37,6 +38,7 @@ constexpr Kind kinds[] = {
     {ControlKind::ComboBox, u"ComboBox", make<ComboBox>},
     {ControlKind::CommandButton, u"CommandButton", make<CommandButton>},
     {ControlKind::Frame, u"Frame", make<Frame>},
+    {ControlKind::ImageList, u"ImageList", make<ImageList>},
     {ControlKind::Label, u"Label", make<Label>},
     {ControlKind::MSFlexGrid, u"MSFlexGrid", make<MSFlexGrid>},
     {ControlKind::MSHFlexGrid, u"MSHFlexGrid", make<MSHFlexGrid>},

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A small picture without a toolkit: filled outlines in a frame of so many pixels at 96 dpi. A toolkit draws
-// it as fine as its screen is.
+// A small picture without a toolkit: filled outlines in a frame of so many pixels at 96 dpi, which a toolkit
+// draws as fine as its screen is; or the bytes of a GIF file.
 //
 //     constexpr PicturePoint arrow[] = {{4, 2}, {10, 7}, {4, 12}};
 //     constexpr PictureShape shapes[] = {{0x000000, arrow}};
@@ -32,6 +32,8 @@ struct Picture {
   int width, height;
   /// Drawn in this order, the last on top.
   std::span<const PictureShape> shapes;
+  /// A GIF file, drawn instead of shapes when there is one.
+  std::span<const unsigned char> gif = {};
 };
 
 }  // namespace zqn

@@ -23,6 +23,7 @@ enum class ControlKind {
   ComboBox,
   CommandButton,
   Frame,
+  ImageList,
   Label,
   MSFlexGrid,
   MSHFlexGrid,

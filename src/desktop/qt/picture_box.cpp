@@ -29,6 +29,8 @@ void drawPicture(QPainter& painter, QPoint place, const zqn::Picture& picture, c
   painter.setPen(Qt::NoPen);
   painter.translate(place);
   painter.scale(widget.logicalDpiX() / standardDpi, widget.logicalDpiY() / standardDpi);
+  painter.drawImage(QRect(0, 0, picture.width, picture.height),
+                    QImage::fromData(picture.gif.data(), static_cast<int>(picture.gif.size()), "GIF"));
   for (const PictureShape& shape : picture.shapes) {
     QPolygonF outline;
     for (const PicturePoint& point : shape.outline) outline << QPointF(point.x, point.y);

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "frontend/enumerations.h"
 #include "frontend/orb_dialog.h"
 #include "runtime/convert.h"
 

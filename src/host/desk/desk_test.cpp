@@ -100,11 +100,14 @@ TEST_F(List, ShowsTheOfferedKindsAndNoOthers) {
 
 TEST_F(List, IsNarrowedByTitleNumberFormAndTable) {
   for (const char* typed :
-       {"stati", "21", "frmVertriebsstati", "vertrieb stati", "zqnCommonDialogVertriebsStati"}) {
+       {"vertriebsstati 21", "21", "frmVertriebsstati", "zqnCommonDialogVertriebsStati"}) {
     search().setText(typed);
     EXPECT_EQ(visibleDialogs(tree()), QStringList("Vertriebsstati")) << typed;
     EXPECT_EQ(kind(), 21) << typed;
   }
+  // A table is found with every dialog that uses it.
+  search().setText("stati");
+  EXPECT_EQ(visibleDialogs(tree()), QStringList({"Vertriebsstati", "CRM-Kategorien"}));
 }
 
 TEST_F(List, OffersThePaymentTypesOnTheGenericFormToo) {

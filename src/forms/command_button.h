@@ -6,6 +6,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/picture.h"
 
 namespace zqn {
 
@@ -15,6 +16,9 @@ class CommandButton : public Control {
 
   const String& Caption() const noexcept { return caption_; }
   void Caption(StringView caption);
+  /// Shown in the middle, for a button without a caption; nullptr for none. The picture must outlive the button.
+  const zqn::Picture* Picture() const noexcept { return picture_; }
+  void Picture(const zqn::Picture* picture);
   bool Cancel() const noexcept { return cancel_; }
   bool Default() const noexcept { return default_; }
 
@@ -27,6 +31,7 @@ class CommandButton : public Control {
  private:
   String caption_;
   bool cancel_, default_;
+  const zqn::Picture* picture_ = nullptr;
 };
 
 }  // namespace zqn

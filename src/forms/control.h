@@ -29,6 +29,9 @@ struct PropertyEntry {
   void (*set)(Control&, const Variant&);
 };
 
+/// How the focus came to a control.
+enum class FocusCause { Code, Tab, Mouse };
+
 /// 32-bit colours; with the top bit set it is a system colour.
 namespace colour {
 constexpr std::uint32_t ButtonFace = 0x8000000F;
@@ -76,6 +79,8 @@ class Control : public EventOwner {
   void Enabled(bool enabled);
   bool TabStop() const noexcept { return tabStop_; }
   void TabStop(bool tabStop);
+  /// Tab comes by here.
+  virtual bool isTabStop() const { return tabStop_; }
   int TabIndex() const noexcept { return tabIndex_; }
   bool CausesValidation() const noexcept { return causesValidation_; }
   void CausesValidation(bool causes) { causesValidation_ = causes; }
@@ -92,6 +97,8 @@ class Control : public EventOwner {
   bool isUsable() const noexcept;
   /// The kind takes the focus at all; a label and a frame never do.
   virtual bool takesFocus() const noexcept { return true; }
+  /// The kind stands somewhere on the form; a timer and a menu do not.
+  virtual bool isDrawn() const noexcept { return true; }
 
   /// Moves the focus here: LostFocus of the old control, GotFocus of this one, no Validate. Nothing when it
   /// has the focus already. Error 5 when the form is not shown or the control cannot be used.
@@ -125,6 +132,8 @@ class Control : public EventOwner {
   /// The focus has come here, or has left: what the kind itself does, before GotFocus and LostFocus.
   virtual void focusEntered() {}
   virtual void focusLeft() {}
+  /// The focus has come here and GotFocus is over.
+  virtual void focusSettled(FocusCause) {}
 
   // ---- for automation
 

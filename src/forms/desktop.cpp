@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "forms/desktop.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "forms/form.h"
+#include "forms/menu.h"
 #include "forms/names.h"
+#include "forms/timer.h"
 #include "runtime/convert.h"
 
 namespace zqn {
@@ -51,18 +54,19 @@ class OpenForm {
   std::vector<Form*>& forms_;
 };
 
-/// The message box that waits for an answer; boxes nest.
-class OpenBox {
+/// The message box or the menu that is open; they nest.
+template <class Opened>
+class Open {
  public:
-  OpenBox(const MessageBox*& current, const MessageBox& box)
-      : current_(current), outer_(std::exchange(current, &box)) {}
-  ~OpenBox() { current_ = outer_; }
-  OpenBox(const OpenBox&) = delete;
-  OpenBox& operator=(const OpenBox&) = delete;
+  Open(const Opened*& current, const Opened& opened)
+      : current_(current), outer_(std::exchange(current, &opened)) {}
+  ~Open() { current_ = outer_; }
+  Open(const Open&) = delete;
+  Open& operator=(const Open&) = delete;
 
  private:
-  const MessageBox*& current_;
-  const MessageBox* outer_;
+  const Opened*& current_;
+  const Opened* outer_;
 };
 
 }  // namespace
@@ -96,9 +100,19 @@ void Desktop::showModal(Form& form) {
 
 MsgBoxResult Desktop::messageBox(const MessageBox& box) {
   ++boxCount_;
-  const OpenBox open(box_, box);
+  const Open open(box_, box);
   for (DesktopListener* listener : listeners_) listener->messageBoxOpened(box);
   return runMessageBox(box);
+}
+
+void Desktop::popupMenu(Menu& menu) {
+  Menu* taken = nullptr;
+  {
+    const Open open(popup_, menu);
+    for (DesktopListener* listener : listeners_) listener->popupMenuOpened(menu);
+    taken = runPopupMenu(menu);
+  }
+  if (taken != nullptr) taken->clicked();
 }
 
 void Desktop::runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure) {
@@ -132,9 +146,47 @@ void Desktop::sendKeys(StringView keys) {
 }
 
 bool Desktop::nextQueuedKey(KeyStroke& stroke) {
-  if (queue_.empty() || box_ != nullptr) return false;
+  if (queue_.empty() || box_ != nullptr || popup_ != nullptr) return false;
   stroke = queue_.front();
   queue_.pop_front();
+  return true;
+}
+
+void Desktop::hourglass(bool shown) {
+  if (std::exchange(hourglass_, shown) != shown) pointerChanged();
+}
+
+// ---- timers
+
+std::chrono::milliseconds Desktop::now() const {
+  using namespace std::chrono;
+  return clock_ ? clock_() : duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
+}
+
+Timer* Desktop::nextTimer() {
+  const std::chrono::milliseconds present = now();
+  Timer* next = nullptr;
+  for (Form* form : forms_) {
+    if (!form->Visible()) continue;
+    for (const auto& control : form->controls()) {
+      auto* timer = dynamic_cast<Timer*>(control.get());
+      if (timer == nullptr || !timer->due(present)) continue;
+      if (next == nullptr || *timer->due(present) < *next->due(present)) next = timer;
+    }
+  }
+  return next;
+}
+
+std::optional<std::chrono::milliseconds> Desktop::timeToTick() {
+  Timer* const timer = nextTimer();
+  if (timer == nullptr) return std::nullopt;
+  return std::max(*timer->due(now()) - now(), std::chrono::milliseconds(0));
+}
+
+bool Desktop::tickTimer() {
+  Timer* const timer = nextTimer();
+  if (timer == nullptr || *timer->due(now()) > now()) return false;
+  timer->tick(now());
   return true;
 }
 

@@ -10,8 +10,10 @@
 //     dialog.Show(21, param);
 #pragma once
 
+#include <chrono>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "forms/keys.h"
@@ -23,6 +25,8 @@ namespace zqn {
 
 class Form;
 class Control;
+class Menu;
+class Timer;
 
 /// The window of one form. Calls come while the form is attached to it; each is cheap and may come for
 /// several changes in a row.
@@ -44,6 +48,7 @@ class DesktopListener {
   virtual void formShown(Form&) {}
   virtual void formClosed(Form&) {}
   virtual void messageBoxOpened(const MessageBox&) {}
+  virtual void popupMenuOpened(const Menu&) {}
   /// A run-time error left an event procedure ("btnDelete_Click"). True: it is dealt with, no box tells the
   /// person.
   virtual bool runtimeErrorRaised(Form&, StringView /*procedure*/, const RuntimeError&) { return false; }
@@ -74,12 +79,17 @@ class Desktop {
   void showModal(Form& form);
   /// Opens a message box and returns the answer.
   MsgBoxResult messageBox(const MessageBox& box);
+  /// Opens a menu at the pointer, and returns when it is closed and Click of the item taken has run.
+  void popupMenu(Menu& menu);
   /// A run-time error left an event procedure: the person is told its number and words, the form stays.
   void runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure);
   /// Queues keys, written as "{Tab}" or characters; they are pressed after the running handler has come back
   /// to the modal loop, and dropped when the last form closes. Error 5 for a name that is no key; then
   /// nothing is queued.
   void sendKeys(StringView keys);
+  /// The mouse pointer over all windows: the hourglass while something takes long, else each window's own.
+  void hourglass(bool shown);
+  bool isHourglass() const noexcept { return hourglass_; }
   virtual void copyToClipboard(StringView text) = 0;
   virtual String clipboardText() const = 0;
   virtual double TwipsPerPixelX() const { return 15; }
@@ -92,10 +102,14 @@ class Desktop {
   /// Called whenever a modal loop, of a form or of a message box, has nothing left to do. Each call may do
   /// one thing.
   void whenIdle(std::function<void()> step) { idle_ = std::move(step); }
+  /// What the timers of forms go by; the system's time unless set.
+  void clock(std::function<std::chrono::milliseconds()> now) { clock_ = std::move(now); }
   /// The form that a person can act on; nullptr when none is open.
   Form* activeForm() const noexcept { return forms_.empty() ? nullptr : forms_.back(); }
   /// The message box that waits for an answer; nullptr when none is open.
   const MessageBox* openMessageBox() const noexcept { return box_; }
+  /// The menu that is open; nullptr when none is.
+  const Menu* openPopupMenu() const noexcept { return popup_; }
   /// How many message boxes have been opened since the desktop began, run-time errors that a listener dealt
   /// with included: a form compares it to see that one came up meanwhile.
   int messageBoxCount() const noexcept { return boxCount_; }
@@ -110,22 +124,37 @@ class Desktop {
   virtual void runLoop(const std::function<bool()>& done) = 0;
   /// Shows a box and waits; an implementation may run runLoop.
   virtual MsgBoxResult runMessageBox(const MessageBox& box) = 0;
+  /// Shows a menu and waits; the item that was taken, nullptr for none.
+  virtual Menu* runPopupMenu(Menu& menu) = 0;
+  /// The mouse pointer has become another one.
+  virtual void pointerChanged() {}
 
   /// Takes the next queued key; False when there is none, and while a message box is open: the keys wait for
   /// the form.
   bool nextQueuedKey(KeyStroke& stroke);
+  /// Lets a timer that is due tick; False when none is. A loop asks when no key is queued.
+  bool tickTimer();
+  /// How long until the next timer is due; nullopt when none runs.
+  std::optional<std::chrono::milliseconds> timeToTick();
   bool hasIdleStep() const noexcept { return static_cast<bool>(idle_); }
   void idleStep() {
     if (idle_) idle_();
   }
 
  private:
+  std::chrono::milliseconds now() const;
+  /// The timer of the open forms that is due next.
+  Timer* nextTimer();
+
   std::vector<DesktopListener*> listeners_;
   std::function<void()> idle_;
   std::vector<Form*> forms_;
   std::deque<KeyStroke> queue_;
+  std::function<std::chrono::milliseconds()> clock_;
   const MessageBox* box_ = nullptr;
+  const Menu* popup_ = nullptr;
   int boxCount_ = 0;
+  bool hourglass_ = false;
 };
 
 }  // namespace zqn

@@ -7,6 +7,7 @@
 #include "forms/command_button.h"
 #include "forms/control_kinds.h"
 #include "forms/desktop.h"
+#include "forms/menu.h"
 #include "forms/names.h"
 #include "runtime/convert.h"
 
@@ -91,6 +92,8 @@ void Form::Show() {
 
 void Form::UnloadMe() { unload(UnloadMode::Code); }
 
+void Form::PopupMenu(Menu& menu) { Desktop::current().popupMenu(menu); }
+
 void Form::unload(UnloadMode mode) {
   if (!loaded_) return;
   int cancel = 0;
@@ -119,7 +122,7 @@ Control* Form::nextInTabOrder(const Control* from, bool backward) const {
   for (int i = 0; i < count; ++i) {
     position = (position + (backward ? count - 1 : 1)) % count;
     Control& candidate = *controls_[static_cast<std::size_t>(position)];
-    if (&candidate != from && candidate.takesFocus() && candidate.TabStop() && candidate.isUsable())
+    if (&candidate != from && candidate.takesFocus() && candidate.isTabStop() && candidate.isUsable())
       return &candidate;
   }
   return nullptr;
@@ -143,6 +146,7 @@ bool Form::moveFocus(Control& target, FocusCause cause) {
     entered_ = &target;
     target.focusEntered();
     target.GotFocus.raise();
+    if (active_ == &target) target.focusSettled(cause);
   }
   return active_ == &target;
 }
@@ -189,11 +193,28 @@ bool Form::pressesButton(const KeyStroke& stroke) {
   return true;
 }
 
+bool Form::pressesAccessKey(const KeyStroke& stroke) {
+  if (stroke.shift != shift::Alt || stroke.code == 0) return false;
+  for (const auto& control : controls_) {
+    const bool hasCaption = control->kind() == ControlKind::CommandButton ||
+                            control->kind() == ControlKind::CheckBox ||
+                            control->kind() == ControlKind::OptionButton;
+    if (!hasCaption || !control->isUsable() || accessKey(control->content()) != stroke.code) continue;
+    if (moveFocus(*control, FocusCause::Tab)) control->clicked();
+    return true;
+  }
+  return false;
+}
+
 KeyOutcome Form::keyPressed(KeyStroke stroke) {
   KeyOutcome outcome{false, stroke};
   if (!visible_) return outcome;
   silentKey_ = 0;
   if (active_ != nullptr && active_->takesKeyFirst(stroke)) {
+    silentKey_ = stroke.code;
+    return outcome;
+  }
+  if (pressesAccessKey(stroke)) {
     silentKey_ = stroke.code;
     return outcome;
   }

@@ -25,6 +25,7 @@ namespace zqn {
 
 class FormView;
 class CommandButton;
+class Menu;
 
 /// What a press of a key has come to, for the desktop that reported it.
 struct KeyOutcome {
@@ -34,7 +35,6 @@ struct KeyOutcome {
   KeyStroke stroke;
 };
 
-enum class FocusCause { Code, Tab, Mouse };
 enum class UnloadMode { CloseBox = 0, Code = 1 };
 
 class Form : public EventOwner {
@@ -89,6 +89,9 @@ class Form : public EventOwner {
   /// Unload Me: QueryUnload, then Unload; either may refuse. Nothing when it is not loaded.
   void UnloadMe();
   bool isLoaded() const noexcept { return loaded_; }
+  /// Opens a menu of this form at the pointer and returns when it is closed; Click of the item that was taken
+  /// has run by then.
+  void PopupMenu(Menu& menu);
 
   // ---- events
 
@@ -142,6 +145,7 @@ class Form : public EventOwner {
   void leaveUnusable();
   CommandButton* buttonFor(int code) const;
   bool pressesButton(const KeyStroke& stroke);
+  bool pressesAccessKey(const KeyStroke& stroke);
 
   String name_;
   String caption_;

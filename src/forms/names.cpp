@@ -11,6 +11,15 @@ bool sameName(StringView left, StringView right) noexcept {
   return std::ranges::equal(left, right, {}, upperUnit, upperUnit);
 }
 
+char16_t accessKey(StringView caption) noexcept {
+  for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != u'&') continue;
+    if (caption[i + 1] != u'&') return upperUnit(caption[i + 1]);
+    ++i;
+  }
+  return u'\0';
+}
+
 ControlName splitName(StringView fullName) noexcept {
   const auto open = fullName.find(u'(');
   if (open == StringView::npos || fullName.back() != u')') return {fullName};

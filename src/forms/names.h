@@ -17,6 +17,10 @@ struct ControlName {
   int index = -1;
 };
 
+/// The letter behind the first "&" of a caption, in capitals: Alt with it leads there. 0 for none; "&&"
+/// stands for the character itself.
+char16_t accessKey(StringView caption) noexcept;
+
 /// Takes "Label1(0)" apart. A text without a well-formed index is a name as a whole.
 ControlName splitName(StringView fullName) noexcept;
 

@@ -22,16 +22,22 @@ enum class ControlKind {
   CheckBox,
   ComboBox,
   CommandButton,
+  DateInput,
   Frame,
   ImageList,
   Label,
+  ListBox,
+  Menu,
   MSFlexGrid,
   MSHFlexGrid,
+  OptionButton,
   PictureBox,
+  Shape,
   TDBDate,
   TDBList,
   TDBNumber,
   TextBox,
+  Timer,
   ToggleButton,
   zqCombo
 };
@@ -71,6 +77,12 @@ struct OtherDesign {
   const char16_t* ToolTipText = u"";
   /// Name of the control that it stands in; its place is then relative to that one. Empty: the form.
   const char16_t* Container = u"";
+  /// Is chosen when the form comes up. OptionButton.
+  bool Value = false;
+  /// Can be read and copied, not edited. TextBox.
+  bool Locked = false;
+  /// Milliseconds between two ticks; 0 is off. Timer.
+  int Interval = 0;
 };
 
 struct ControlDesign {

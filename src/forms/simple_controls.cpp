@@ -3,8 +3,10 @@
 
 #include "forms/check_box.h"
 #include "forms/command_button.h"
+#include "forms/form.h"
 #include "forms/frame.h"
 #include "forms/label.h"
+#include "forms/menu.h"
 #include "runtime/convert.h"
 
 namespace zqn {
@@ -57,6 +59,28 @@ const PropertyEntry* Frame::findProperty(StringView name) const {
   return entry != nullptr ? entry : Control::findProperty(name);
 }
 
+// ---- Menu
+
+Menu::Menu(Form& form, const ControlDesign& design, int tabIndex)
+    : Control(form, design, tabIndex), caption_(design.text) {}
+
+void Menu::Caption(StringView caption) { caption_ = caption; }
+
+std::vector<Menu*> Menu::items() const {
+  std::vector<Menu*> found;
+  for (const auto& each : form().controls()) {
+    auto* item = dynamic_cast<Menu*>(each.get());
+    if (item != nullptr && item->container() == this && item->Visible()) found.push_back(item);
+  }
+  return found;
+}
+
+const PropertyEntry* Menu::findProperty(StringView name) const {
+  static constexpr PropertyEntry entries[] = {captionEntry<Menu>};
+  const PropertyEntry* entry = findIn(entries, name);
+  return entry != nullptr ? entry : Control::findProperty(name);
+}
+
 // ---- CommandButton
 
 CommandButton::CommandButton(Form& form, const ControlDesign& design, int tabIndex)
@@ -70,6 +94,11 @@ CommandButton::CommandButton(Form& form, const ControlDesign& design, int tabInd
 void CommandButton::Caption(StringView caption) {
   if (caption_ == caption) return;
   caption_ = caption;
+  changed();
+}
+
+void CommandButton::Picture(const zqn::Picture* picture) {
+  picture_ = picture;
   changed();
 }
 

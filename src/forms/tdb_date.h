@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: MIT
 //
-// A field for one day, "dd.mm.yyyy". A person types digits and points, or digits alone (two-digit years and a
-// missing year are completed), takes today with F2, empties it with F3, or picks from the calendar, which F4
-// opens in a window. Empty and without the focus it shows the mask "__.__.____"; it is Null then.
+// A field for one day as a Date. Empty and without the focus it shows the mask "__.__.____"; it is Null then.
 //
 //     tdbdValidOf.Value(Today());
 //
 // Value follows each key; a text that is no day leaves it as it was before.
 #pragma once
 
-#include "forms/value_entry.h"
+#include "forms/day_entry.h"
 
 namespace zqn {
 
-class TDBDate : public ValueEntry {
+class TDBDate : public DayEntry {
  public:
   TDBDate(Form& form, const ControlDesign& design, int tabIndex);
-
-  /// The text that stands in the control in front of the date: "Gültig von:".
-  const String& Caption() const noexcept { return caption_; }
 
   /// A Date without time, or Null.
   using ValueEntry::Value;
@@ -26,24 +21,12 @@ class TDBDate : public ValueEntry {
   /// Errors 13, 6.
   void Value(const Variant& value);
 
-  /// What stands in the field while it is empty and without the focus.
-  static constexpr StringView emptyMask = u"__.__.____";
-
-  // ---- for toolkits
-
-  /// A person picks a day, or none with Null: by key, or from a calendar. Raises what typing raises.
-  void userChose(const Variant& day);
-  bool accepts(StringView text) const override;
-  bool ownKey(const KeyStroke& stroke) override;
+  Variant day() const override { return Value(); }
 
  protected:
+  Variant valueOf(const Variant& day) const override { return day; }
   String displayText() const override;
-  String editText() const override;
-  std::optional<Variant> read(StringView typed) const override;
   const PropertyEntry* findProperty(StringView name) const override;
-
- private:
-  String caption_;
 };
 
 }  // namespace zqn

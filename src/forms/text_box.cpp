@@ -104,6 +104,7 @@ const PropertyEntry* TextBox::findProperty(StringView name) const {
        nullptr},
       {u"MultiLine", [](const Control& c) { return Variant(static_cast<const TextBox&>(c).MultiLine()); },
        nullptr},
+      {u"Locked", [](const Control& c) { return Variant(static_cast<const TextBox&>(c).Locked()); }, nullptr},
   };
   const PropertyEntry* entry = findIn(entries, name);
   return entry != nullptr ? entry : TextEntry::findProperty(name);

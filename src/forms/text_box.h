@@ -29,8 +29,12 @@ class TextBox : public TextEntry {
   /// Takes several lines. Enter, where no event has taken it away, and Ctrl+Enter begin a new one.
   bool MultiLine() const noexcept { return design().other.MultiLine; }
 
+  /// A person can mark and copy, not edit; code assigns as ever.
+  bool Locked() const noexcept { return design().other.Locked; }
+
   // ---- for toolkits
 
+  bool isReadOnly() const noexcept override { return Locked(); }
   String pastedAs(StringView text) const override;
   bool ownKey(const KeyStroke& stroke) override;
 

@@ -74,7 +74,7 @@ void TextEntry::SelLength(int length) {
 
 void TextEntry::userEdited(StringView text, int selStart, int selLength) {
   const bool differs = text_ != text;
-  if (differs && !accepts(text)) return changed();
+  if (differs && (isReadOnly() || !accepts(text))) return changed();
   text_ = text;
   userSelected(selStart, selLength);
   if (!differs) return;

@@ -39,6 +39,8 @@ class TextEntry : public Control {
   int lengthLimit() const noexcept { return lengthLimit_; }
   /// A person's edit may lead to this text; one that does not changes nothing.
   virtual bool accepts(StringView) const { return true; }
+  /// A person can mark and copy, not edit.
+  virtual bool isReadOnly() const noexcept { return false; }
   /// What a typed character stands for in this field.
   virtual char16_t typedAs(char16_t character) const { return character; }
   /// What of a pasted text goes in: of several lines the words, blanks between them.

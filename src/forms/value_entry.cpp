@@ -27,9 +27,12 @@ void ValueEntry::assignValue(Variant value) {
 }
 
 void ValueEntry::edited() {
-  if (showing_) return;
+  if (!showing_) took(read(Text()));
+}
+
+void ValueEntry::took(const std::optional<Variant>& typed) {
   const Variant before = value_;
-  value_ = read(Text()).value_or(settled_);
+  value_ = typed.value_or(settled_);
   const bool differs = value_ != before;
   Change.raise();
   if (differs) ValueChange.raise();

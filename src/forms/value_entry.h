@@ -8,6 +8,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "forms/text_entry.h"
 
@@ -39,6 +40,11 @@ class ValueEntry : public TextEntry {
   /// Code assigns the value: it is shown, and ValueChange comes when it differs.
   void assignValue(Variant value);
   void edited() override;
+  /// A person has typed: what it stands for, nullopt while it is no value. Raises Change, and ValueChange
+  /// when the value differs.
+  virtual void took(const std::optional<Variant>& typed);
+  /// Takes the value without showing it.
+  void setValue(Variant value) { value_ = std::move(value); }
   /// Shows the value anew. A constructor calls it once the format is known.
   void showValue();
 

@@ -7,6 +7,7 @@
 
 #include "forms/command_button.h"
 #include "forms/form.h"
+#include "forms/menu.h"
 #include "runtime/convert.h"
 
 namespace zqn::headless {
@@ -25,6 +26,10 @@ Control* cancelButton(const Form& form) {
 void HeadlessDesktop::press(const KeyStroke& stroke) {
   Form* form = activeForm();
   if (form == nullptr || openMessageBox() != nullptr) return;
+  if (openPopupMenu() != nullptr) {
+    if (stroke.code == key::Escape) take(nullptr);
+    return;
+  }
   down_ = stroke;
   const KeyOutcome outcome = form->keyPressed(stroke);
   if (outcome.own) form->ActiveControl()->ownKey(outcome.stroke);
@@ -38,7 +43,7 @@ void HeadlessDesktop::release() {
 }
 
 void HeadlessDesktop::click(Control& control) {
-  if (openMessageBox() != nullptr || &control.form() != activeForm()) return;
+  if (openMessageBox() != nullptr || openPopupMenu() != nullptr || &control.form() != activeForm()) return;
   if (control.form().mousePressed(control)) control.form().mouseReleased(control);
 }
 
@@ -48,6 +53,14 @@ bool HeadlessDesktop::answer(MsgBoxResult result) {
   const auto buttons = box->buttons();
   if (std::ranges::find(buttons, result) == buttons.end()) return false;
   answer_ = result;
+  return true;
+}
+
+bool HeadlessDesktop::take(Menu* item) {
+  if (openPopupMenu() == nullptr) return false;
+  const std::vector<Menu*> items = openPopupMenu()->items();
+  if (item != nullptr && (std::ranges::find(items, item) == items.end() || !item->Enabled())) return false;
+  taken_ = item;
   return true;
 }
 
@@ -63,6 +76,8 @@ void HeadlessDesktop::runLoop(const std::function<bool()>& done) {
     KeyStroke stroke;
     if (nextQueuedKey(stroke)) {
       press(stroke);
+    } else if (tickTimer()) {
+      continue;
     } else if (hasIdleStep()) {
       idleStep();
     } else {
@@ -76,6 +91,13 @@ MsgBoxResult HeadlessDesktop::runMessageBox(const MessageBox& box) {
   if (!hasIdleStep()) answer(box.buttons()[static_cast<std::size_t>(box.defaultButton() - 1)]);
   runLoop([this] { return answer_.has_value(); });
   return *std::exchange(answer_, outer);
+}
+
+Menu* HeadlessDesktop::runPopupMenu(Menu&) {
+  const std::optional<Menu*> outer = std::exchange(taken_, std::nullopt);
+  if (!hasIdleStep()) take(nullptr);
+  runLoop([this] { return taken_.has_value(); });
+  return *std::exchange(taken_, outer);
 }
 
 void HeadlessDesktop::leaveAlone() {

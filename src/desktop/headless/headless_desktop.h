@@ -34,6 +34,9 @@ class HeadlessDesktop : public Desktop {
   void click(Control& control);
   /// Answers the open message box; false when none is open or it lacks the button.
   bool answer(MsgBoxResult result);
+  /// Takes an item of the open menu, or none with nullptr; False when none is open, or it lacks the item, or
+  /// the item is disabled. Esc takes none, too.
+  bool take(Menu* item);
 
   void copyToClipboard(StringView text) override { clipboard_ = text; }
   String clipboardText() const override { return clipboard_; }
@@ -43,6 +46,7 @@ class HeadlessDesktop : public Desktop {
   void closeWindow(Form&) override {}
   void runLoop(const std::function<bool()>& done) override;
   MsgBoxResult runMessageBox(const MessageBox& box) override;
+  Menu* runPopupMenu(Menu& menu) override;
 
  private:
   void release();
@@ -50,6 +54,7 @@ class HeadlessDesktop : public Desktop {
 
   String clipboard_;
   std::optional<MsgBoxResult> answer_;
+  std::optional<Menu*> taken_;
   /// The key that is down.
   std::optional<KeyStroke> down_;
 };

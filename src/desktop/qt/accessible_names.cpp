@@ -5,9 +5,9 @@
 #include <limits>
 
 #include "desktop/qt/text.h"
+#include "forms/day_entry.h"
 #include "forms/form.h"
 #include "forms/label.h"
-#include "forms/tdb_date.h"
 
 namespace zqn::qt {
 
@@ -87,7 +87,7 @@ QString nameOfNumber(const Control& number) {
 QString nameByWords(const Control& control) {
   switch (control.kind()) {
     case ControlKind::TDBDate:
-      return toQt(static_cast<const TDBDate&>(control).Caption());
+      return toQt(static_cast<const DayEntry&>(control).Caption());
     case ControlKind::TDBNumber:
       return nameOfNumber(control);
     default:
@@ -97,7 +97,8 @@ QString nameByWords(const Control& control) {
 
 bool saysWhatItIs(ControlKind kind) {
   using enum ControlKind;
-  return kind == Label || kind == CommandButton || kind == CheckBox || kind == ToggleButton || kind == Frame;
+  return kind == Label || kind == CommandButton || kind == CheckBox || kind == ToggleButton ||
+         kind == Frame || kind == OptionButton;
 }
 
 }  // namespace
@@ -105,7 +106,9 @@ bool saysWhatItIs(ControlKind kind) {
 QString accessibleNameOf(const Control& control) {
   const bool saysItself = saysWhatItIs(control.kind()) && !control.content().empty();
   const QString words = saysItself ? toQt(control.content()) : nameByWords(control);
-  const QString name = withoutAccessKey(words).simplified();
+  QString name = withoutAccessKey(words).simplified();
+  // A button that shows a picture alone says by its tip what it does.
+  if (name.isEmpty()) name = toQt(control.ToolTipText()).simplified();
   return name.isEmpty() ? toQt(control.fullName()) : name;
 }
 

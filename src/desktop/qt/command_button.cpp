@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt/command_button.h"
 
+#include <QPainter>
+
+#include "desktop/qt/picture_box.h"
 #include "desktop/qt/text.h"
 
 namespace zqn::qt {
@@ -16,6 +19,22 @@ CommandButton::CommandButton(zqn::CommandButton& model, QWidget* parent)
 
 void CommandButton::draw() {
   if (text() != toQt(model_.Caption())) setText(toQt(model_.Caption()));
+  drawPictureOfModel();
+}
+
+void CommandButton::drawPictureOfModel() {
+  if (drawn_ == model_.Picture()) return;
+  drawn_ = model_.Picture();
+  if (drawn_ == nullptr) return setIcon({});
+  const QSize size = sizeOf(*drawn_, *this);
+  QPixmap pixels(size * devicePixelRatioF());
+  pixels.setDevicePixelRatio(devicePixelRatioF());
+  pixels.fill(Qt::transparent);
+  QPainter painter(&pixels);
+  drawPicture(painter, {}, *drawn_, *this);
+  painter.end();
+  setIconSize(size);
+  setIcon(QIcon(pixels));
 }
 
 void CommandButton::compare(Differences& found) const {

@@ -21,7 +21,10 @@ class CommandButton : public QPushButton, public ControlWidget {
   void compare(Differences& found) const override;
 
  private:
+  void drawPictureOfModel();
+
   zqn::CommandButton& model_;
+  const zqn::Picture* drawn_ = nullptr;
 };
 
 }  // namespace zqn::qt

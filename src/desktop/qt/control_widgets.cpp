@@ -7,12 +7,15 @@
 #include "desktop/qt/combo_box.h"
 #include "desktop/qt/command_button.h"
 #include "desktop/qt/flex_grid.h"
+#include "desktop/qt/day_entry.h"
+#include "desktop/qt/decoration.h"
 #include "desktop/qt/frame.h"
 #include "desktop/qt/label.h"
+#include "desktop/qt/list_box.h"
 #include "desktop/qt/list_field.h"
 #include "desktop/qt/multi_line_text_box.h"
 #include "desktop/qt/picture_box.h"
-#include "desktop/qt/tdb_date.h"
+#include "desktop/qt/option_button.h"
 #include "desktop/qt/tdb_list.h"
 #include "desktop/qt/tdb_number.h"
 #include "desktop/qt/text_box.h"
@@ -47,15 +50,21 @@ constexpr Row table[] = {
     {ControlKind::CheckBox, make<CheckBox, zqn::CheckBox>},
     {ControlKind::ComboBox, makeComboBox},
     {ControlKind::CommandButton, make<CommandButton, zqn::CommandButton>},
+    {ControlKind::DateInput, make<DayEntry, zqn::DayEntry>},
     {ControlKind::Frame, make<Frame, zqn::Frame>},
     {ControlKind::Label, make<Label, zqn::Label>},
     {ControlKind::MSFlexGrid, make<FlexGrid, zqn::FlexGrid>},
     {ControlKind::MSHFlexGrid, make<FlexGrid, zqn::FlexGrid>},
     {ControlKind::PictureBox, make<PictureBox, zqn::PictureBox>},
-    {ControlKind::TDBDate, make<TDBDate, zqn::TDBDate>},
+    {ControlKind::ListBox, make<ListBox, zqn::ListBox>},
+    {ControlKind::Menu, make<Undrawn, Control>},
+    {ControlKind::OptionButton, make<OptionButton, zqn::OptionButton>},
+    {ControlKind::Shape, make<Shape, zqn::Shape>},
+    {ControlKind::TDBDate, make<DayEntry, zqn::DayEntry>},
     {ControlKind::TDBList, make<TDBList, zqn::TDBList>},
     {ControlKind::TDBNumber, make<TDBNumber, zqn::TDBNumber>},
     {ControlKind::TextBox, makeTextBox},
+    {ControlKind::Timer, make<Undrawn, Control>},
     {ControlKind::ToggleButton, make<ToggleButton, zqn::ToggleButton>},
     {ControlKind::zqCombo, make<zqCombo, zqn::zqCombo>},
 };

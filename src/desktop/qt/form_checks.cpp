@@ -5,13 +5,14 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStyleOptionButton>
 
 #include "desktop/qt/accessible_names.h"
 #include "desktop/qt/form_window.h"
 #include "desktop/qt/label.h"
 #include "desktop/qt/text.h"
-#include "forms/tdb_date.h"
+#include "forms/day_entry.h"
 
 namespace zqn::qt {
 
@@ -30,6 +31,7 @@ class Look {
 
   std::vector<std::string> findings() {
     for (const auto& control : form_.controls()) {
+      if (!control->isDrawn()) continue;
       lookAtName(*control);
       if (!control->isShown()) continue;
       lookAtText(*control);
@@ -78,10 +80,12 @@ class Look {
   static QString lineIn(const Control& control, const QString& text) {
     switch (control.kind()) {
       case ControlKind::TDBDate:
-        return toQt(static_cast<const zqn::TDBDate&>(control).Caption()) + QStringLiteral(" 30.06.2026");
+      case ControlKind::DateInput:
+        return toQt(static_cast<const zqn::DayEntry&>(control).Caption()) + QStringLiteral(" 30.06.2026");
       case ControlKind::CheckBox:
       case ControlKind::CommandButton:
       case ControlKind::Label:
+      case ControlKind::OptionButton:
       case ControlKind::ToggleButton:
         return withoutAccessKey(text);
       default:
@@ -96,11 +100,13 @@ class Look {
       return label->wordWrap() ? whole.width() : label->room();
     if (qobject_cast<const QPushButton*>(&widget) != nullptr) return whole.width() - pixels(buttonMargins);
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return whole.width() - pixels(fieldMargins);
-    if (qobject_cast<const QCheckBox*>(&widget) == nullptr) return whole.width();
+    const bool isOption = qobject_cast<const QRadioButton*>(&widget) != nullptr;
+    if (!isOption && qobject_cast<const QCheckBox*>(&widget) == nullptr) return whole.width();
     QStyleOptionButton option;
     option.initFrom(&widget);
     option.rect = whole;
-    return widget.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &widget).width();
+    const auto words = isOption ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents;
+    return widget.style()->subElementRect(words, &option, &widget).width();
   }
 
   // ---- places

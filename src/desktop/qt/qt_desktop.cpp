@@ -4,6 +4,8 @@
 #include <QAbstractEventDispatcher>
 #include <QClipboard>
 #include <QScreen>
+#include <QTimer>
+#include <algorithm>
 #include <cassert>
 #include <utility>
 
@@ -12,6 +14,7 @@
 #include "desktop/qt/message_window.h"
 #include "desktop/qt/shield.h"
 #include "desktop/qt/text.h"
+#include "forms/menu.h"
 
 namespace zqn::qt {
 
@@ -115,6 +118,14 @@ void QtDesktop::hideClosedForms() {
   }
 }
 
+void QtDesktop::pointerChanged() {
+  if (isHourglass()) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
 // ---- loops
 
 void QtDesktop::runLoop(const std::function<bool()>& done) {
@@ -127,9 +138,14 @@ void QtDesktop::runLoop(const std::function<bool()>& done) {
     KeyStroke stroke;
     if (nextQueuedKey(stroke)) {
       pressKey(stroke);
+    } else if (!handled && tickTimer()) {
+      continue;
     } else if (!handled && hasIdleStep()) {
       idleStep();
     } else if (!handled) {
+      // Whoever waits is woken up for the next timer.
+      QTimer wake;
+      if (const auto left = timeToTick()) wake.start(std::max(*left, std::chrono::milliseconds(1)));
       events->processEvents(QEventLoop::WaitForMoreEvents);
     }
     rethrowShielded();
@@ -146,6 +162,22 @@ MsgBoxResult QtDesktop::runMessageBox(const MessageBox& box) {
   window.hide();
   activate(below);
   return *window.answer();
+}
+
+Menu* QtDesktop::runPopupMenu(Menu& menu) {
+  QMenu window(topWindow());
+  QMenu* const outer = std::exchange(menu_, &window);
+  Menu* taken = nullptr;
+  for (Menu* item : menu.items()) {
+    QAction* const action = window.addAction(toQt(item->Caption()));
+    action->setObjectName(toQt(item->fullName()));
+    action->setEnabled(item->Enabled());
+    QObject::connect(action, &QAction::triggered, &window, [&taken, item] { taken = item; });
+  }
+  window.popup(QCursor::pos());
+  runLoop([&window] { return !window.isVisible(); });
+  menu_ = outer;
+  return taken;
 }
 
 }  // namespace zqn::qt

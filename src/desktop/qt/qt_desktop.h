@@ -13,6 +13,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <map>
 #include <memory>
@@ -48,6 +49,8 @@ class QtDesktop : public Desktop {
   /// The message box that waits, and its button for an answer; nullptr when there is none.
   QMessageBox* openBox() const;
   QPushButton* boxButton(MsgBoxResult result) const;
+  /// The menu that is open; nullptr when none is.
+  QMenu* openMenu() const { return menu_; }
   /// Presses and releases a key on whatever has the focus in the topmost window.
   void pressKey(const KeyStroke& stroke);
 
@@ -56,6 +59,8 @@ class QtDesktop : public Desktop {
   void closeWindow(Form& form) override;
   void runLoop(const std::function<bool()>& done) override;
   MsgBoxResult runMessageBox(const MessageBox& box) override;
+  Menu* runPopupMenu(Menu& menu) override;
+  void pointerChanged() override;
 
  private:
   FormWindow* formWindow(const Form& form) const;
@@ -64,6 +69,7 @@ class QtDesktop : public Desktop {
 
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
   MessageWindow* box_ = nullptr;
+  QMenu* menu_ = nullptr;
 };
 
 }  // namespace zqn::qt

@@ -55,6 +55,7 @@ void TextEntry::draw() {
   if (maxLength() < longest) setMaxLength(longest);
   if (text() != wanted) setText(wanted);
   if (maxLength() != longest) setMaxLength(longest);
+  if (isReadOnly() != model_.isReadOnly()) setReadOnly(model_.isReadOnly());
   if (shownSelStart() == model_.SelStart() && shownSelLength() == model_.SelLength()) return;
   if (model_.SelLength() > 0) {
     setSelection(model_.SelStart(), model_.SelLength());

@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "desktop/qt/day_entry.h"
 #include "desktop/qt/entry_form_for_tests.h"
-#include "desktop/qt/tdb_date.h"
 #include "runtime/convert.h"
 
 namespace zqn::qt::testing {
@@ -19,7 +19,7 @@ class ValueEntries : public ::testing::Test {
   QLineEdit& field(Control& model) { return dynamic_cast<QLineEdit&>(*person.desktop.widgetOf(model)); }
   std::string shown(Control& model) { return field(model).text().toStdString(); }
   QCalendarWidget* calendar() {
-    return dynamic_cast<qt::TDBDate&>(*person.desktop.widgetOf(form.date)).calendar();
+    return dynamic_cast<qt::DayEntry&>(*person.desktop.widgetOf(form.date)).calendar();
   }
   void paste(const char* text) {
     QGuiApplication::clipboard()->setText(QString::fromUtf8(text));

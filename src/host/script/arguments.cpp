@@ -50,6 +50,17 @@ std::int32_t Arguments::wholeNumber(const std::string& name, std::int32_t otherw
   return has(name) ? wholeNumber(name) : otherwise;
 }
 
+std::vector<std::int32_t> Arguments::wholeNumbers(const std::string& name) const {
+  std::vector<std::int32_t> numbers;
+  const Json& member = any(name);
+  if (!member.is_array()) mismatch(name, "an array of whole numbers");
+  for (const Json& each : member) {
+    if (!each.is_number_integer()) mismatch(name, "an array of whole numbers");
+    numbers.push_back(each.get<std::int32_t>());
+  }
+  return numbers;
+}
+
 void Arguments::requireTrue(const std::string& name) const {
   if (any(name) != Json(true)) mismatch(name, "true");
 }

@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "host/script/json_values.h"
 
@@ -31,6 +32,8 @@ class Arguments {
   std::int32_t wholeNumber(const std::string& name, std::int32_t otherwise) const;
   /// A whole number within bounds, both included.
   std::int32_t wholeNumber(const std::string& name, std::int32_t least, std::int32_t most) const;
+  /// An array of whole numbers.
+  std::vector<std::int32_t> wholeNumbers(const std::string& name) const;
   /// The member is `true`.
   void requireTrue(const std::string& name) const;
   /// The members of an inner object, none but those allowed.

@@ -6,6 +6,7 @@
 
 #include "forms/combo_box.h"
 #include "forms/flex_grid.h"
+#include "forms/list_box.h"
 #include "forms/tdb_list.h"
 #include "forms/zq_combo.h"
 
@@ -134,19 +135,40 @@ int gridMarkedRow(const Control& control) {
 
 constexpr RowAccess gridRows{gridContents, gridHasRow, gridMarkedRow, false, nullptr};
 
+Json listBoxContents(Control& control) {
+  const auto& list = dynamic_cast<const ListBox&>(control);
+  Json rows = Json::array();
+  for (int i = 0; i < list.ListCount(); ++i) rows.push_back(Json::array({jsonText(list.List(i))}));
+  return {{"columns", Json::array()}, {"rows", std::move(rows)}, {"row", list.ListIndex()}};
+}
+
+bool listBoxHasRow(Control& control, int row) {
+  return row >= 0 && row < dynamic_cast<ListBox&>(control).ListCount();
+}
+
+int listBoxMarkedRow(const Control& control) { return dynamic_cast<const ListBox&>(control).ListIndex(); }
+
+constexpr RowAccess listBoxRows{listBoxContents, listBoxHasRow, listBoxMarkedRow, false, nullptr};
+
 constexpr ControlTraits traits[] = {
     {ControlKind::CheckBox, "caption", false, nullptr},
     {ControlKind::ComboBox, "text", true, &comboRows},
     {ControlKind::CommandButton, "caption", false, nullptr},
+    {ControlKind::DateInput, "text", true, nullptr},
     {ControlKind::Frame, "caption", false, nullptr},
     {ControlKind::Label, "caption", false, nullptr},
     {ControlKind::MSFlexGrid, "text", true, &gridRows},
     {ControlKind::MSHFlexGrid, "text", true, &gridRows},
     {ControlKind::PictureBox, "text", false, nullptr},
+    {ControlKind::ListBox, "text", true, &listBoxRows},
+    {ControlKind::Menu, "caption", false, nullptr},
+    {ControlKind::OptionButton, "caption", false, nullptr},
+    {ControlKind::Shape, nullptr, false, nullptr},
     {ControlKind::TDBDate, "text", true, nullptr},
     {ControlKind::TDBList, "text", true, &listRows},
     {ControlKind::TDBNumber, "text", true, nullptr},
     {ControlKind::TextBox, "text", true, nullptr},
+    {ControlKind::Timer, nullptr, false, nullptr},
     {ControlKind::ToggleButton, "caption", false, nullptr},
     {ControlKind::zqCombo, "text", true, &zqComboRows},
 };

@@ -24,7 +24,7 @@ struct RowAccess {
 
 struct ControlTraits {
   ControlKind kind;
-  /// The member of a dump that says what the control says: "caption" or "text".
+  /// The member of a dump that says what the control says: "caption" or "text"; nullptr when it says nothing.
   const char* content;
   /// A click into it moves the focus and does nothing else.
   bool entry;

@@ -58,13 +58,13 @@ bool Hands::typeOn() {
   return true;
 }
 
-void Hands::rest(std::chrono::milliseconds time) { restsUntil_ = std::chrono::steady_clock::now() + time; }
+void Hands::rest(std::chrono::milliseconds time) { restsUntil_ = time_ + time; }
 
 bool Hands::restOn() {
-  using namespace std::chrono;
-  const auto left = restsUntil_ - steady_clock::now();
-  if (left <= steady_clock::duration::zero()) return false;
-  std::this_thread::sleep_for(std::min<steady_clock::duration>(left, milliseconds(1)));
+  constexpr std::chrono::milliseconds moment{1};
+  if (time_ >= restsUntil_) return false;
+  std::this_thread::sleep_for(moment);
+  time_ += moment;
   return true;
 }
 

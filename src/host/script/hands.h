@@ -38,6 +38,9 @@ class Hands {
   void rest(std::chrono::milliseconds time);
   /// A moment of the rest has passed; False when it is over.
   bool restOn();
+  /// What timers go by: time passes for them while the user rests, and never otherwise, so that a script
+  /// comes to the same transcript on a slow machine.
+  std::chrono::milliseconds time() const noexcept { return time_; }
 
   // ---- what has happened meanwhile
 
@@ -58,7 +61,8 @@ class Hands {
   std::optional<Key> held_;
   std::vector<Typing> typing_;
   int interruptions_ = 0;
-  std::chrono::steady_clock::time_point restsUntil_{};
+  std::chrono::milliseconds time_{0};
+  std::chrono::milliseconds restsUntil_{0};
 };
 
 }  // namespace zqn::script

@@ -3,6 +3,7 @@
 
 #include "desktop/headless/grid_mouse.h"
 #include "forms/drop_down.h"
+#include "forms/list_box.h"
 #include "forms/tdb_list.h"
 
 namespace zqn::script {
@@ -31,6 +32,8 @@ void HeadlessUser::mouseDown(const Spot& spot) {
     pressed_ = spot.control.form().mousePressed(spot.control);
     auto* list = dynamic_cast<TDBList*>(&spot.control);
     if (pressed_ && list != nullptr) list->userSelect(spot.row);
+    auto* rows = dynamic_cast<ListBox*>(&spot.control);
+    if (pressed_ && rows != nullptr) rows->userPressed(spot.row, spot.shift);
   });
   twice_ = false;
 }
@@ -56,6 +59,7 @@ void HeadlessUser::mouseDownAgain(const Spot& spot) {
     const bool passes = spot.control.form().mousePressed(spot.control);
     if (!passes) return;
     if (auto* list = dynamic_cast<TDBList*>(&spot.control)) list->userDoubleClick(spot.row);
+    if (auto* rows = dynamic_cast<ListBox*>(&spot.control)) rows->userPressed(spot.row, spot.shift);
     auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
     if (grid == nullptr) return;
     pressed_ = twice_ = true;

@@ -18,6 +18,8 @@ class HeadlessUser : public UserInput {
   void mouseUp(const Spot& spot) override;
   void mouseDownAgain(const Spot& spot) override;
   void takeEntry(Control& control, int entry) override;
+  void takeItem(Menu& item) override { desktop_.take(&item); }
+  void closeMenu() override { desktop_.take(nullptr); }
   void keyDown(Form& form, const Key& key) override;
   void keyUp(Form& form, const Key& key) override;
   void closeBox(Form& form) override;

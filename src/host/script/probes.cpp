@@ -37,14 +37,11 @@ Json valueOf(const Scene& scene, const std::string& name) {
 }
 
 Json dumpOf(const Control& control) {
-  return {{"name", nameOf(control)},
-          {"kind", kindOf(control)},
-          {"left", control.Left()},
-          {"top", control.Top()},
-          {"width", control.Width()},
-          {"height", control.Height()},
-          {traitsOf(control).content, jsonText(control.content())},
-          {"enabled", control.Enabled()}};
+  Json entry{{"name", nameOf(control)}, {"kind", kindOf(control)},  {"left", control.Left()},
+             {"top", control.Top()},    {"width", control.Width()}, {"height", control.Height()}};
+  if (const char* content = traitsOf(control).content) entry[content] = jsonText(control.content());
+  entry["enabled"] = control.Enabled();
+  return entry;
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QListWidget>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QPushButton>
@@ -23,11 +25,12 @@ namespace zqn::script {
 
 namespace {
 
-void sendMouse(QWidget& widget, QEvent::Type type, QPoint place, int number = 1) {
+void sendMouse(QWidget& widget, QEvent::Type type, QPoint place, int number = 1,
+               Qt::KeyboardModifiers keys = Qt::NoModifier) {
   const Qt::MouseButton button = number == 1 ? Qt::LeftButton : Qt::RightButton;
   const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : button;
   const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
-  QMouseEvent event(type, place, widget.mapToGlobal(place), changed, held, Qt::NoModifier);
+  QMouseEvent event(type, place, widget.mapToGlobal(place), changed, held, keys);
   QApplication::sendEvent(&widget, &event);
 }
 
@@ -38,6 +41,19 @@ QPoint placeOn(const QWidget& widget) {
   QStyleOptionButton option;
   option.initFrom(box);
   return box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
+}
+
+Qt::KeyboardModifiers heldKeys(int shift) {
+  Qt::KeyboardModifiers keys = Qt::NoModifier;
+  if ((shift & shift::Shift) != 0) keys |= Qt::ShiftModifier;
+  if ((shift & shift::Ctrl) != 0) keys |= Qt::ControlModifier;
+  if ((shift & shift::Alt) != 0) keys |= Qt::AltModifier;
+  return keys;
+}
+
+QPoint placeOfRow(QListWidget& list, int row) {
+  list.scrollToItem(list.item(row));
+  return list.visualItemRect(list.item(row)).center();
 }
 
 /// The middle of a row, which is scrolled into view.
@@ -85,14 +101,21 @@ void QtUser::point(const Spot& spot) {
     pointer_ = grid->placeOf({spot.row, spot.col}).value_or(grid->viewport()->rect().center());
     return;
   }
-  auto* list = qobject_cast<QTableView*>(widget);
-  pointer_ = list != nullptr && spot.row >= 0 ? placeOfRow(*list, spot.row)
-                                              : placeOn(*desktop_.mouseAreaOf(spot.control));
+  auto* const table = qobject_cast<QTableView*>(widget);
+  auto* const list = qobject_cast<QListWidget*>(widget);
+  if (table != nullptr && spot.row >= 0) {
+    pointer_ = placeOfRow(*table, spot.row);
+  } else if (list != nullptr && spot.row >= 0) {
+    pointer_ = placeOfRow(*list, spot.row);
+  } else {
+    pointer_ = placeOn(*desktop_.mouseAreaOf(spot.control));
+  }
 }
 
 void QtUser::mouseDown(const Spot& spot) {
   point(spot);
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonPress, pointer_, spot.button);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonPress, pointer_, spot.button,
+            heldKeys(spot.shift));
 }
 
 void QtUser::mouseMove(const Spot& spot) {
@@ -104,11 +127,13 @@ void QtUser::mouseUp(const Spot& spot) {
   // A cell may have moved under the pointer meanwhile.
   const auto* grid = dynamic_cast<qt::FlexGrid*>(desktop_.widgetOf(spot.control));
   if (grid != nullptr) pointer_ = grid->placeOf({spot.row, spot.col}).value_or(pointer_);
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonRelease, pointer_, spot.button);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonRelease, pointer_, spot.button,
+            heldKeys(spot.shift));
 }
 
 void QtUser::mouseDownAgain(const Spot& spot) {
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pointer_, spot.button);
+  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pointer_, spot.button,
+            heldKeys(spot.shift));
 }
 
 void QtUser::takeEntry(Control& control, int entry) {
@@ -128,6 +153,22 @@ void QtUser::takeEntry(Control& control, int entry) {
   sendMouse(*drop.viewport(), QEvent::MouseMove, place);
   sendMouse(*drop.viewport(), QEvent::MouseButtonPress, place);
   sendMouse(*drop.viewport(), QEvent::MouseButtonRelease, place);
+}
+
+void QtUser::takeItem(Menu& item) {
+  QMenu& menu = *desktop_.openMenu();
+  const QPoint place = menu.actionGeometry(menu.findChild<QAction*>(qt::toQt(item.fullName()))).center();
+  sendMouse(menu, QEvent::MouseMove, place);
+  sendMouse(menu, QEvent::MouseButtonPress, place);
+  sendMouse(menu, QEvent::MouseButtonRelease, place);
+}
+
+void QtUser::closeMenu() {
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event = qt::eventOf(KeyStroke::ofCode(key::Escape), type);
+    QApplication::sendEvent(desktop_.openMenu(), &event);
+    if (desktop_.openMenu() == nullptr) return;
+  }
 }
 
 // ---- keys

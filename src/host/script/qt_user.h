@@ -20,6 +20,8 @@ class QtUser : public UserInput {
   void mouseUp(const Spot& spot) override;
   void mouseDownAgain(const Spot& spot) override;
   void takeEntry(Control& control, int entry) override;
+  void takeItem(Menu& item) override;
+  void closeMenu() override;
   void keyDown(Form& form, const Key& key) override;
   void keyUp(Form& form, const Key& key) override;
   void closeBox(Form& form) override;

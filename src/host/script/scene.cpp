@@ -23,6 +23,7 @@ Control& Scene::control(const std::string& name) const {
 Form& Scene::usableForm() const {
   Form& owner = form();
   if (desktop.openMessageBox() != nullptr) throw Refusal("a message box is open");
+  if (desktop.openPopupMenu() != nullptr) throw Refusal("a popup menu is open");
   if (!owner.Visible()) throw Refusal(toUtf8(owner.Name()) + " is closed");
   return owner;
 }

@@ -30,10 +30,12 @@ ScriptedUser::ScriptedUser(Desktop& desktop, UserInput& input, ScriptWorld world
       transcript_(transcript) {
   desktop_.addListener(this);
   desktop_.whenIdle([this] { step(); });
+  desktop_.clock([this] { return hands_.time(); });
 }
 
 ScriptedUser::~ScriptedUser() {
   desktop_.whenIdle({});
+  desktop_.clock({});
   desktop_.removeListener(this);
 }
 
@@ -93,6 +95,7 @@ void ScriptedUser::run(const PendingLine& pending) {
 void ScriptedUser::goHome() {
   if (const MessageBox* box = desktop_.openMessageBox())
     return input_.answer(failed_ ? box->buttons().back() : defaultAnswer(*box));
+  if (desktop_.openPopupMenu() != nullptr) return input_.closeMenu();
   Form* form = desktop_.activeForm();
   if (form == nullptr || !form->Visible()) return;
   if (failed_) return closeWithoutAsking(*form);
@@ -160,6 +163,11 @@ void ScriptedUser::formClosed(Form& form) {
 void ScriptedUser::messageBoxOpened(const MessageBox& box) {
   hands_.somethingOpened();
   write(messageBoxLine(box));
+}
+
+void ScriptedUser::popupMenuOpened(const Menu& menu) {
+  hands_.somethingOpened();
+  write(popupLine(menu));
 }
 
 bool ScriptedUser::runtimeErrorRaised(Form&, StringView procedure, const RuntimeError& failure) {

@@ -60,6 +60,7 @@ class ScriptedUser : public DesktopListener {
   void formShown(Form& form) override;
   void formClosed(Form& form) override;
   void messageBoxOpened(const MessageBox& box) override;
+  void popupMenuOpened(const Menu& menu) override;
   bool runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure) override;
 
  private:

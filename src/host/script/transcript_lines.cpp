@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/script/transcript_lines.h"
 
+#include "forms/menu.h"
+
 namespace zqn::script {
 
 namespace {
@@ -48,6 +50,17 @@ Json messageBoxLine(const MessageBox& box) {
                    {"icon", iconOf(box)},
                    {"default", box.defaultButton()}};
   return {{"msgbox", entry}};
+}
+
+Json popupLine(const Menu& menu) {
+  Json items = Json::array();
+  for (const Menu* item : menu.items()) {
+    Json entry{{"name", jsonText(item->fullName())},
+               {"caption", jsonText(item->Caption())},
+               {"enabled", item->Enabled()}};
+    items.push_back(std::move(entry));
+  }
+  return {{"popup", jsonText(menu.fullName())}, {"items", std::move(items)}};
 }
 
 Json errorLine(StringView procedure, const RuntimeError& failure) {

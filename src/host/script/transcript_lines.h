@@ -16,6 +16,7 @@ Json closedLine(const Form& form);
 /// {"msgbox":{"text":...,"title":...,"buttons":"yesno","icon":"question","default":1}}
 Json messageBoxLine(const MessageBox& box);
 /// {"error":{"in":"btnDelete_Click","number":-2147217900,"description":"..."}}
+Json popupLine(const Menu& menu);
 Json errorLine(StringView procedure, const RuntimeError& failure);
 /// {"event":"DblClick","result":"10"}
 Json eventLine(StringView event, const Variant& result);

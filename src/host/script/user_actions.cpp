@@ -98,6 +98,26 @@ void selectEntry(const Scene& scene, const Arguments& line) {
   scene.input.takeEntry(control, entry);
 }
 
+/// Leaves exactly these rows of a list selected: a click on the first, and one with Ctrl on each other.
+void selectRows(const Scene& scene, const Arguments& line) {
+  const std::vector<int> rows = line.wholeNumbers("rows");
+  const std::string name = line.text("select");
+  Control& control = scene.usableControl(name);
+  if (control.kind() != ControlKind::ListBox)
+    throw Refusal(describe(control) + ", which takes no several rows");
+  for (const int row : rows) rowSpot(scene, name, row);
+  if (rows.empty()) {
+    // A click selects one row alone, a second one with Ctrl takes it out.
+    if (!traitsOf(control).rows->hasRow(control, 0)) return;
+    scene.hands.click({.control = control, .row = 0});
+    return scene.hands.click({.control = control, .row = 0, .shift = shift::Ctrl});
+  }
+  for (const int row : rows) {
+    const int held = row == rows.front() ? shift::None : shift::Ctrl;
+    scene.hands.click({.control = control, .row = row, .shift = held});
+  }
+}
+
 }  // namespace
 
 void click(const Scene& scene, const Arguments& line) {
@@ -123,6 +143,8 @@ void key(const Scene& scene, const Arguments& line) {
   const int shift = line.has("shift") ? line.wholeNumber("shift", 0, 7) : 0;
   const std::optional<Key> key = keyOfName(name, shift);
   if (!key) throw ScriptError("unknown key \"" + name + "\"; there is one character, " + keyNames());
+  const bool overMenu = scene.desktop.openPopupMenu() != nullptr && scene.desktop.openMessageBox() == nullptr;
+  if (overMenu && key->code == key::Escape) return scene.input.closeMenu();
   scene.hands.press(scene.usableForm(), *key);
 }
 
@@ -133,7 +155,7 @@ void select(const Scene& scene, const Arguments& line) {
   } else if (line.has("index") || line.has("text")) {
     selectEntry(scene, line);
   } else if (line.has("rows")) {
-    throw Refusal(describe(scene.usableControl(line.text("select"))) + ", which takes no several rows");
+    selectRows(scene, line);
   } else {
     throw ScriptError(R"("select" needs "row", "rows", "index" or "text")");
   }
@@ -165,9 +187,17 @@ void drag(const Scene& scene, const Arguments& line) {
 }
 
 void menu(const Scene& scene, const Arguments& line) {
-  line.text("menu");
-  scene.usableForm();
-  throw Refusal("no popup menu is open");
+  const std::string name = line.text("menu");
+  const Menu* open = scene.desktop.openPopupMenu();
+  if (open == nullptr) {
+    scene.usableForm();
+    throw Refusal("no popup menu is open");
+  }
+  const std::vector<Menu*> items = open->items();
+  const auto item = std::ranges::find_if(items, [&](const Menu* each) { return nameOf(*each) == name; });
+  if (item == items.end()) throw Refusal("the popup menu has no item \"" + name + "\"");
+  if (!(*item)->Enabled()) throw Refusal(name + " is disabled");
+  scene.input.takeItem(**item);
 }
 
 void close(const Scene& scene, const Arguments& line) {

@@ -13,6 +13,7 @@
 
 #include "forms/control.h"
 #include "forms/form.h"
+#include "forms/menu.h"
 #include "forms/message_box.h"
 
 namespace zqn::script {
@@ -34,6 +35,8 @@ struct Spot {
   int col = -1;
   /// Which button: 1 left, 2 right.
   int button = 1;
+  /// Sum of the shift bits of the keys held meanwhile.
+  int shift = 0;
 };
 
 class UserInput {
@@ -50,6 +53,10 @@ class UserInput {
 
   /// Opens a drop-down and takes an entry, which is there.
   virtual void takeEntry(Control& control, int entry) = 0;
+
+  /// Takes an item of the open popup menu, which can be taken; or closes the menu.
+  virtual void takeItem(Menu& item) = 0;
+  virtual void closeMenu() = 0;
 
   /// A key goes down, or up, while the form is on top.
   virtual void keyDown(Form& form, const Key& key) = 0;

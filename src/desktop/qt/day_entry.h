@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Draws a TDBDate: its caption, a field behind it, and a button that opens a calendar where there is room for
-// one. F4 opens the calendar, too.
+// Draws a TDBDate or a DateInput: its caption, a field behind it, and a button that opens a calendar where
+// there is room for one. F4 opens the calendar, too.
 #pragma once
 
 #include <QCalendarWidget>
@@ -9,14 +9,14 @@
 
 #include "desktop/qt/field_button.h"
 #include "desktop/qt/text_entry.h"
-#include "forms/tdb_date.h"
+#include "forms/day_entry.h"
 
 namespace zqn::qt {
 
-class TDBDate : public TextEntry {
+class DayEntry : public TextEntry {
  public:
-  TDBDate(zqn::TDBDate& model, QWidget* parent);
-  ~TDBDate() override;
+  DayEntry(zqn::DayEntry& model, QWidget* parent);
+  ~DayEntry() override;
 
   void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) override;
   /// The calendar, when it is open.
@@ -38,7 +38,7 @@ class TDBDate : public TextEntry {
   void openCalendar();
   void choose(const QDate& day);
 
-  zqn::TDBDate& model_;
+  zqn::DayEntry& model_;
   FieldButton button_{*this, model_, QStringLiteral("Kalender"), [this] { openCalendar(); }};
   std::unique_ptr<QCalendarWidget> calendar_;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/qt/tdb_date.h"
+#include "desktop/qt/day_entry.h"
 
 #include <QPainter>
 #include <QScreen>
@@ -24,42 +24,42 @@ QDate toQt(Date date) {
 
 }  // namespace
 
-TDBDate::TDBDate(zqn::TDBDate& model, QWidget* parent) : TextEntry(model, parent), model_(model) {}
+DayEntry::DayEntry(zqn::DayEntry& model, QWidget* parent) : TextEntry(model, parent), model_(model) {}
 
-TDBDate::~TDBDate() = default;
+DayEntry::~DayEntry() = default;
 
 // ---- drawing
 
-QString TDBDate::caption() const { return qt::toQt(model_.Caption()); }
+QString DayEntry::caption() const { return qt::toQt(model_.Caption()); }
 
-int TDBDate::captionWidth() const {
+int DayEntry::captionWidth() const {
   if (caption().isEmpty()) return 0;
   return fontMetrics().horizontalAdvance(caption()) + Scale(*this).x(gapBehindCaption);
 }
 
-void TDBDate::initStyleOption(QStyleOptionFrame* option) const {
+void DayEntry::initStyleOption(QStyleOptionFrame* option) const {
   TextEntry::initStyleOption(option);
   // Frame, text and caret are the field's alone.
   option->rect.setLeft(captionWidth());
 }
 
-void TDBDate::placeButton() {
-  const int text = fontMetrics().horizontalAdvance(qt::toQt(zqn::TDBDate::emptyMask));
+void DayEntry::placeButton() {
+  const int text = fontMetrics().horizontalAdvance(qt::toQt(zqn::DayEntry::emptyMask));
   const int button = button_.wantedWidth();
   button_.place(width() - captionWidth() >= text + button + button * 2 / 3);
 }
 
-void TDBDate::draw() {
+void DayEntry::draw() {
   placeButton();
   TextEntry::draw();
 }
 
-void TDBDate::resizeEvent(QResizeEvent* event) {
+void DayEntry::resizeEvent(QResizeEvent* event) {
   TextEntry::resizeEvent(event);
   placeButton();
 }
 
-void TDBDate::paintEvent(QPaintEvent* event) {
+void DayEntry::paintEvent(QPaintEvent* event) {
   TextEntry::paintEvent(event);
   if (caption().isEmpty()) return;
   QPainter painter(this);
@@ -69,7 +69,7 @@ void TDBDate::paintEvent(QPaintEvent* event) {
 
 // ---- the calendar
 
-void TDBDate::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
+void DayEntry::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
   const bool plain = stroke.shift == shift::None;
   if (plain && stroke.code == key::F4) {
     openCalendar();
@@ -80,17 +80,17 @@ void TDBDate::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
   }
 }
 
-void TDBDate::openCalendar() {
+void DayEntry::openCalendar() {
   calendar_ = std::make_unique<QCalendarWidget>(this);
   calendar_->setWindowFlag(Qt::Popup);
   calendar_->setLocale(QLocale(QLocale::German, QLocale::Germany));
   calendar_->setFirstDayOfWeek(Qt::Monday);
   calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendar_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-  const Variant& value = model_.Value();
-  calendar_->setSelectedDate(toQt(value.isNull() ? Today() : *value.as<Date>()));
-  connect(calendar_.get(), &QCalendarWidget::activated, this, &TDBDate::choose);
-  connect(calendar_.get(), &QCalendarWidget::clicked, this, &TDBDate::choose);
+  const Variant day = model_.day();
+  calendar_->setSelectedDate(toQt(day.isNull() ? Today() : *day.as<Date>()));
+  connect(calendar_.get(), &QCalendarWidget::activated, this, &DayEntry::choose);
+  connect(calendar_.get(), &QCalendarWidget::clicked, this, &DayEntry::choose);
 
   const QRect room = screen()->availableGeometry();
   const QSize size = calendar_->sizeHint();
@@ -103,7 +103,7 @@ void TDBDate::openCalendar() {
   calendar_->show();
 }
 
-void TDBDate::choose(const QDate& day) {
+void DayEntry::choose(const QDate& day) {
   if (!calendar()) return;
   calendar_->hide();
   shielded(model_, u"Change", [&] { model_.userChose(dateSerial(day.year(), day.month(), day.day())); });

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+//
+// Draws a ListBox. Which rows are selected, and which has the focus, is the model's; a press of the mouse and
+// every key go there.
+#pragma once
+
+#include <QListWidget>
+
+#include "desktop/qt/control_widget.h"
+#include "forms/list_box.h"
+
+namespace zqn::qt {
+
+class ListBox : public QListWidget, public ControlWidget {
+ public:
+  ListBox(zqn::ListBox& model, QWidget* parent);
+
+  QWidget& mouseArea() const override { return *viewport(); }
+  bool pressed(const QMouseEvent& event, bool focusCame) override;
+
+ protected:
+  void draw() override;
+  void compare(Differences& found) const override;
+
+ private:
+  void report();
+
+  zqn::ListBox& model_;
+};
+
+}  // namespace zqn::qt

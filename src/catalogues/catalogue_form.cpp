@@ -168,6 +168,7 @@ bool CatalogueForm::mayChange(StringView refusal) const {
 void CatalogueForm::btnOK_Click() {
   if (!hasKey()) return;
   if (!mayChange(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.")) return;
+  if (!maySave()) return;
   Statements step(passesOverFailures(Procedure::btnOK_Click));
   step([&] { WriteRecord(); });
   step([&] { TDBList1.HoldFields(); });
@@ -181,8 +182,7 @@ void CatalogueForm::btnOK_Click() {
 
 void CatalogueForm::btnDelete_Click() {
   if (!mayChange(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.")) return;
-  if (MsgBox(u"Datensatz löschen?", msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes)
-    return;
+  if (MsgBox(deleteQuestion(), msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes) return;
   DeleteRecord();
   RefreshList(true);
   if (rsListe->RecordCount() != 0) {

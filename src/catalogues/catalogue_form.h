@@ -88,6 +88,10 @@ class CatalogueForm : public Form {
   virtual bool hasKey() const { return !Trim(Schluessel.Text()).empty(); }
   /// Saving and deleting need the right to change catalogues.
   virtual bool asksForRights() const { return true; }
+  /// What is entered may be saved. A form that refuses says why.
+  virtual bool maySave() { return true; }
+  /// What is asked before a record is deleted.
+  virtual String deleteQuestion() const { return u"Datensatz löschen?"; }
   /// The record that is shown may be taken over. A form that refuses says why.
   virtual bool mayBeTaken() { return true; }
   /// The list's first row becomes the current one, after saving and before the search.
@@ -98,9 +102,9 @@ class CatalogueForm : public Form {
   // ---- the pattern's routines
 
   void RefreshList(bool Rebind);
-  void ReadRecord();
-  void WriteRecord();
-  void DeleteRecord();
+  virtual void ReadRecord();
+  virtual void WriteRecord();
+  virtual void DeleteRecord();
   void UpdateButtons();
   /// Selects the whole text of the active control, so that typing replaces it.
   void SelectActiveText();

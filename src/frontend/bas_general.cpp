@@ -48,12 +48,17 @@ ado::sql::Text blockStatement(StringView Textart, StringView TextNummer, StringV
 
 Variant ReadTextBaustein(StringView Textart, String& TextNummer, StringView ZusatztextNummer,
                          StringView SprachKZ, TextBlock& block) {
+  return ReadTextBlock(GetConnection(), Textart, TextNummer, ZusatztextNummer, SprachKZ, block);
+}
+
+Variant ReadTextBlock(const Ref<ado::Connection>& Connection, StringView Textart, String& TextNummer,
+                      StringView ZusatztextNummer, StringView SprachKZ, TextBlock& block) {
   ResumeNext step;
   const StringView zusatz = ZusatztextNummer.empty() ? mainText : ZusatztextNummer;
   StringView sprache = SprachKZ.empty() ? languageIndependent : SprachKZ;
   ado::Recordset rs;
   const auto open = [&] {
-    rs.Open(blockStatement(Textart, TextNummer, zusatz, sprache), GetConnection(), ado::adOpenKeyset,
+    rs.Open(blockStatement(Textart, TextNummer, zusatz, sprache), Connection, ado::adOpenKeyset,
             ado::adLockOptimistic);
   };
   step([&] { rs.CursorLocation(ado::adUseClient); });

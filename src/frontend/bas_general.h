@@ -55,6 +55,9 @@ struct TextBlock {
 /// when it is or when there is no row, Empty when the query failed. Never raises.
 Variant ReadTextBaustein(StringView Textart, String& TextNummer, StringView ZusatztextNummer,
                          StringView SprachKZ, TextBlock& block);
+/// The same on a connection of one's own.
+Variant ReadTextBlock(const Ref<ado::Connection>& Connection, StringView Textart, String& TextNummer,
+                      StringView ZusatztextNummer, StringView SprachKZ, TextBlock& block);
 
 // ---- print marks
 

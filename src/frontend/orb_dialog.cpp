@@ -19,6 +19,11 @@
 #include "frontend/kinds.h"
 #include "runtime/convert.h"
 #include "runtime/resume_next.h"
+#include "sales/offer_templates.h"
+#include "sales/omr_code.h"
+#include "sales/preislisten.h"
+#include "sales/save_offer_template.h"
+#include "sales/zahlungsarten.h"
 #include "split/frm_aufteilung_snch.h"
 
 namespace zqn {
@@ -88,6 +93,31 @@ class ShowSteps {
     return returned;
   }
 
+  /// A form that takes the session, too. What the settings of layouts give back is no key.
+  template <class Form, std::size_t comeBack = 1>
+  Variant withSession() {
+    return dedicated<Form>(
+        [this](ResumeNext& step, Form& form) {
+          step([&] { form.Connection = dialog_.Connection(); });
+          step([&] { form.Session = dialog_.Session(); });
+          if constexpr (requires { form.Multiselect; })
+            step([&] { form.Multiselect = dialog_.Multiselect(); });
+        },
+        {&Form::SelectedKey}, comeBack);
+  }
+
+  /// Nobody hears of picks.
+  template <bool purchase>
+  Variant paymentTypes() {
+    return dedicated<frmZahlungsarten>(
+        [this](ResumeNext& step, frmZahlungsarten& form) {
+          step([&] { form.Connection = dialog_.Connection(); });
+          step([&] { form.Bereich = purchase ? u"EK" : u"VK"; });
+          step([&] { form.Multiselect = dialog_.Multiselect(); });
+        },
+        {&frmZahlungsarten::SelectedKey}, 1);
+  }
+
   /// The generic form. All of Init is one statement: when it fails the form stands empty.
   Variant generic(std::int32_t kind) {
     ResumeNext step;
@@ -151,10 +181,16 @@ std::unique_ptr<Form> make() {
 }
 
 constexpr Dispatch dispatch[] = {
+    {1, &ShowSteps::paymentTypes<false>, make<frmZahlungsarten>},
+    {2, &ShowSteps::paymentTypes<true>, make<frmZahlungsarten>},
+    {16, &ShowSteps::withSession<frmPreislisten>, make<frmPreislisten>},
     {21, &ShowSteps::catalogue<frmVertriebsstati>, make<frmVertriebsstati>},
     {25, &ShowSteps::catalogue<frmCRMKategorien>, make<frmCRMKategorien>},
     {26, &ShowSteps::catalogue<frmSelektionskriterienVertrag>, make<frmSelektionskriterienVertrag>},
     {28, &ShowSteps::selectionListValues, make<frmSelectionListValues>},
+    {29, &ShowSteps::withSession<frmOfferTemplates>, make<frmOfferTemplates>},
+    {30, &ShowSteps::withSession<frmSaveOfferTemplate>, make<frmSaveOfferTemplate>},
+    {31, &ShowSteps::withSession<frmOMRCode, 0>, make<frmOMRCode>},
     {32, &ShowSteps::reasons<1>, make<frmKuendigungsgruende>},
     {33, &ShowSteps::reasons<2>, make<frmKuendigungsgruende>},
     {34, &ShowSteps::quantitySplit, make<frmAufteilungSNCH>},

@@ -1,0 +1,429 @@
+// SPDX-License-Identifier: MIT
+//
+// The settings of printed documents: several kinds of documents edited together over layout files.
+#include "sales/omr_code.h"
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "contract/object_factory.h"
+#include "contract/ws_profile.h"
+#include "forms/list_box.h"
+#include "testing/dialog_test.h"
+
+namespace zqn::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The application's folder, as the workstation knows it.
+class Profile : public WSProfile {
+ public:
+  explicit Profile(String folder) : folder_(std::move(folder)) {}
+  String GetAppPath() override { return folder_; }
+
+ private:
+  String folder_;
+};
+
+class OmrSettings : public DialogTest {
+ protected:
+  OmrSettings() {
+    fs::create_directories(folder);
+    ObjectFactory::current().offer(u"zqWSPro.WSProfile",
+                                   [this] { return std::make_shared<Profile>(folder.u16string()); });
+  }
+  ~OmrSettings() override {
+    ObjectFactory::current().withdraw(u"zqWSPro.WSProfile");
+    fs::remove_all(folder);
+  }
+
+  void layout(const std::string& name, const std::string& lines) {
+    std::ofstream(folder / name, std::ios::binary) << "[Common]\r\n" << lines;
+  }
+  /// Blau: three pages for option 0, one for option 1. Gelb: option 0 alone.
+  void twoLayouts() {
+    layout("Blau.omr",
+           "Description=Blaues Papier\r\nOptionName0=Kopie\r\nOptionPage0=1,2,EOC\r\n"
+           "OptionName1=Heftung\r\n");
+    layout("Gelb.omr", "Description=Gelbes Papier\r\nOptionName0=Beileger\r\nOptionPage0=ALL,BOC\r\n");
+  }
+  void keep(StringView key, StringView value) {
+    session->SaveSetting(u"Belegdruck", key, value, Missing, zqnSaveAsUserSetting);
+  }
+  String kept(StringView key) const {
+    return session->GetSetting(u"Belegdruck", key, u"(fehlt)", zqnGetUserSettingsOnly);
+  }
+
+  ListBox& documents() const { return form().Get<ListBox>(u"lstBelegarten"); }
+  /// A click on one row, and clicks with Ctrl on the others.
+  void selectDocuments(std::initializer_list<int> rows) {
+    for (const int row : rows) {
+      ASSERT_TRUE(form().mousePressed(documents()));
+      documents().userPressed(row, row == *rows.begin() ? shift::None : shift::Ctrl);
+      form().mouseReleased(documents());
+    }
+  }
+  void choose(StringView combo, int index) {
+    form()
+        .Get<ComboBox>(combo.substr(0, combo.find(u'(')),
+                       combo.ends_with(u')') ? combo[combo.size() - 2] - u'0' : -1)
+        .userChose(index);
+  }
+  int number(StringView control, StringView property) const {
+    return *get(control, property).as<std::int32_t>();
+  }
+  int layoutRow() const { return number(u"cboLayout", u"ListIndex"); }
+  /// "value caption [page|page]chosen page", "-" in front when the box is disabled.
+  std::string option(int index) const {
+    const String element = u"(" + String(1, static_cast<char16_t>(u'0' + index)) + u")";
+    const auto& pages = form().Get<ComboBox>(u"cboOption", index);
+    std::string all = enabled(u"chkOption" + element) ? "" : "-";
+    all += std::to_string(number(u"chkOption" + element, u"Value")) + " " +
+           toUtf8(*get(u"chkOption" + element, u"Caption").as<String>()) + " [";
+    for (int i = 0; i < pages.ListCount(); ++i) all += (i > 0 ? "|" : "") + toUtf8(pages.List(i));
+    return all + "]" + toUtf8(pages.Text()) + (pages.Enabled() ? "" : "-");
+  }
+
+  fs::path folder = fs::temp_directory_path() / ("zqn-omr-" + std::to_string(std::random_device()()));
+};
+
+// ---- opening
+
+TEST_F(OmrSettings, ListTheEightKindsOfDocuments) {
+  EXPECT_EQ(show(31, {u""},
+                 [&] {
+                   std::vector<String> names;
+                   for (int i = 0; i < documents().ListCount(); ++i) names.push_back(documents().List(i));
+                   EXPECT_THAT(names,
+                               ::testing::ElementsAre(u"Angebot", u"Auftragsbestätigung", u"Lieferschein",
+                                                      u"Rechnung", u"Vertragsrechnung", u"Gutschrift",
+                                                      u"Vertragsgutschrift", u"Bestellung"));
+                   EXPECT_EQ(documents().SelCount(), 0);
+                   EXPECT_EQ(form().Caption(), u"OMR/OME-Einstellungen");
+                 }),
+            Variant(false));
+}
+
+TEST_F(OmrSettings, WithoutLayoutFilesOfferNoneAndTheNamelessDefault) {
+  show(31, {u"RG"}, [&] {
+    EXPECT_EQ(number(u"cboLayout", u"ListCount"), 2);
+    EXPECT_EQ(get(u"cboLayout", u"List(0)"), Variant(u"Deaktiviert"));
+    EXPECT_EQ(get(u"cboLayout", u"List(1)"), Variant(u""));
+    EXPECT_EQ(layoutRow(), 1) << "a layout read as Default is the default layout";
+    EXPECT_EQ(option(0), "-0 Zusatzoption 1 []-");
+  });
+}
+
+TEST_F(OmrSettings, LayoutsComeByNameWithTheirDescriptions) {
+  twoLayouts();
+  layout("default.OMR", "Description=Standard\r\n");
+  layout("None.omr", "Description=Nie\r\n");
+  layout(" .omr", "Description=Blank\r\n");
+  layout("ohne.omr", "");
+  layout("andere.txt", "Description=Text\r\n");
+  fs::create_directories(folder / "ordner.omr");
+  show(31, {u""}, [&] {
+    std::vector<String> rows;
+    for (int i = 0; i < number(u"cboLayout", u"ListCount"); ++i)
+      rows.push_back(form().Get<ComboBox>(u"cboLayout").List(i));
+    EXPECT_THAT(rows,
+                ::testing::ElementsAre(u"Deaktiviert", u"Standard", u"Blaues Papier", u"Gelbes Papier", u""));
+  });
+}
+
+TEST_F(OmrSettings, ACodeInAnyCaseIsSelectedAndTheTimerPutsTheFocusOnItsLayout) {
+  int milliseconds = 0;
+  desktop.clock([&] { return std::chrono::milliseconds(milliseconds++); });
+  show(31, {u"gs"}, [&] {
+    EXPECT_EQ(documents().ListIndex(), 5);
+    EXPECT_TRUE(documents().Selected(5));
+    EXPECT_EQ(documents().SelCount(), 1);
+    EXPECT_EQ(focus(), u"lstBelegarten");
+    // The clock moves on with each look at it.
+    desktop.whenIdle([&] {
+      if (milliseconds < 60) return;
+      EXPECT_EQ(focus(), u"cboLayout");
+      EXPECT_FALSE(enabled(u"Timer1"));
+      form().closeBox();
+    });
+  });
+}
+
+TEST_F(OmrSettings, WithoutACodeTheFocusStaysInTheList) {
+  int milliseconds = 0;
+  desktop.clock([&] { return std::chrono::milliseconds(milliseconds++); });
+  show(31, {u"XY"}, [&] {
+    desktop.whenIdle([&] {
+      if (milliseconds < 60) return;
+      EXPECT_EQ(focus(), u"lstBelegarten");
+      EXPECT_FALSE(enabled(u"Timer1"));
+      form().closeBox();
+    });
+  });
+}
+
+TEST_F(OmrSettings, WithoutAProfileTheRootIsSearchedAndNothingIsSaid) {
+  ObjectFactory::current().withdraw(u"zqWSPro.WSProfile");
+  show(31, {u"AN"}, [&] { EXPECT_GE(number(u"cboLayout", u"ListCount"), 2); });
+}
+
+TEST_F(OmrSettings, WithoutASessionNothingIsReadOrSaved) {
+  frmOMRCode settings;
+  settings.SelectedKey = u"AN";
+  desktop.whenIdle([&] {
+    EXPECT_EQ(layoutRow(), 0);
+    EXPECT_TRUE(documents().Selected(0));
+    click(u"btnOK");
+  });
+  settings.ShowData();
+  EXPECT_EQ(settings.SelectedKey, Variant(true));
+}
+
+// ---- what a selection shows
+
+TEST_F(OmrSettings, ASelectionShowsItsLayoutAndOptions) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"blau");
+  keep(u"OMROption0RG", u"1");
+  keep(u"OMROption0PageRG", u"eoc");
+  show(31, {u"RG"}, [&] {
+    EXPECT_EQ(layoutRow(), 2);
+    EXPECT_EQ(option(0), "1 Kopie [Seite 1|Seite 2|Letzte Seite]Letzte Seite");
+    EXPECT_EQ(option(1), "0 Heftung [Alle Seiten]Alle Seiten-") << "one page alone cannot be chosen";
+    EXPECT_EQ(option(2), "-0 Zusatzoption 3 []-");
+  });
+}
+
+TEST_F(OmrSettings, DifferentLayoutsShowNone) {
+  twoLayouts();
+  keep(u"OMRLayoutAN", u"Blau");
+  keep(u"OMRLayoutAB", u"Gelb");
+  keep(u"OMRLayoutLS", u"");
+  show(31, {u"AN"}, [&] {
+    selectDocuments({0, 1});
+    EXPECT_EQ(layoutRow(), -1);
+    EXPECT_EQ(option(0), "-0 Zusatzoption 1 []-");
+    selectDocuments({2});
+    EXPECT_EQ(layoutRow(), 0);
+  });
+}
+
+TEST_F(OmrSettings, DifferentOptionsShowGreyAndAClickThatLeavesItGreyChangesNothing) {
+  twoLayouts();
+  for (const StringView kind : {u"AN", u"AB"}) keep(u"OMRLayout" + String(kind), u"Blau");
+  keep(u"OMROption0AN", u"1");
+  keep(u"OMROption0PageAN", u"1");
+  keep(u"OMROption0PageAB", u"2");
+  show(31, {u""}, [&] {
+    selectDocuments({0, 1});
+    EXPECT_EQ(layoutRow(), 2);
+    EXPECT_EQ(option(0), "2 Kopie [Seite 1|Seite 2|Letzte Seite]");
+    click(u"chkOption(1)");
+    click(u"btnSave");
+  });
+  EXPECT_EQ(kept(u"OMROption0AN"), u"1");
+  EXPECT_EQ(kept(u"OMROption0AB"), u"0");
+  EXPECT_EQ(kept(u"OMROption0PageAN"), u"1");
+  EXPECT_EQ(kept(u"OMROption0PageAB"), u"2");
+  EXPECT_EQ(kept(u"OMROption1AN"), u"1");
+  EXPECT_EQ(kept(u"OMROption1AB"), u"1");
+}
+
+TEST_F(OmrSettings, FlagsAndPagesAreComparedSeparately) {
+  twoLayouts();
+  for (const StringView kind : {u"AN", u"AB"}) keep(u"OMRLayout" + String(kind), u"Blau");
+  keep(u"OMROption0AN", u"1");
+  keep(u"OMROption0PageAN", u"2");
+  keep(u"OMROption0PageAB", u"2");
+  show(31, {u""}, [&] {
+    selectDocuments({0, 1});
+    EXPECT_EQ(option(0), "2 Kopie [Seite 1|Seite 2|Letzte Seite]Seite 2");
+  });
+}
+
+TEST_F(OmrSettings, ALayoutWhoseFileIsGoneShowsNoRowAndIsSavedBack) {
+  keep(u"OMRLayoutRG", u"Verloren");
+  keep(u"OMROption0RG", u"1");
+  show(31, {u"RG"}, [&] {
+    EXPECT_EQ(layoutRow(), -1);
+    EXPECT_FALSE(enabled(u"chkOption(0)"));
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMRLayoutRG"), u"Verloren");
+  EXPECT_EQ(kept(u"OMROption0RG"), u"1");
+}
+
+TEST_F(OmrSettings, APageThatTheLayoutLacksShowsNoEntry) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"Blau");
+  keep(u"OMROption0PageRG", u"9");
+  show(31, {u"RG"}, [&] { EXPECT_EQ(option(0), "0 Kopie [Seite 1|Seite 2|Letzte Seite]"); });
+}
+
+// ---- pages of a definition
+
+TEST_F(OmrSettings, PagesAreNumbersAndThreeWords) {
+  layout("Test.omr",
+         "OptionName0=A\r\nOptionPage0=7,x,EOC\r\nOptionName1=B\r\nOptionPage1=1.5, 2a ,0,-3,boc\r\n"
+         "OptionName2=C\r\nOptionPage2=,,\r\nOptionName3=D\r\nOptionPage3= all , 007\r\n");
+  keep(u"OMRLayoutAN", u"Test");
+  show(31, {u"AN"}, [&] {
+    EXPECT_EQ(option(0), "0 A [Seite 7|Letzte Seite]Seite 7");
+    EXPECT_EQ(option(1), "0 B [Seite 1,5|Erste Seite]Seite 1,5");
+    EXPECT_EQ(option(2), "0 C [Alle Seiten]Alle Seiten-");
+    EXPECT_EQ(option(3), "0 D [Alle Seiten|Seite 7]Alle Seiten");
+    click(u"chkOption(1)");
+    click(u"chkOption(3)");
+    choose(u"cboOption(3)", 1);
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMROption1PageAN"), u"1.5") << "the code is stored as the layout has it";
+  EXPECT_EQ(kept(u"OMROption3PageAN"), u"007");
+}
+
+TEST_F(OmrSettings, ADefinitionWithMorePagesThanTheTableHoldsIsCut) {
+  std::string pages;
+  for (int page = 1; page <= 150; ++page) pages += std::to_string(page) + ",";
+  layout("Test.omr", "OptionName0=A\r\nOptionPage0=" + pages + "\r\n");
+  keep(u"OMRLayoutAN", u"Test");
+  show(31, {u"AN"}, [&] { EXPECT_EQ(number(u"cboOption(0)", u"ListCount"), 101); });
+}
+
+// ---- changes
+
+TEST_F(OmrSettings, AnotherLayoutStartsWithAllOptionsOffOnTheirFirstPage) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"Blau");
+  keep(u"OMROption0RG", u"1");
+  keep(u"OMROption0PageRG", u"2");
+  show(31, {u"RG"}, [&] {
+    choose(u"cboLayout", 3);
+    EXPECT_EQ(option(0), "0 Beileger [Alle Seiten|Erste Seite]Alle Seiten");
+    click(u"btnSave");
+  });
+  EXPECT_EQ(kept(u"OMRLayoutRG"), u"Gelb");
+  EXPECT_EQ(kept(u"OMROption0RG"), u"0");
+  EXPECT_EQ(kept(u"OMROption0PageRG"), u"ALL");
+}
+
+TEST_F(OmrSettings, ChoosingAPageTicksTheOption) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"Blau");
+  show(31, {u"RG"}, [&] {
+    choose(u"cboOption(0)", 1);
+    EXPECT_EQ(option(0), "1 Kopie [Seite 1|Seite 2|Letzte Seite]Seite 2");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMROption0RG"), u"1");
+  EXPECT_EQ(kept(u"OMROption0PageRG"), u"2");
+}
+
+TEST_F(OmrSettings, TickingAnOptionWithoutAPageTakesItsFirst) {
+  twoLayouts();
+  for (const StringView kind : {u"AN", u"AB"}) keep(u"OMRLayout" + String(kind), u"Blau");
+  keep(u"OMROption0PageAN", u"1");
+  keep(u"OMROption0PageAB", u"2");
+  show(31, {u""}, [&] {
+    selectDocuments({0, 1});
+    click(u"chkOption(0)");
+    EXPECT_EQ(option(0), "1 Kopie [Seite 1|Seite 2|Letzte Seite]Seite 1");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMROption0PageAB"), u"1");
+}
+
+TEST_F(OmrSettings, WithOnePageTheTickedOptionStoresIt) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"Blau");
+  show(31, {u"RG"}, [&] {
+    click(u"chkOption(1)");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMROption1RG"), u"1");
+  EXPECT_EQ(kept(u"OMROption1PageRG"), u"ALL");
+}
+
+TEST_F(OmrSettings, SelectAllEditsAllKindsTogether) {
+  twoLayouts();
+  show(31, {u"VG"}, [&] {
+    click(u"btnSelectAll");
+    EXPECT_EQ(documents().SelCount(), 8);
+    EXPECT_EQ(documents().ListIndex(), 0);
+    EXPECT_EQ(layoutRow(), 1);
+    choose(u"cboLayout", 2);
+    click(u"btnOK");
+  });
+  for (const StringView kind : {u"AN", u"AB", u"LS", u"RG", u"VR", u"GS", u"VG", u"BS"})
+    EXPECT_EQ(kept(u"OMRLayout" + String(kind)), u"Blau");
+}
+
+TEST_F(OmrSettings, AfterSelectAllAClickInTheListShowsTheSelectionAgain) {
+  twoLayouts();
+  keep(u"OMRLayoutAN", u"Blau");
+  show(31, {u""}, [&] {
+    click(u"btnSelectAll");
+    EXPECT_EQ(layoutRow(), -1);
+    selectDocuments({0});
+    EXPECT_EQ(layoutRow(), 2);
+  });
+}
+
+// ---- saving and leaving
+
+TEST_F(OmrSettings, NoneIsStoredAsTheEmptyText) {
+  keep(u"OMRLayoutRG", u"Default");
+  show(31, {u"RG"}, [&] {
+    choose(u"cboLayout", 0);
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMRLayoutRG"), u"");
+  EXPECT_EQ(kept(u"OMRLayoutAN"), u"Default") << "all eight kinds are written";
+  EXPECT_EQ(kept(u"OMROption4PageBS"), u"");
+}
+
+TEST_F(OmrSettings, CancelKeepsNothingAndSaysSo) {
+  twoLayouts();
+  EXPECT_EQ(show(31, {u"RG"},
+                 [&] {
+                   choose(u"cboLayout", 2);
+                   click(u"btnCancel");
+                 }),
+            Variant(false));
+  EXPECT_EQ(kept(u"OMRLayoutRG"), u"(fehlt)");
+  EXPECT_EQ(param.at(0), Variant(u"RG")) << "the parameter stays";
+}
+
+TEST_F(OmrSettings, CancelAfterSaveKeepsWhatWasTakenOver) {
+  twoLayouts();
+  EXPECT_EQ(show(31, {u"RG"},
+                 [&] {
+                   choose(u"cboLayout", 2);
+                   click(u"btnSave");
+                   choose(u"cboLayout", 3);
+                   click(u"btnCancel");
+                 }),
+            Variant(true));
+  EXPECT_EQ(kept(u"OMRLayoutRG"), u"Blau");
+}
+
+TEST_F(OmrSettings, EscDoesNothing) {
+  show(31, {u"RG"}, [&] {
+    press(key::Escape);
+    EXPECT_TRUE(form().Visible());
+  });
+}
+
+TEST_F(OmrSettings, WhatCannotBeStoredIsPassedOver) {
+  EXPECT_EQ(show(31, {u"RG"},
+                 [&] {
+                   session->fails = error::ProviderFailure;
+                   click(u"btnOK");
+                 }),
+            Variant(true));
+  EXPECT_FALSE(desktop.isHourglass());
+}
+
+}  // namespace
+}  // namespace zqn::testing

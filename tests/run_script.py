@@ -11,6 +11,7 @@ are meant. Comment lines at the top of a script say how the command is called:
 
     # args: show 21 10 --today 2026-11-21     arguments of the command (needed)
     # init: --rows 1000                       how the database is made; --sample unless said
+    # application: examples/application       a folder whose files the application folder holds at first
 
 Each run has a new database in a folder of its own, which is also its application folder. Without --ui a script
 runs on both desktops, and both must come to the same transcript. Whatever the command writes to standard error
@@ -22,6 +23,7 @@ import difflib
 import json
 import os
 import shlex
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -109,6 +111,8 @@ def transcript_of(name, desktop):
     arguments = header(name, "args")
     with tempfile.TemporaryDirectory(prefix="zqn-script-") as made:
         folder = Path(made)
+        for source in header(name, "application", []):
+            shutil.copytree(HERE.parent / source, folder, dirs_exist_ok=True)
         database = ["--db", "sqlite:stage.sqlite"]
         if call(folder, ["init", *database, *header(name, "init", ["--sample"])]).returncode != 0:
             raise Failure("the database cannot be made")

@@ -11,6 +11,7 @@
 #include "host/rows.h"
 #include "host/schema/generate.h"
 #include "host/schema/sample.h"
+#include "host/schema/sample_layouts.h"
 #include "host/schema/schema.h"
 #include "host/schema/statements.h"
 #include "runtime/locale.h"
@@ -191,6 +192,7 @@ fs::path defaultDatabaseFile() {
   fs::create_directories(file.parent_path(), failure);
   if (failure) throw cannotOpen(file, "its folder cannot be made: " + failure.message());
   createTables(file, {.sample = true});
+  writeSampleLayouts(file.parent_path());
   return file;
 }
 

@@ -7,7 +7,9 @@
 
 #include "frontend/bas_basis.h"
 #include "frontend/kinds.h"
+#include "host/auskunft/auskunft.h"
 #include "host/host.h"
+#include "host/script/scripted_auskunft.h"
 #include "host/script/scripted_user.h"
 
 namespace zqn::host {
@@ -28,6 +30,7 @@ class Recorder : public DesktopListener {
   void formShown(Form& form) override { write(script::shownLine(form)); }
   void formClosed(Form& form) override { write(script::closedLine(form)); }
   void messageBoxOpened(const MessageBox& box) override { write(script::messageBoxLine(box)); }
+  void popupMenuOpened(const Menu& menu) override { write(script::popupLine(menu)); }
   bool runtimeErrorRaised(Form&, StringView procedure, const RuntimeError& failure) override {
     write(script::errorLine(procedure, failure));
     return false;
@@ -103,6 +106,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   host.equip(dialog);
 
   if (!request.script) {
+    offerAuskunft(host.connection());
     std::unique_ptr<Recorder> recorder;
     if (transcriptFile) recorder = std::make_unique<Recorder>(desktop, *transcriptFile);
     if (recorder)
@@ -119,6 +123,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   std::ostream& transcript = transcriptFile ? *transcriptFile : std::cout;
   ScriptedUser user(desktop, hands, host.world(), faults, script, transcript);
   dialog.DblClick = [&](const Variant& key) { user.writeEvent(u"DblClick", key); };
+  const script::ScriptedAuskunft auskunft(user);
   script::ShowOutcome outcome;
   user.prepare();
   if (!user.failed()) outcome = callShow(dialog, request.kind, request.param, options.host.generic);

@@ -18,6 +18,7 @@
 
 #include "desktop/qt/text.h"
 #include "frontend/kinds.h"
+#include "host/auskunft/auskunft.h"
 #include "host/database.h"
 #include "host/desk/call_lines.h"
 #include "host/desk/dialog_titles.h"
@@ -216,6 +217,7 @@ void DeskWindow::showLines() {
 void DeskWindow::open(const DialogTitle& title) {
   if (showing_) return;
   ORBDialog dialog;
+  offerAuskunft(host_->connection());
   host_->equip(dialog);
   dialog.Multiselect(multiselect_->isChecked());
   const std::vector<String> texts = param();

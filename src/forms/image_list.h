@@ -27,6 +27,7 @@ class ImageList : public Control {
   const Picture& ListImages(int index) const;
 
   bool takesFocus() const noexcept override { return false; }
+  bool isDrawn() const noexcept override { return false; }
 
  private:
   std::vector<const Picture*> pictures_;

@@ -6,16 +6,16 @@
 #include "desktop/qt/check_box.h"
 #include "desktop/qt/combo_box.h"
 #include "desktop/qt/command_button.h"
-#include "desktop/qt/flex_grid.h"
 #include "desktop/qt/day_entry.h"
 #include "desktop/qt/decoration.h"
+#include "desktop/qt/flex_grid.h"
 #include "desktop/qt/frame.h"
 #include "desktop/qt/label.h"
 #include "desktop/qt/list_box.h"
 #include "desktop/qt/list_field.h"
 #include "desktop/qt/multi_line_text_box.h"
-#include "desktop/qt/picture_box.h"
 #include "desktop/qt/option_button.h"
+#include "desktop/qt/picture_box.h"
 #include "desktop/qt/tdb_list.h"
 #include "desktop/qt/tdb_number.h"
 #include "desktop/qt/text_box.h"
@@ -52,6 +52,7 @@ constexpr Row table[] = {
     {ControlKind::CommandButton, make<CommandButton, zqn::CommandButton>},
     {ControlKind::DateInput, make<DayEntry, zqn::DayEntry>},
     {ControlKind::Frame, make<Frame, zqn::Frame>},
+    {ControlKind::ImageList, make<Undrawn, Control>},
     {ControlKind::Label, make<Label, zqn::Label>},
     {ControlKind::MSFlexGrid, make<FlexGrid, zqn::FlexGrid>},
     {ControlKind::MSHFlexGrid, make<FlexGrid, zqn::FlexGrid>},

@@ -156,6 +156,7 @@ constexpr ControlTraits traits[] = {
     {ControlKind::CommandButton, "caption", false, nullptr},
     {ControlKind::DateInput, "text", true, nullptr},
     {ControlKind::Frame, "caption", false, nullptr},
+    {ControlKind::ImageList, nullptr, false, nullptr},
     {ControlKind::Label, "caption", false, nullptr},
     {ControlKind::MSFlexGrid, "text", true, &gridRows},
     {ControlKind::MSHFlexGrid, "text", true, &gridRows},

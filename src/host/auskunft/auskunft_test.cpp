@@ -15,6 +15,7 @@
 #include "desktop/headless/headless_desktop.h"
 #include "forms/form.h"
 #include "forms/tdb_list.h"
+#include "forms/text_box.h"
 #include "host/database.h"
 #include "runtime/testing.h"
 

@@ -113,6 +113,7 @@ def transcript_of(name, desktop):
         folder = Path(made)
         for source in header(name, "application", []):
             shutil.copytree(HERE.parent / source, folder, dirs_exist_ok=True)
+            folder.chmod(0o700)  # the copied folder's mode came along
         database = ["--db", "sqlite:stage.sqlite"]
         if call(folder, ["init", *database, *header(name, "init", ["--sample"])]).returncode != 0:
             raise Failure("the database cannot be made")

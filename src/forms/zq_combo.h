@@ -63,6 +63,7 @@ class zqCombo : public ValueEntry, public DropDown {
 
   // ---- for toolkits
 
+  bool isReadOnly() const noexcept override { return !allowedit(); }
   void userEdited(StringView text, int selStart, int selLength) override;
   bool takesKeyFirst(const KeyStroke& stroke) override { return openListTakes(stroke); }
   bool ownKey(const KeyStroke& stroke) override;

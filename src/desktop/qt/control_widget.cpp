@@ -63,6 +63,7 @@ void ControlWidget::drawColours() {
 }
 
 QString ControlWidget::shows() const {
+  if (!control_.isDrawn()) return {};
   Differences found;
   found.expect("Visible", !widget_.isHidden(), control_.Visible());
   found.expect("Enabled", widget_.isEnabledTo(widget_.parentWidget()), control_.Enabled());

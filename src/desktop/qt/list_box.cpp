@@ -43,6 +43,12 @@ void ListBox::compare(Differences& found) const {
   found.expect("ListIndex", currentRow(), model_.ListIndex());
 }
 
+void ListBox::focusInEvent(QFocusEvent* event) {
+  QListWidget::focusInEvent(event);
+  // The view would make its first row the current one.
+  sync();
+}
+
 bool ListBox::pressed(const QMouseEvent& event, bool) {
   const Qt::KeyboardModifiers held = event.modifiers();
   const int bits = ((held & Qt::ShiftModifier) != 0 ? shift::Shift : shift::None) |

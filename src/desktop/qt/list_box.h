@@ -21,6 +21,7 @@ class ListBox : public QListWidget, public ControlWidget {
  protected:
   void draw() override;
   void compare(Differences& found) const override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   void report();

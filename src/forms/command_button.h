@@ -16,7 +16,8 @@ class CommandButton : public Control {
 
   const String& Caption() const noexcept { return caption_; }
   void Caption(StringView caption);
-  /// Shown in the middle, for a button without a caption; nullptr for none. The picture must outlive the button.
+  /// Shown in the middle, for a button without a caption; nullptr for none. The picture must outlive the
+  /// button.
   const zqn::Picture* Picture() const noexcept { return picture_; }
   void Picture(const zqn::Picture* picture);
   bool Cancel() const noexcept { return cancel_; }

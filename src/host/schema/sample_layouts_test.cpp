@@ -25,12 +25,13 @@ TEST_F(SampleLayouts, AreSixThatTheDialogsCanRead) {
   writeSampleLayouts(folder);
   const LayoutFolder layouts(folder.u16string());
   std::vector<String> descriptions;
-  for (const String& name : layouts.names()) descriptions.push_back(layouts.profile(name, u"Description", u"-"));
-  EXPECT_THAT(descriptions,
-              ::testing::ElementsAre(u"Standard (ohne Kuvertiermaschine)", u"Fensterkuvert C6/5 – gefalzt",
-                                     u"Kuvertiermaschine, Groß- und Kleinformat",
-                                     u"Lieferschein mit Paritätsmarke", u"Sortiermaschine",
-                                     u"Rechnung – Überweisungsträger"));
+  for (const String& name : layouts.names())
+    descriptions.push_back(layouts.profile(name, u"Description", u"-"));
+  EXPECT_THAT(
+      descriptions,
+      ::testing::ElementsAre(u"Standard (ohne Kuvertiermaschine)", u"Fensterkuvert C6/5 – gefalzt",
+                             u"Kuvertiermaschine, Groß- und Kleinformat", u"Lieferschein mit Paritätsmarke",
+                             u"Sortiermaschine", u"Rechnung – Überweisungsträger"));
 }
 
 TEST_F(SampleLayouts, LeaveAFileThatIsThereAlone) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The information dialog while a script runs: it asks nobody, writes its line and answers what the script said
-// last, "nothing taken" at first.
+// The information dialog while a script runs: it asks nobody, writes its line and answers what the script
+// said last, "nothing taken" at first.
 #pragma once
 
 #include "host/script/scripted_user.h"

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Feeds the reader of profile files with whatever the fuzzer finds: configure with clang and -DZQN_FUZZ=ON,
-// then
-//
-//     build/profile_file_fuzz -max_total_time=60 share/layouts
+// The reader of profile files takes any bytes: what it finds it has read by the rules, and it reads nothing
+// beyond them.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

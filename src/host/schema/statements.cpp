@@ -89,12 +89,15 @@ StringView spellingOf(ColumnKind kind, const Spelling& words) {
   return words.text;
 }
 
-String columnDefinition(const Column& column, const Spelling& words) {
+String typeOf(const Column& column, const Spelling& words) {
   String type(spellingOf(column.kind, words));
   if (const auto mark = type.find(u'#'); mark != String::npos)
     type.replace(mark, 1, fromUtf8(std::to_string(column.length)));
+  return type;
+}
 
-  String definition = String(column.name) + u" " + type;
+String columnDefinition(const Column& column, const Spelling& words) {
+  String definition = String(column.name) + u" " + typeOf(column, words);
   if (column.defaultText)
     definition += u" DEFAULT " + String(words.literal) + u"'" + String(*column.defaultText) + u"'";
   definition += column.nullable ? words.nullable : u" NOT NULL";
@@ -133,6 +136,8 @@ std::vector<String> createStatements(const Table& table, Dialect dialect) {
                          String(column) + u")");
   return statements;
 }
+
+String columnType(const Column& column, Dialect dialect) { return typeOf(column, spelling(dialect)); }
 
 String insertStatement(const Table& table, Dialect) {
   const std::vector<Column> written(table.columns.begin(),

@@ -26,6 +26,9 @@ std::vector<String> preparations(Dialect dialect);
 /// SQLite each text column has the collation ZQN_TEXT, which the connection must know by then.
 std::vector<String> createStatements(const Table& table, Dialect dialect);
 
+/// The type of the column as its CREATE TABLE says it, with length and collation.
+String columnType(const Column& column, Dialect dialect);
+
 /// INSERT with a `?` for each value of a Row, in its order. The columns are named, so a Serial gets its
 /// number by itself.
 String insertStatement(const Table& table, Dialect dialect);

@@ -2,6 +2,7 @@
 #include "host/database.h"
 
 #include <cstdlib>
+#include <iostream>
 
 #include "host/database_file.h"
 #include "host/database_server.h"
@@ -26,8 +27,10 @@ Ref<ado::Connection> openDatabase(const DatabaseAddress& address) {
   return address.isServer() ? openDatabaseOnServer(address) : openDatabaseFile(address.file());
 }
 
-std::vector<std::string> findingsIn(ado::Connection& connection, const DatabaseAddress& address) {
-  return address.isServer() ? findingsOnServer(connection, address) : std::vector<std::string>();
+void tellFindings(ado::Connection& connection, const DatabaseAddress& address) {
+  if (!address.isServer()) return;
+  for (const std::string& finding : findingsOnServer(connection, address))
+    std::cerr << "zqn-dialog: " << finding << "\n";
 }
 
 Created createTables(const DatabaseAddress& address, const Content& content) {

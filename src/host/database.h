@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "ado/connection.h"
 #include "host/database_address.h"
@@ -25,10 +24,10 @@ std::filesystem::path dataFolder();
 /// on it.
 Ref<ado::Connection> openDatabase(const DatabaseAddress& address);
 
-/// What the dialogs will meet in an open database of a server that they do not expect: a table or a column
-/// that is missing or of another type, texts that it cannot hold. A sentence each, with what would be right;
-/// none for a file.
-std::vector<std::string> findingsIn(ado::Connection& connection, const DatabaseAddress& address);
+/// Tells on standard error what the dialogs will stumble over in an open database of a server: a table or a
+/// column that is missing or of another type, texts that it cannot hold. A line each, with what would be
+/// right; nothing for a file.
+void tellFindings(ado::Connection& connection, const DatabaseAddress& address);
 
 /// Creates all tables of the system and their rows. A file is made when there is none, its folder must exist;
 /// the database of a server must be there. Refuses when one of the tables exists already. After a failure the

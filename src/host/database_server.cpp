@@ -54,7 +54,9 @@ Ref<ado::Connection> connect(const DatabaseAddress& address) {
 
 ServerCatalogue catalogueOf(ado::Connection& connection, Dialect dialect, const DatabaseAddress& address) {
   try {
-    return readCatalogue(connection, dialect);
+    ServerCatalogue catalogue = readCatalogue(connection, dialect);
+    if (!catalogue.hasDatabase) throw cannotOpen(address, "names no database; add Database=NAME");
+    return catalogue;
   } catch (const RuntimeError& failure) {
     throw cannotOpen(address, oneLine(failure.description()));
   }

@@ -20,8 +20,8 @@ namespace zqn::host {
 /// when it does not let the user in, or when the database has no table of the system.
 Ref<ado::Connection> openDatabaseOnServer(const DatabaseAddress& address);
 
-/// See findingsIn in database.h; nothing for a product that is not known. CommandFailure (CannotOpen) when
-/// the server cannot be asked.
+/// A sentence for each finding that database.h speaks of; nothing for a product that is not known.
+/// CommandFailure (CannotOpen) when the server cannot be asked.
 std::vector<std::string> findingsOnServer(ado::Connection& connection, const DatabaseAddress& address);
 
 /// CommandFailure (CannotOpen) when it cannot be done; no table is left behind then.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/host.h"
 
-#include <iostream>
-
 #include "contract/object_factory.h"
 #include "contract/ws_profile.h"
 #include "host/database.h"
@@ -38,8 +36,7 @@ Host::Host(const HostOptions& options)
                                              options.admin)),
       handsSessionOver_(options.session),
       multiselect_(options.multiselect) {
-  for (const std::string& finding : findingsIn(*connection_, address_))
-    std::cerr << "zqn-dialog: " << finding << "\n";
+  tellFindings(*connection_, address_);
   for (const SettingForRun& setting : options.settings) {
     const String user = setting.ofUser ? session_->user() : String();
     session_->settings().setForRun({setting.section, setting.key, user}, setting.value);

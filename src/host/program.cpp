@@ -25,6 +25,7 @@ void init(const Options& options) {
   const Created created = createTables(address, {.sample = options.init.sample, .rows = options.init.rows});
   std::cout << "created " << created.tables << " tables with " << created.rows << " rows in "
             << address.shown() << "\n";
+  tellFindings(*openDatabase(address), address);
 }
 
 ExitStatus run(const Options& options, const WithWindows& withWindows) {

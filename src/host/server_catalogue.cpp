@@ -18,6 +18,8 @@ struct Questions {
   StringView columns;
   /// One value: the encoding of the database, empty where it holds every text.
   StringView narrow = {};
+  /// One value: the name of the database; Null for none.
+  StringView database = {};
   /// One value: 1 where the names of tables distinguish case.
   StringView tablesDistinguishCase = {};
 };
@@ -38,6 +40,7 @@ const Questions& questions(Dialect dialect) {
           u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN CHARACTER_SET_NAME IN ('utf8mb4', "
           u"'utf16', 'utf16le', 'utf32') THEN '' ELSE COALESCE(CHARACTER_SET_NAME, '') END "
           u"FROM information_schema.COLUMNS WHERE TABLE_SCHEMA = DATABASE()",
+      .database = u"SELECT DATABASE()",
       .tablesDistinguishCase = u"SELECT CASE WHEN @@lower_case_table_names = 0 THEN 1 ELSE 0 END",
   };
   static constexpr Questions sqlServer{
@@ -172,6 +175,7 @@ std::optional<Dialect> dialectOf(StringView product) {
 ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect) {
   const Questions& ask = questions(dialect);
   ServerCatalogue catalogue{.dialect = dialect, .columns = {}};
+  catalogue.hasDatabase = ask.database.empty() || !answer(connection, ask.database).isNull();
   const ado::RowStore rows = runStatement(connection, ask.columns).rows;
   for (int row = 0; row < rows.rows(); ++row)
     catalogue.columns.push_back(

@@ -25,6 +25,8 @@ struct ServerColumn {
 
 struct ServerCatalogue {
   Dialect dialect = Dialect::PostgreSql;
+  /// False on a server where a session may have none.
+  bool hasDatabase = true;
   /// Those that a statement reaches by the bare name of the table, in any order.
   std::vector<ServerColumn> columns;
   /// The encoding of the whole database, when that cannot hold every text; else empty.
@@ -42,8 +44,7 @@ ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect);
 /// The tables of the system that the database has, as the system spells them.
 std::vector<StringView> systemTablesIn(const ServerCatalogue& catalogue);
 
-/// A sentence for each thing that a dialog will stumble over, with what would be right; see findingsIn in
-/// database.h.
+/// A sentence for each thing that a dialog will stumble over, with what would be right.
 std::vector<std::string> findings(const ServerCatalogue& catalogue);
 
 }  // namespace zqn::host

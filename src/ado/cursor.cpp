@@ -16,14 +16,8 @@ namespace {
 constexpr std::size_t SmallResult = 16;
 constexpr std::size_t AllRows = std::numeric_limits<std::size_t>::max();
 
-bool haveHandles(const Columns& columns) {
-  return std::ranges::any_of(columns, [](const Column& column) { return column.rowHandle; });
-}
-
-std::unique_ptr<Cursor> keysetCursor(Connection& connection, StringView statement) {
-  auto keyset = connection.provider().keyset(statement);
-  if (!keyset) return nullptr;
-  return std::make_unique<KeysetCursor>(connection.provider(), statement, std::move(keyset));
+bool has(const Columns& columns, bool Column::*mark) {
+  return std::ranges::any_of(columns, [&](const Column& column) { return column.*mark; });
 }
 
 }  // namespace
@@ -45,29 +39,36 @@ int Cursor::scan(const Criterion& criterion, int from, int direction, RowStore& 
 std::unique_ptr<Cursor> openCursor(Connection& connection, StringView statement, CursorKind kind,
                                    bool keyed) {
   const sql::Shape shape(statement);
+  Provider& provider = connection.provider();
   const bool server = kind == CursorKind::Server;
   // What is sorted is a list, and its rows are not read before they are shown.
   if (server && shape.ordered) {
-    if (auto cursor = keysetCursor(connection, statement)) return cursor;
+    if (auto keyset = provider.keyset(statement))
+      return std::make_unique<KeysetCursor>(provider, statement, std::move(keyset));
   }
   const Purpose purpose = server || keyed ? Purpose::Keyed : Purpose::Plain;
-  const auto once = shape.recurs ? nullptr : connection.provider().prepare(shape.text, purpose);
+  const auto once = shape.recurs ? nullptr : provider.prepare(shape.text, purpose);
   Statement& prepared = once ? *once : connection.statement(shape.text, purpose);
   auto running = std::make_optional<RunningStatement>(prepared, shape.parameters());
   const std::shared_ptr<const Columns> columns = prepared.columns();
   if (columns->empty()) return nullptr;
 
   RowStore rows(static_cast<int>(columns->size()));
-  if (server && haveHandles(*columns)) {
-    if (!prepared.fetch(rows, SmallResult)) {
-      return std::make_unique<KeysetCursor>(connection.provider(), statement, columns, std::move(rows));
-    }
+  bool all = false;
+  if (server && has(*columns, &Column::key)) {
+    all = !prepared.fetch(rows, SmallResult);
     running.reset();
-    if (auto cursor = keysetCursor(connection, statement)) return cursor;
-    rows.clear(rows.columns());
-    running.emplace(prepared, shape.parameters());
+    const bool handles = has(*columns, &Column::rowHandle);
+    auto keyset = all && handles ? nullptr : provider.keyset(statement, columns);
+    if (all && (handles || keyset))
+      return std::make_unique<KeysetCursor>(provider, statement, columns, std::move(rows), std::move(keyset));
+    if (keyset) return std::make_unique<KeysetCursor>(provider, statement, std::move(keyset));
+    if (!all) {
+      rows.clear(rows.columns());
+      running.emplace(prepared, shape.parameters());
+    }
   }
-  while (prepared.fetch(rows, AllRows)) {
+  while (!all && prepared.fetch(rows, AllRows)) {
   }
   return std::make_unique<SnapshotCursor>(connection, statement, columns, std::move(rows));
 }

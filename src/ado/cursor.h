@@ -34,8 +34,9 @@ class Cursor {
 
   /// The row has been written with these values, one a column, Empty for those that were left alone.
   virtual void updated(int row, const std::vector<Variant>& values) = 0;
-  /// A row has been inserted, with a handle where rows have one; it is the last one from now on.
-  virtual void inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) = 0;
+  /// A row has been inserted with these values, as above; it is the last one from now on. All rows were known
+  /// before.
+  virtual void inserted(const std::vector<Variant>& values) = 0;
 
  protected:
   /// find, row by row.

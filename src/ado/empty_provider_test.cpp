@@ -33,8 +33,8 @@ class EmptyProvider : public Provider {
     ++prepared;
     return std::make_unique<EmptyStatement>(text.starts_with(u"SELECT"));
   }
-  String sameValue(const Column& column) const override {
-    return quoted(column.baseColumn) + u" IS NOT DISTINCT FROM ?";
+  Condition sameValue(const Column& column, const Value& read) const override {
+    return {quoted(column.baseColumn) + u" IS NOT DISTINCT FROM ?", {read}};
   }
   String name() const override { return u"Empty"; }
 

@@ -19,15 +19,17 @@ KeysetCursor::KeysetCursor(Provider& provider, StringView statement, std::unique
 }
 
 KeysetCursor::KeysetCursor(Provider& provider, StringView statement, std::shared_ptr<const Columns> columns,
-                           RowStore rows)
+                           RowStore rows, std::unique_ptr<Keyset> keyset)
     : provider_(provider),
       statement_(statement),
+      keyset_(std::move(keyset)),
       columns_(std::move(columns)),
       complete_(true),
       first_(std::move(rows)) {
   const auto handle = std::ranges::find_if(*columns_, &Column::rowHandle);
   const int column = static_cast<int>(handle - columns_->begin());
-  for (int row = 0; row < first_.rows(); ++row) handles_.push_back(first_.at(row, column).integer);
+  for (int row = 0; row < first_.rows(); ++row)
+    handles_.push_back(keyset_ ? keyset_->handleOf({&first_, row}) : first_.at(row, column).integer);
 }
 
 Keyset& KeysetCursor::keyset() {
@@ -105,10 +107,15 @@ int KeysetCursor::firstAmong(const std::vector<RowHandle>& matches, int from, in
   return -1;
 }
 
-void KeysetCursor::inserted(std::optional<RowHandle> handle, const std::vector<Variant>&) {
-  fetchAll();
+void KeysetCursor::updated(int row, const std::vector<Variant>& values) {
   first_.clear(0);
-  if (handle) handles_.push_back(*handle);
+  // Without a keyset the handles are the database's own, which no write changes.
+  if (keyset_) keyset_->written(handles_[static_cast<std::size_t>(row)], values);
+}
+
+void KeysetCursor::inserted(const std::vector<Variant>& values) {
+  first_.clear(0);
+  if (const auto handle = keyset().inserted(values)) handles_.push_back(*handle);
 }
 
 }  // namespace zqn::ado

@@ -15,10 +15,10 @@ class KeysetCursor : public Cursor {
  public:
   /// The keys are read through `keyset`, the first ones now.
   KeysetCursor(Provider& provider, StringView statement, std::unique_ptr<Keyset> keyset);
-  /// `rows` are all there are, with their handles in a column of their own; the first one need not be read
-  /// again.
+  /// `rows` are all there are; the first one need not be read again. Without a `keyset` they have their
+  /// handles in a column of their own.
   KeysetCursor(Provider& provider, StringView statement, std::shared_ptr<const Columns> columns,
-               RowStore rows);
+               RowStore rows, std::unique_ptr<Keyset> keyset);
 
   const Columns& columns() const override { return *columns_; }
   int knownRows() const noexcept override { return static_cast<int>(handles_.size()); }
@@ -27,8 +27,8 @@ class KeysetCursor : public Cursor {
   RowView row(int row, RowStore& buffer) override;
   bool readsRows() const noexcept override { return true; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
-  void updated(int, const std::vector<Variant>&) override { first_.clear(0); }
-  void inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) override;
+  void updated(int row, const std::vector<Variant>& values) override;
+  void inserted(const std::vector<Variant>& values) override;
 
  private:
   Keyset& keyset();

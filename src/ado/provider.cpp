@@ -5,9 +5,8 @@
 
 namespace zqn::ado {
 
-std::unique_ptr<Keyset> Provider::keyset(StringView) { return nullptr; }
-
-std::optional<RowHandle> Provider::insertedRow() const { return {}; }
+std::unique_ptr<Keyset> Provider::keyset(StringView, std::shared_ptr<const Columns>) {
+  return nullptr; }
 
 String Provider::quoted(StringView identifier) const { return sql::quoted(identifier); }
 

@@ -16,6 +16,7 @@
 
 #include "ado/row_store.h"
 #include "runtime/string.h"
+#include "runtime/variant.h"
 
 namespace zqn::ado {
 
@@ -35,7 +36,7 @@ struct Column {
   bool key = false;
   /// Added by the provider behind the statement's own columns (Purpose::Keyed); no Field shows it.
   bool hidden = false;
-  /// The value is the row's RowHandle; `keyset` of the same SELECT can read the row by it.
+  /// The value is the row's RowHandle itself.
   bool rowHandle = false;
 };
 using Columns = std::vector<Column>;
@@ -61,6 +62,12 @@ class Statement {
   virtual std::int64_t rowsAffected() const = 0;
 };
 
+/// A piece of a WHERE, with a `?` for each parameter.
+struct Condition {
+  String text;
+  std::vector<Value> parameters;
+};
+
 /// A comparison that the database is asked to answer by its index.
 struct ColumnEquals {
   int column = 0;
@@ -76,6 +83,14 @@ class Keyset {
   virtual std::shared_ptr<const Columns> columns() const = 0;
   /// Adds the next handles, `atMost` of them. False when these were the last.
   virtual bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) = 0;
+  /// The handle of a row that a Keyed statement of the same SELECT has read.
+  virtual RowHandle handleOf(const RowView& row) = 0;
+  /// This connection has inserted a row with these values, one a column, Empty for those that were left to
+  /// the database; nothing else has run since. Its handle, where it can be told.
+  virtual std::optional<RowHandle> inserted(const std::vector<Variant>& values) = 0;
+  /// This connection has written these values into a row, Empty for those that were left alone: the handle
+  /// goes on naming it, whatever its key is now.
+  virtual void written(RowHandle row, const std::vector<Variant>& values) = 0;
   /// Adds that row's values to `rows`; false (and nothing added) when the row is gone.
   virtual bool readRow(RowHandle row, RowStore& rows) = 0;
   /// Handles of the rows of the table, in any order, for which all comparisons hold, each with a column that
@@ -98,16 +113,15 @@ class Provider {
   /// `?` in `text` marks a parameter. A text of more than one statement is a syntax error (-2147217900).
   virtual std::unique_ptr<Statement> prepare(StringView text, Purpose purpose) = 0;
   /// The same SELECT by its keys, or nullptr where that is not possible; the engine then reads all rows.
-  /// `text` has no parameters.
-  virtual std::unique_ptr<Keyset> keyset(StringView text);
-  /// Handle of the row that the last INSERT made, where rows have handles.
-  virtual std::optional<RowHandle> insertedRow() const;
+  /// `text` has no parameters; `known` are the columns of a Keyed statement of the same SELECT, where one has
+  /// been opened.
+  virtual std::unique_ptr<Keyset> keyset(StringView text, std::shared_ptr<const Columns> known = nullptr);
 
   /// An identifier as it stands in a statement, whatever letters it has. Default: in double quotes.
   virtual String quoted(StringView identifier) const;
-  /// A condition with one `?` that holds exactly when the stored value of the column is, byte for byte, the
-  /// parameter, Null included.
-  virtual String sameValue(const Column& column) const = 0;
+  /// Holds exactly when the stored value of the column is, byte for byte, the one that was read, Null
+  /// included. It refers to the text of `read`.
+  virtual Condition sameValue(const Column& column, const Value& read) const = 0;
 
   /// Source of the errors, as in "SQLite".
   virtual String name() const = 0;

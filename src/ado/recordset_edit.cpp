@@ -111,6 +111,8 @@ void Recordset::Update() {
 }
 
 void Recordset::insertRow() {
+  // Which rows a list has is settled before there is another one.
+  cursor_->fetchAll();
   const Provider& provider = connection_->provider();
   const Columns& columns = cursor_->columns();
   String names, marks;
@@ -125,7 +127,7 @@ void Recordset::insertRow() {
   text += names.empty() ? u" DEFAULT VALUES" : u" (" + names + u") VALUES (" + marks + u")";
   const RunningStatement run(connection_->statement(text, Purpose::Plain), parameters);
 
-  cursor_->inserted(provider.insertedRow(), assigned_);
+  cursor_->inserted(assigned_);
   endEdit();
   goTo(cursor_->knownRows() - 1);
 }
@@ -143,8 +145,9 @@ void Recordset::updateRow() {
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const bool changed = i < assigned_.size() && !assigned_[i].isEmpty();
     if (!columns[i].key && !changed) continue;
-    conditions += (conditions.empty() ? u"" : u" AND ") + provider.sameValue(columns[i]);
-    parameters.push_back(current().at(static_cast<int>(i)));
+    const Condition same = provider.sameValue(columns[i], current().at(static_cast<int>(i)));
+    conditions += (conditions.empty() ? u"" : u" AND ") + same.text;
+    parameters.insert(parameters.end(), same.parameters.begin(), same.parameters.end());
   }
   const String text =
       u"UPDATE " + provider.quoted(tableOf(columns)) + u" SET " + changes + u" WHERE " + conditions;

@@ -42,9 +42,10 @@ void SnapshotCursor::updated(int row, const std::vector<Variant>& values) {
   }
 }
 
-void SnapshotCursor::inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) {
+void SnapshotCursor::inserted(const std::vector<Variant>& values) {
   indexes_.clear();
-  unread_ = handle;
+  if (!reader_) reader_ = connection_.provider().keyset(statement_, columns_);
+  if (reader_) unread_ = reader_->inserted(values);
   for (std::size_t column = 0; column < columns_->size(); ++column) {
     rows_.add(column < values.size() ? storedAs(values[column]) : Value{});
   }
@@ -52,10 +53,9 @@ void SnapshotCursor::inserted(std::optional<RowHandle> handle, const std::vector
 
 void SnapshotCursor::readInserted() {
   const RowHandle handle = *unread_;
-  const auto keyset = connection_.provider().keyset(statement_);
   unread_.reset();
   RowStore read(rows_.columns());
-  if (!keyset || !keyset->readRow(handle, read)) return;
+  if (!reader_->readRow(handle, read)) return;
   for (int column = 0; column < rows_.columns(); ++column)
     rows_.set(rows_.rows() - 1, column, read.at(0, column));
 }

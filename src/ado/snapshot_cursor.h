@@ -25,7 +25,7 @@ class SnapshotCursor : public Cursor {
   bool readsRows() const noexcept override { return false; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;
-  void inserted(std::optional<RowHandle> handle, const std::vector<Variant>& values) override;
+  void inserted(const std::vector<Variant>& values) override;
 
  private:
   const ValueIndex& index(int column);
@@ -36,8 +36,9 @@ class SnapshotCursor : public Cursor {
   std::shared_ptr<const Columns> columns_;
   RowStore rows_;
   std::map<int, ValueIndex> indexes_;
-  /// The last row, inserted and not read back so far.
+  /// The last row, inserted and not read back so far, with what can read it.
   std::optional<RowHandle> unread_;
+  std::unique_ptr<Keyset> reader_;
 };
 
 }  // namespace zqn::ado

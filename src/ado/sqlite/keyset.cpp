@@ -27,7 +27,7 @@ std::unique_ptr<SqliteKeyset> SqliteKeyset::make(std::shared_ptr<Session> sessio
 
 SqliteKeyset::SqliteKeyset(std::shared_ptr<Session> session, const KeyedSelect& keyed)
     : session_(std::move(session)),
-      keysOnly_(keysOnly(keyed)),
+      keysOnly_(sql::keysOnly(keyed.select, keyed.columns, {keyed.rowId})),
       from_(keyed.select.from),
       rowId_(keyed.rowId) {}
 
@@ -106,6 +106,11 @@ bool SqliteKeyset::fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) {
   // A list that could not be read to its end never counts as complete.
   if (!more && failure_ && keys.size() == before) throw *failure_;
   return more || failure_;
+}
+
+RowHandle SqliteKeyset::handleOf(const RowView& row) {
+  const auto handle = std::ranges::find_if(*columns_, &Column::rowHandle);
+  return row.at(static_cast<int>(handle - columns_->begin())).integer;
 }
 
 bool SqliteKeyset::readRow(RowHandle row, RowStore& rows) {

@@ -5,6 +5,7 @@
 // could not see the same rows, all handles are read at once.
 #pragma once
 
+#include "ado/select_text.h"
 #include "ado/sqlite/select.h"
 
 namespace zqn::ado::sqlite {
@@ -32,6 +33,11 @@ class SqliteKeyset : public Keyset {
 
   std::shared_ptr<const Columns> columns() const override { return columns_; }
   bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) override;
+  RowHandle handleOf(const RowView& row) override;
+  std::optional<RowHandle> inserted(const std::vector<Variant>&) override {
+    return sqlite3_last_insert_rowid(session_->database->get());
+  }
+  void written(RowHandle, const std::vector<Variant>&) override {}
   bool readRow(RowHandle row, RowStore& rows) override;
   std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) override;
 
@@ -45,7 +51,7 @@ class SqliteKeyset : public Keyset {
 
   std::shared_ptr<Session> session_;
   std::shared_ptr<const Columns> columns_;
-  KeysOnly keysOnly_;
+  sql::KeysOnly keysOnly_;
   String from_, rowId_;
   StatementHandle rowStatement_;
   StatementHandle whereStatement_;

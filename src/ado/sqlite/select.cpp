@@ -5,6 +5,7 @@
 #include <array>
 
 #include "ado/enums.h"
+#include "ado/select_text.h"
 #include "runtime/locale.h"
 
 namespace zqn::ado::sqlite {
@@ -73,14 +74,6 @@ Table tableInfo(const Database& database, StringView name) {
   return table;
 }
 
-/// "SELECT list, hidden FROM table rest" over lines of their own, as a piece may end in a comment.
-String selectText(const sql::PlainSelect& select, const std::vector<String>& hidden, StringView rest) {
-  String text = u"SELECT " + String(select.list);
-  for (const String& column : hidden) text += u"\n," + column;
-  text += u"\nFROM " + String(select.from);
-  return (text += u"\n").append(rest);
-}
-
 StatementHandle tryPrepare(const Database& database, StringView text) {
   try {
     return database.prepare(text);
@@ -125,7 +118,7 @@ std::optional<KeyedSelect> keyedSelect(const Database& database, StringView text
   const auto prepare = [&] {
     const String byHandle = u"WHERE " + keyed.rowId + u"=?";
     const StringView rest = rows == RowsOf::OneHandle ? StringView(byHandle) : select->rest;
-    keyed.statement = tryPrepare(database, selectText(*select, hidden, rest));
+    keyed.statement = tryPrepare(database, sql::selectText(*select, hidden, rest));
     if (keyed.statement) keyed.columns = describe(keyed.statement.get());
     return keyed.statement != nullptr;
   };
@@ -157,41 +150,6 @@ std::optional<KeyedSelect> keyedSelect(const Database& database, StringView text
                  });
   }
   return keyed;
-}
-
-namespace {
-
-/// The ORDER BY refers to the list, by a number or by a name that the list gives.
-bool sortsByList(const KeyedSelect& keyed) {
-  sql::Scanner scanner(keyed.select.rest);
-  bool sorting = false;
-  sql::Token before;
-  for (sql::Token token = scanner.next(); token.kind != sql::Token::Kind::End; token = scanner.next()) {
-    sorting = sorting || (token.depth == 0 && token.is(u"ORDER"));
-    const bool byNumber =
-        token.kind == sql::Token::Kind::Number && (before.is(u"BY") || before.isSymbol(u","));
-    if (sorting && byNumber) return true;
-    before = token;
-    if (token.kind != sql::Token::Kind::Word && token.kind != sql::Token::Kind::Name) continue;
-    const bool given = std::ranges::any_of(keyed.columns, [&](const Column& column) {
-      return sameName(column.name, token.unquoted()) && !sameName(column.name, column.baseColumn);
-    });
-    if (given) return true;
-  }
-  return false;
-}
-
-}  // namespace
-
-KeysOnly keysOnly(const KeyedSelect& keyed) {
-  if (!sortsByList(keyed)) {
-    sql::PlainSelect select = keyed.select;
-    select.list = keyed.rowId;
-    return {selectText(select, {}, select.rest), 0};
-  }
-  const auto handle = std::ranges::find_if(keyed.columns, &Column::rowHandle);
-  return {selectText(keyed.select, {keyed.rowId}, keyed.select.rest),
-          static_cast<int>(handle - keyed.columns.begin())};
 }
 
 }  // namespace zqn::ado::sqlite

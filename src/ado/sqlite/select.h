@@ -30,12 +30,4 @@ enum class RowsOf { Statement, OneHandle };  // OneHandle: the row whose handle 
 /// No value when the statement is not of that kind, or does not prepare. `text` must outlive the result.
 std::optional<KeyedSelect> keyedSelect(const Database& database, StringView text, RowsOf rows);
 
-/// The same rows in the same order, the handle in one column. The list of the select is left out, so that an
-/// index alone can answer, unless the rows are sorted by something that the list gives.
-struct KeysOnly {
-  String text;
-  int column = 0;
-};
-KeysOnly keysOnly(const KeyedSelect& keyed);
-
 }  // namespace zqn::ado::sqlite

@@ -23,15 +23,12 @@ class SqliteProvider : public Provider {
   std::unique_ptr<Statement> prepare(StringView text, Purpose purpose) override {
     return std::make_unique<sqlite::SqliteStatement>(session_->database, text, purpose);
   }
-  std::unique_ptr<Keyset> keyset(StringView text) override {
+  std::unique_ptr<Keyset> keyset(StringView text, std::shared_ptr<const Columns>) override {
     return sqlite::SqliteKeyset::make(session_, text);
   }
-  std::optional<RowHandle> insertedRow() const override {
-    return sqlite3_last_insert_rowid(session_->database->get());
-  }
-  String sameValue(const Column& column) const override {
-    if (column.rowHandle) return column.baseColumn + u"=?";
-    return quoted(column.baseColumn) + (isTextType(column.type) ? u" COLLATE BINARY IS ?" : u" IS ?");
+  Condition sameValue(const Column& column, const Value& read) const override {
+    if (column.rowHandle) return {column.baseColumn + u"=?", {read}};
+    return {quoted(column.baseColumn) + (isTextType(column.type) ? u" COLLATE BINARY IS ?" : u" IS ?"), {read}};
   }
   String name() const override { return sqlite::SourceName; }
 

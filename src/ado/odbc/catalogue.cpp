@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/catalogue.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ado/odbc/wide.h"
+#include "runtime/locale.h"
+
+namespace zqn::ado::odbc {
+
+namespace {
+
+/// The rows that a catalogue function of ODBC gives, column by column from 1 in ascending order.
+class CatalogueRows {
+ public:
+  explicit CatalogueRows(Link& link) : link_(link), handle_(link.statement()) {}
+
+  SQLHSTMT handle() const noexcept { return handle_.get(); }
+  void require(SQLRETURN result) {
+    if (!SQL_SUCCEEDED(result)) throw link_.failure(handle_);
+  }
+  bool next() {
+    const SQLRETURN result = SQLFetch(handle_.get());
+    if (result == SQL_NO_DATA) return false;
+    require(result);
+    return true;
+  }
+  String text(SQLUSMALLINT column) {
+    std::array<SQLWCHAR, 260> buffer = {};
+    SQLLEN bytes = 0;
+    require(SQLGetData(handle_.get(), column, SQL_C_WCHAR, buffer.data(), sizeof buffer, &bytes));
+    return bytes == SQL_NULL_DATA ? String() : String(asText(buffer.data()));
+  }
+  int number(SQLUSMALLINT column) {
+    SQLINTEGER value = 0;
+    SQLLEN bytes = 0;
+    require(SQLGetData(handle_.get(), column, SQL_C_SLONG, &value, 0, &bytes));
+    return bytes == SQL_NULL_DATA ? 0 : value;
+  }
+
+ private:
+  Link& link_;
+  Handle handle_;
+};
+
+SQLSMALLINT length(StringView text) { return static_cast<SQLSMALLINT>(text.size()); }
+
+/// nullptr, no restriction, for an empty schema.
+SQLWCHAR* orAny(StringView text) { return text.empty() ? nullptr : asWide(text); }
+
+}  // namespace
+
+const TableInfo::Column* TableInfo::column(StringView asked) const {
+  const auto found = std::ranges::find_if(
+      columns, [&](const Column& one) { return compareIgnoringCase(one.name, asked) == 0; });
+  return found == columns.end() ? nullptr : &*found;
+}
+
+const TableInfo* Catalogue::table(StringView asked) {
+  const auto known = tables_.find(asked);
+  if (known != tables_.end()) return known->second ? &*known->second : nullptr;
+  const auto& all = names();
+  auto found = std::ranges::find(all, asked, &Name::table);
+  if (found == all.end())
+    found = std::ranges::find_if(all,
+                                 [&](const Name& one) { return compareIgnoringCase(one.table, asked) == 0; });
+  auto& place = tables_[String(asked)];
+  if (found == all.end()) return nullptr;
+  place = read(*found);
+  return &*place;
+}
+
+void Catalogue::forget() noexcept {
+  names_.reset();
+  tables_.clear();
+}
+
+const std::vector<Catalogue::Name>& Catalogue::names() {
+  if (names_) return *names_;
+  CatalogueRows rows(link_);
+  static constexpr StringView types = u"TABLE,VIEW";
+  rows.require(SQLTablesW(rows.handle(), nullptr, 0, nullptr, 0, nullptr, 0, asWide(types), length(types)));
+  std::vector<Name> names;
+  while (rows.next()) {
+    Name name{rows.text(2), rows.text(3)};
+    if (name.schema != u"information_schema" && name.schema != u"INFORMATION_SCHEMA" && name.schema != u"sys")
+      names.push_back(std::move(name));
+  }
+  return names_.emplace(std::move(names));
+}
+
+TableInfo Catalogue::read(const Name& name) {
+  TableInfo table{name.table, {}, {}};
+  {
+    CatalogueRows rows(link_);
+    rows.require(SQLColumnsW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
+                             asWide(name.table), length(name.table), nullptr, 0));
+    while (rows.next()) {
+      // The name is taken for a pattern, in which an underscore stands for any character.
+      if (rows.text(3) != name.table) continue;
+      const String column = rows.text(4);
+      table.columns.push_back({column, rows.number(5) == SQL_BIT});
+    }
+  }
+  CatalogueRows rows(link_);
+  rows.require(SQLPrimaryKeysW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
+                               asWide(name.table), length(name.table)));
+  std::vector<std::pair<int, String>> key;
+  while (rows.next()) {
+    String column = rows.text(4);
+    key.emplace_back(rows.number(5), std::move(column));
+  }
+  std::ranges::sort(key);
+  for (auto& part : key) table.key.push_back(std::move(part.second));
+  return table;
+}
+
+}  // namespace zqn::ado::odbc

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+//
+// Inside the ODBC provider: what a product says in other words. A product is a row of dialect.cpp; one that
+// is not there is taken at its word (standard SQL).
+#pragma once
+
+#include <vector>
+
+#include "runtime/string.h"
+
+namespace zqn::ado::odbc {
+
+struct Dialect {
+  /// As the driver reports it.
+  StringView product;
+  /// Keys that the driver must be given, appended to a connection string that does not have them.
+  std::vector<std::pair<StringView, StringView>> connection = {};
+  /// Run on each new connection.
+  std::vector<StringView> start = {};
+
+  /// Names without quotes are stored in lower case.
+  bool lowerCaseNames = false;
+  /// Names of tables may distinguish case, however they are written.
+  bool exactTableNames = false;
+  /// A Boolean column compares with True and False alone.
+  bool strictBooleans = false;
+  /// A TINYINT column holds yes or no.
+  bool tinyIsBoolean = false;
+  /// True and False are no words.
+  bool noTruthWords = false;
+  /// A parameter is sent as a text, and the server takes it for what its place needs.
+  bool untypedParameters = false;
+  /// The driver is quicker with UTF-8 than with UTF-16.
+  bool utf8Texts = false;
+  /// A literal beyond ASCII needs N before it.
+  bool nationalLiterals = false;
+  /// LIKE distinguishes case, or is refused on the columns of this system; this stands in its place.
+  StringView like = {};
+  /// Makes a text comparison one of bytes: before and behind the column.
+  StringView exactBefore = {}, exactBehind = {};
+  /// BEGIN, and an INSERT without values, as the server writes them.
+  StringView begin = u"BEGIN";
+  StringView defaultValues = u"DEFAULT VALUES";
+  /// The number that the last INSERT of this connection got; empty where there is no such thing.
+  StringView lastNumber = {};
+  /// Begins a transaction that shows one state of the database and writes nothing; empty where a list reads
+  /// all its keys at once.
+  std::vector<StringView> snapshot = {};
+};
+
+/// The row for a product; never fails.
+const Dialect& dialectOf(StringView product);
+
+}  // namespace zqn::ado::odbc

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/keyset.h"
+
+#include <algorithm>
+
+#include "ado/field_values.h"
+#include "ado/odbc/query.h"
+
+namespace zqn::ado::odbc {
+
+namespace {
+
+constexpr std::size_t FirstPage = 1024;
+constexpr std::size_t Growth = 8;
+constexpr std::size_t LargestPage = FirstPage * Growth * Growth * Growth;
+constexpr std::size_t AllAtOnce = 0;
+
+String number(std::size_t value) { return fromUtf8(std::to_string(value)); }
+
+}  // namespace
+
+std::unique_ptr<OdbcKeyset> OdbcKeyset::make(std::shared_ptr<Session> session, StringView text,
+                                             std::shared_ptr<const Columns> known) {
+  auto select = KeyedSelect::of(text, session->catalogue());
+  if (!select) return nullptr;
+  if (!known) {
+    const auto describe = [&](const std::vector<String>& hidden) {
+      Query& query = session->kept(session->translated(select->oneRow(hidden)).text);
+      query.describe();
+      return query.columns();
+    };
+    Columns columns;
+    std::vector<String> hidden;
+    try {
+      columns = describe(hidden);
+      hidden = select->missing(columns);
+      if (!hidden.empty()) columns = describe(hidden);
+    } catch (const RuntimeError&) {
+      // What is wrong with it the statement itself will show.
+      return nullptr;
+    }
+    if (!select->mark(columns, hidden.size())) return nullptr;
+    known = std::make_shared<const Columns>(std::move(columns));
+  }
+  return std::unique_ptr<OdbcKeyset>(
+      new OdbcKeyset(std::move(session), std::move(*select), std::move(known)));
+}
+
+OdbcKeyset::OdbcKeyset(std::shared_ptr<Session> session, KeyedSelect select,
+                       std::shared_ptr<const Columns> columns)
+    : session_(std::move(session)),
+      select_(std::move(select)),
+      columns_(std::move(columns)),
+      keyColumns_(select_.positions(*columns_)),
+      keys_(static_cast<int>(keyColumns_.size())) {
+  std::vector<String> hidden;
+  for (const Column& column : *columns_)
+    if (column.hidden) hidden.push_back(sql::quoted(column.baseColumn));
+  rowText_ = session_->translated(select_.oneRow(hidden)).text;
+}
+
+OdbcKeyset::~OdbcKeyset() { end(); }
+
+void OdbcKeyset::begin() {
+  begun_ = true;
+  keysOnly_ = select_.keysInOrder(*columns_);
+  Link& link = session_->link();
+  // What the caller has not committed yet, another connection does not see.
+  const bool inPages =
+      !session_->dialect().snapshot.empty() && !select_.isLimited() && !session_->inTransaction();
+  if (!inPages) return readPage(link, AllAtOnce);
+  readPage(link, FirstPage + 1);
+  if (read_.size() <= FirstPage) return;
+
+  read_.clear();
+  if (session_->reading) session_->reading->readAll();
+  Link& reader = session_->reader();
+  for (const StringView statement : session_->dialect().snapshot) reader.run(statement);
+  session_->reading = this;
+  reading_ = true;
+  pageSize_ = FirstPage;
+  nextPage();
+}
+
+void OdbcKeyset::readPage(Link& link, std::size_t count) {
+  String text = session_->translated(keysOnly_.text).text;
+  if (count != AllAtOnce) text += u"\nLIMIT " + number(count) + u" OFFSET " + number(read_.size());
+  Query query(*session_, link, std::move(text));
+  query.open();
+  RowStore rows(static_cast<int>(query.columns().size()));
+  std::vector<Value> key(keyColumns_.size());
+  for (bool more = true; more;) {
+    rows.clear(rows.columns());
+    more = query.fetch(rows, FirstPage);
+    for (int row = 0; row < rows.rows(); ++row) {
+      for (std::size_t i = 0; i < key.size(); ++i)
+        key[i] = rows.at(row, keysOnly_.column + static_cast<int>(i));
+      read_.push_back(keys_.add(key));
+    }
+  }
+}
+
+void OdbcKeyset::nextPage() {
+  const std::size_t before = read_.size();
+  try {
+    readPage(session_->reader(), pageSize_);
+  } catch (const RuntimeError& failure) {
+    read_.resize(before);
+    failure_ = failure;
+    return end();
+  }
+  if (read_.size() - before < pageSize_) end();
+  pageSize_ = std::min(pageSize_ * Growth, LargestPage);
+}
+
+void OdbcKeyset::readAll() {
+  while (reading_) nextPage();
+}
+
+void OdbcKeyset::end() noexcept {
+  if (!reading_) return;
+  reading_ = false;
+  if (session_->reading == this) session_->reading = nullptr;
+  try {
+    // A connection that has dropped has ended the transaction by itself.
+    if (!session_->reader().dropped()) session_->reader().run(u"ROLLBACK");
+  } catch (const RuntimeError&) {
+  }
+}
+
+bool OdbcKeyset::fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) {
+  if (!begun_) begin();
+  if (delivered_ == read_.size() && reading_) nextPage();
+  const std::size_t count = std::min(atMost, read_.size() - delivered_);
+  const auto first = read_.begin() + static_cast<std::ptrdiff_t>(delivered_);
+  keys.insert(keys.end(), first, first + static_cast<std::ptrdiff_t>(count));
+  delivered_ += count;
+  const bool more = delivered_ < read_.size() || reading_;
+  // A list that could not be read to its end never counts as complete.
+  if (!more && failure_ && count == 0) throw *failure_;
+  return more || failure_;
+}
+
+RowHandle OdbcKeyset::handleOf(const RowView& row) {
+  std::vector<Value> key;
+  for (const int column : keyColumns_) key.push_back(row.at(column));
+  return keys_.add(key);
+}
+
+std::optional<RowHandle> OdbcKeyset::inserted(const std::vector<Variant>& values) {
+  std::vector<Value> key;
+  RowStore given(1);
+  for (const int column : keyColumns_) {
+    const auto place = static_cast<std::size_t>(column);
+    if (place < values.size() && !values[place].isEmpty()) {
+      key.push_back(storedAs(values[place]));
+      continue;
+    }
+    // The database has counted: one column can be told.
+    if (given.rows() > 0 || session_->dialect().lastNumber.empty()) return {};
+    try {
+      Query& last = session_->kept(String(session_->dialect().lastNumber));
+      last.open();
+      last.fetch(given, 1);
+      last.close();
+    } catch (const RuntimeError&) {
+      return {};
+    }
+    if (given.rows() == 0) return {};
+    key.push_back(given.at(0, 0));
+  }
+  return keys_.add(key);
+}
+
+void OdbcKeyset::written(RowHandle row, const std::vector<Variant>& values) {
+  for (std::size_t i = 0; i < keyColumns_.size(); ++i) {
+    const auto place = static_cast<std::size_t>(keyColumns_[i]);
+    if (place < values.size() && !values[place].isEmpty())
+      keys_.change(row, static_cast<int>(i), storedAs(values[place]));
+  }
+}
+
+bool OdbcKeyset::readRow(RowHandle row, RowStore& rows) {
+  Query& query = session_->kept(rowText_);
+  query.open(keys_.key(row));
+  const int before = rows.rows();
+  query.fetch(rows, 1);
+  query.close();
+  return rows.rows() > before;
+}
+
+std::optional<std::vector<RowHandle>> OdbcKeyset::rowsWhere(std::span<const ColumnEquals> comparisons) {
+  std::vector<String> columns;
+  std::vector<Value> values;
+  for (const ColumnEquals& comparison : comparisons) {
+    columns.push_back(sql::quoted((*columns_)[static_cast<std::size_t>(comparison.column)].baseColumn));
+    values.push_back(comparison.value);
+  }
+  Query& query = session_->kept(session_->translated(select_.keysWhere(columns)).text);
+  query.open(values);
+  RowStore rows(static_cast<int>(keyColumns_.size()));
+  while (query.fetch(rows, FirstPage)) {
+  }
+  query.close();
+  std::vector<RowHandle> found;
+  std::vector<Value> key(keyColumns_.size());
+  for (int row = 0; row < rows.rows(); ++row) {
+    for (std::size_t i = 0; i < key.size(); ++i) key[i] = rows.at(row, static_cast<int>(i));
+    found.push_back(keys_.add(key));
+  }
+  return found;
+}
+
+}  // namespace zqn::ado::odbc

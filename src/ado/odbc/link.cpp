@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/link.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ado/odbc/connection_string.h"
+#include "ado/odbc/wide.h"
+#include "runtime/locale.h"
+
+namespace zqn::ado::odbc {
+
+namespace {
+
+/// Empty when it is refused; the reason stands on the parent then.
+Handle allocate(SQLSMALLINT kind, SQLHANDLE parent) {
+  SQLHANDLE handle = SQL_NULL_HANDLE;
+  if (!SQL_SUCCEEDED(SQLAllocHandle(kind, parent, &handle))) handle = nullptr;
+  return Handle(handle, FreeHandle{kind});
+}
+
+/// The string with what the driver must be given besides.
+String completed(StringView connectionString, const Dialect& dialect) {
+  std::vector<ConnectionPair> pairs = connectionPairs(connectionString);
+  for (const auto& [key, value] : dialect.connection) {
+    const StringView name = key;
+    const bool given = std::ranges::any_of(
+        pairs, [&](const ConnectionPair& pair) { return compareIgnoringCase(pair.key, name) == 0; });
+    if (!given) pairs.push_back({String(key), String(value)});
+  }
+  return odbc::connectionString(pairs);
+}
+
+}  // namespace
+
+SQLHENV environment() {
+  static const Handle handle = [] {
+    Handle made = allocate(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
+    SQLSetEnvAttr(made.get(), SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+    return made;
+  }();
+  return handle.get();
+}
+
+Link::Link(String connectionString, std::chrono::seconds loginTimeout)
+    : connectionString_(std::move(connectionString)), loginTimeout_(loginTimeout) {
+  product_ = connectOnce(connectionString_);
+  dialect_ = &dialectOf(product_);
+  connectionString_ = completed(connectionString_, *dialect_);
+  connect();
+}
+
+String Link::connectOnce(const String& connectionString) {
+  connection_.reset();
+  Handle connection = allocate(SQL_HANDLE_DBC, environment());
+  SQLSetConnectAttrW(connection.get(), SQL_ATTR_LOGIN_TIMEOUT,
+                     reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(loginTimeout_.count())), 0);
+  const SQLRETURN result =
+      SQLDriverConnectW(connection.get(), nullptr, asWide(connectionString),
+                        static_cast<SQLSMALLINT>(connectionString.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+  if (!SQL_SUCCEEDED(result)) throw failure(diagnosticOf(SQL_HANDLE_DBC, connection.get()));
+  connection_ = std::move(connection);
+
+  std::array<SQLWCHAR, 128> product = {};
+  SQLSMALLINT bytes = 0;
+  SQLGetInfoW(connection_.get(), SQL_DBMS_NAME, product.data(), sizeof product, &bytes);
+  return String(asText(product.data()), static_cast<std::size_t>(bytes) / sizeof(SQLWCHAR));
+}
+
+void Link::connect() {
+  connectOnce(connectionString_);
+  ++generation_;
+  dropped_ = false;
+  try {
+    for (const StringView statement : dialect_->start) run(statement);
+  } catch (const RuntimeError&) {
+    dropped_ = true;
+    throw;
+  }
+}
+
+Handle Link::statement() {
+  if (dropped_) connect();
+  Handle handle = allocate(SQL_HANDLE_STMT, connection_.get());
+  handle.get_deleter().parent = connection_;
+  if (!handle) throw failure(diagnosticOf(SQL_HANDLE_DBC, connection_.get()));
+  SQLSetStmtAttrW(handle.get(), SQL_ATTR_NOSCAN, reinterpret_cast<SQLPOINTER>(SQL_NOSCAN_ON), 0);
+  return handle;
+}
+
+void Link::run(StringView statement) {
+  const Handle handle = this->statement();
+  const SQLRETURN result =
+      SQLExecDirectW(handle.get(), asWide(statement), static_cast<SQLINTEGER>(statement.size()));
+  if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) throw failure(handle);
+}
+
+RuntimeError Link::failure(const Handle& statement) {
+  return failure(diagnosticOf(SQL_HANDLE_STMT, statement.get()));
+}
+
+RuntimeError Link::failure(const Diagnostic& diagnostic) {
+  dropped_ = dropped_ || isDrop(diagnostic);
+  return RuntimeError(errorNumber(diagnostic), diagnostic.text, product_);
+}
+
+}  // namespace zqn::ado::odbc

@@ -1,0 +1,360 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/query.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "ado/enums.h"
+#include "ado/odbc/session.h"
+#include "ado/odbc/wide.h"
+
+namespace zqn::ado::odbc {
+
+namespace {
+
+constexpr std::int32_t NoValueForParameter = -2147217904;
+/// Longest text that is read in blocks, in characters; a longer one, or one without a limit, comes alone.
+constexpr SQLULEN LongestInBlock = 1000;
+constexpr std::size_t BlockBytes = 64 * 1024;
+constexpr std::size_t LargestBlock = 1000;
+/// A text beyond it is sent as a long one.
+constexpr std::size_t LongestParameter = 4000;
+
+bool isText(SQLSMALLINT type) {
+  constexpr std::array<SQLSMALLINT, 4> types = {SQL_CHAR, SQL_VARCHAR, SQL_WCHAR, SQL_WVARCHAR};
+  return std::ranges::find(types, type) != types.end();
+}
+
+int typeOf(SQLSMALLINT type, const Dialect& dialect) {
+  switch (type) {
+    case SQL_BIT:
+      return adBoolean;
+    case SQL_TINYINT:
+      return dialect.tinyIsBoolean ? adBoolean : adSmallInt;
+    case SQL_SMALLINT:
+      return adSmallInt;
+    case SQL_INTEGER:
+      return adInteger;
+    case SQL_BIGINT:
+      return adBigInt;
+    case SQL_REAL:
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+      return adDouble;
+    case SQL_NUMERIC:
+    case SQL_DECIMAL:
+      return adNumeric;
+    case SQL_TYPE_DATE:
+    case SQL_TYPE_TIME:
+    case SQL_TYPE_TIMESTAMP:
+      return adDBTimeStamp;
+    case SQL_LONGVARCHAR:
+    case SQL_WLONGVARCHAR:
+      return adLongVarWChar;
+    default:
+      return isText(type) ? adVarWChar : adVariant;
+  }
+}
+
+String digits(double value) {
+  std::array<char, 32> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+  return String(buffer.data(), end);
+}
+
+String digits(std::int64_t value) {
+  std::array<char, 20> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+  return String(buffer.data(), end);
+}
+
+}  // namespace
+
+Query::Query(Session& session, Link& link, String text)
+    : session_(session), link_(link), text_(std::move(text)) {}
+
+void Query::fail() {
+  const RuntimeError error = link_.failure(handle_);
+  close();
+  throw error;
+}
+
+void Query::makeHandle() {
+  if (handle_ && generation_ == link_.generation() && !link_.dropped()) return;
+  handle_ = link_.statement();
+  generation_ = link_.generation();
+  prepared_ = described_ = false;
+}
+
+void Query::prepare() {
+  if (prepared_) return;
+  session_.tell(text_);
+  const SQLRETURN result =
+      SQLPrepareW(handle_.get(), asWide(text_), static_cast<SQLINTEGER>(text_.size()));
+  if (!SQL_SUCCEEDED(result)) fail();
+  prepared_ = true;
+}
+
+void Query::describe() {
+  makeHandle();
+  prepare();
+  if (!described_) readDescription();
+}
+
+void Query::open(std::span<const Value> parameters) {
+  close();
+  makeHandle();
+  const bool prepared = prepared_ || !parameters.empty();
+  if (prepared) {
+    prepare();
+    SQLSMALLINT asked = 0;
+    SQLNumParams(handle_.get(), &asked);
+    if (static_cast<std::size_t>(asked) != parameters.size())
+      throw RuntimeError(NoValueForParameter, u"No value given for one or more required parameters.",
+                         link_.product());
+    bind(parameters);
+  }
+  execute(prepared);
+  if (!described_) readDescription();
+  open_ = !columns_.empty();
+  if (!open_) close();
+}
+
+void Query::bind(std::span<const Value> values) {
+  parameters_.resize(values.size());
+  SQLUSMALLINT number = 0;
+  for (const Value& value : values) {
+    Parameter& parameter = parameters_[number++];
+    const auto asText = [&](SQLSMALLINT type) {
+      parameter.length = static_cast<SQLLEN>(parameter.text.size() * sizeof(char16_t));
+      const SQLULEN size = std::max<SQLULEN>(parameter.text.size(), 1);
+      return SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_WCHAR, type, size, 0,
+                              parameter.text.data(), parameter.length, &parameter.length);
+    };
+    const bool untyped = link_.dialect().untypedParameters;
+    SQLRETURN result = SQL_SUCCESS;
+    switch (value.kind) {
+      case Value::Kind::Null:
+        parameter.length = SQL_NULL_DATA;
+        result = SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_WCHAR, SQL_WVARCHAR, 1, 0,
+                                  nullptr, 0, &parameter.length);
+        break;
+      case Value::Kind::Integer:
+        parameter.integer = value.integer;
+        parameter.length = 0;
+        if (untyped) {
+          parameter.text = digits(value.integer);
+          result = asText(SQL_WVARCHAR);
+        } else {
+          result = SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_SBIGINT, SQL_BIGINT, 0, 0,
+                                    &parameter.integer, 0, &parameter.length);
+        }
+        break;
+      case Value::Kind::Real:
+        parameter.real = value.real;
+        parameter.length = 0;
+        if (untyped) {
+          parameter.text = digits(value.real);
+          result = asText(SQL_WVARCHAR);
+        } else {
+          result = SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_DOUBLE, SQL_DOUBLE, 0, 0,
+                                    &parameter.real, 0, &parameter.length);
+        }
+        break;
+      case Value::Kind::Text:
+        parameter.text = value.text;
+        result = asText(parameter.text.size() > LongestParameter ? SQL_WLONGVARCHAR : SQL_WVARCHAR);
+        break;
+    }
+    if (!SQL_SUCCEEDED(result)) fail();
+  }
+}
+
+void Query::execute(bool prepared) {
+  if (!prepared) session_.tell(text_);
+  const auto run = [&] {
+    return prepared ? SQLExecute(handle_.get())
+                    : SQLExecDirectW(handle_.get(), asWide(text_), static_cast<SQLINTEGER>(text_.size()));
+  };
+  SQLRETURN result = run();
+  if (result == SQL_ERROR && prepared) {
+    const Diagnostic diagnostic = diagnosticOf(SQL_HANDLE_STMT, handle_.get());
+    if (!isOutdated(diagnostic)) {
+      const RuntimeError error = link_.failure(diagnostic);
+      close();
+      throw error;
+    }
+    close();
+    prepared_ = described_ = false;
+    prepare();
+    result = run();
+  }
+  if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) fail();
+  SQLLEN rows = 0;
+  SQLRowCount(handle_.get(), &rows);
+  rowsAffected_ = result == SQL_NO_DATA ? 0 : rows;
+}
+
+void Query::readDescription() {
+  SQLSMALLINT count = 0;
+  if (!SQL_SUCCEEDED(SQLNumResultCols(handle_.get(), &count))) fail();
+  columns_.clear();
+  sources_.clear();
+  for (SQLUSMALLINT number = 1; number <= count; ++number) {
+    const auto attribute = [&](SQLUSMALLINT field) {
+      std::array<SQLWCHAR, 260> buffer = {};
+      SQLSMALLINT bytes = 0;
+      SQLLEN ignored = 0;
+      SQLColAttributeW(handle_.get(), number, field, buffer.data(), sizeof buffer, &bytes, &ignored);
+      return String(asText(buffer.data()));
+    };
+    std::array<SQLWCHAR, 260> name = {};
+    SQLSMALLINT length = 0, type = 0, decimals = 0, nullable = 0;
+    SQLULEN size = 0;
+    if (!SQL_SUCCEEDED(SQLDescribeColW(handle_.get(), number, name.data(), static_cast<SQLSMALLINT>(name.size()),
+                                       &length, &type, &size, &decimals, &nullable)))
+      fail();
+    Column column;
+    column.name = asText(name.data());
+    column.baseTable = attribute(SQL_DESC_BASE_TABLE_NAME);
+    // Some drivers give an expression's label as its base column: the table tells.
+    if (!column.baseTable.empty()) column.baseColumn = attribute(SQL_DESC_BASE_COLUMN_NAME);
+    const bool stored = !column.baseColumn.empty();
+    column.type = stored ? typeOf(type, link_.dialect()) : adVariant;
+    if (column.type == adVarWChar) column.definedSize = static_cast<int>(size);
+    sources_.push_back(sourceOf(type, size, stored));
+    columns_.push_back(std::move(column));
+  }
+  if (count > 0) bindColumns();
+  described_ = true;
+  ++descriptions_;
+}
+
+Query::Source Query::sourceOf(SQLSMALLINT type, SQLULEN size, bool stored) const {
+  switch (typeOf(type, link_.dialect())) {
+    case adBoolean:
+    case adSmallInt:
+    case adInteger:
+    case adBigInt:
+      return {SQL_C_SBIGINT, sizeof(std::int64_t), {}, {}};
+    case adDouble:
+    case adNumeric:
+      return {SQL_C_DOUBLE, sizeof(double), {}, {}};
+    default:
+      break;
+  }
+  const bool utf8 = link_.dialect().utf8Texts;
+  // The size that a driver names for an expression is a guess.
+  const bool block = isText(type) && stored && size > 0 && size <= LongestInBlock;
+  const std::size_t width = utf8 ? size * 4 + 1 : (size * 2 + 1) * sizeof(char16_t);
+  return {static_cast<SQLSMALLINT>(utf8 ? SQL_C_CHAR : SQL_C_WCHAR), block ? width : 0, {}, {}};
+}
+
+void Query::bindColumns() {
+  bound_ = 0;
+  std::size_t width = 0;
+  for (; bound_ < sources_.size() && sources_[bound_].width > 0; ++bound_) width += sources_[bound_].width;
+  const bool inBlocks = bound_ == sources_.size();
+  const std::size_t rows = inBlocks ? std::clamp<std::size_t>(BlockBytes / width, 1, LargestBlock) : 1;
+  SQLFreeStmt(handle_.get(), SQL_UNBIND);
+  SQLSetStmtAttrW(handle_.get(), SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(rows), 0);
+  SQLSetStmtAttrW(handle_.get(), SQL_ATTR_ROWS_FETCHED_PTR, &blockRows_, 0);
+  for (std::size_t i = 0; i < bound_; ++i) {
+    Source& source = sources_[i];
+    source.values.resize(source.width * rows);
+    source.lengths.resize(rows);
+    const SQLRETURN result =
+        SQLBindCol(handle_.get(), static_cast<SQLUSMALLINT>(i + 1), source.type, source.values.data(),
+                   static_cast<SQLLEN>(source.width), source.lengths.data());
+    if (!SQL_SUCCEEDED(result)) fail();
+  }
+}
+
+bool Query::advance() {
+  if (delivered_ < blockRows_) return true;
+  delivered_ = 0;
+  const SQLRETURN result = SQLFetch(handle_.get());
+  if (result == SQL_NO_DATA) {
+    close();
+    return false;
+  }
+  if (!SQL_SUCCEEDED(result)) fail();
+  return true;
+}
+
+bool Query::fetch(RowStore& rows, std::size_t atMost) {
+  for (; open_ && atMost > 0; --atMost) {
+    if (!advance()) return false;
+    deliver(rows, delivered_++);
+  }
+  return open_ && advance();
+}
+
+void Query::deliver(RowStore& rows, std::size_t row) {
+  for (std::size_t i = 0; i < sources_.size(); ++i) {
+    const Source& source = sources_[i];
+    if (i >= bound_) {
+      readPieces(rows, i);
+      continue;
+    }
+    const char* value = source.values.data() + row * source.width;
+    const SQLLEN length = source.lengths[row];
+    if (length == SQL_NULL_DATA) {
+      rows.addNull();
+    } else if (source.type == SQL_C_SBIGINT) {
+      rows.addInteger(*reinterpret_cast<const std::int64_t*>(value));
+    } else if (source.type == SQL_C_DOUBLE) {
+      rows.addReal(*reinterpret_cast<const double*>(value));
+    } else {
+      addText(rows, value, static_cast<std::size_t>(length));
+    }
+  }
+}
+
+void Query::addText(RowStore& rows, const char* bytes, std::size_t length) const {
+  if (link_.dialect().utf8Texts) {
+    rows.addText(std::string_view(bytes, length));
+  } else {
+    rows.addText(StringView(reinterpret_cast<const char16_t*>(bytes), length / sizeof(char16_t)));
+  }
+}
+
+void Query::readPieces(RowStore& rows, std::size_t column) {
+  const Source& source = sources_[column];
+  const auto number = static_cast<SQLUSMALLINT>(column + 1);
+  SQLLEN length = 0;
+  if (source.type == SQL_C_SBIGINT || source.type == SQL_C_DOUBLE) {
+    Value value;
+    const bool whole = source.type == SQL_C_SBIGINT;
+    const SQLPOINTER target = whole ? static_cast<SQLPOINTER>(&value.integer) : &value.real;
+    if (!SQL_SUCCEEDED(SQLGetData(handle_.get(), number, source.type, target, 0, &length))) fail();
+    if (length != SQL_NULL_DATA) value.kind = whole ? Value::Kind::Integer : Value::Kind::Real;
+    return rows.add(value);
+  }
+  const std::size_t end = link_.dialect().utf8Texts ? 1 : sizeof(char16_t);
+  std::vector<char> text;
+  std::vector<char> piece(8 * 1024);
+  for (;;) {
+    const SQLRETURN result = SQLGetData(handle_.get(), number, source.type, piece.data(),
+                                        static_cast<SQLLEN>(piece.size()), &length);
+    if (result == SQL_NO_DATA) break;
+    if (!SQL_SUCCEEDED(result)) fail();
+    if (length == SQL_NULL_DATA) return rows.addNull();
+    const std::size_t room = piece.size() - end;
+    const bool more = length == SQL_NO_TOTAL || static_cast<std::size_t>(length) > room;
+    text.insert(text.end(), piece.begin(),
+                piece.begin() + static_cast<std::ptrdiff_t>(more ? room : static_cast<std::size_t>(length)));
+    if (!more) break;
+  }
+  addText(rows, text.data(), text.size());
+}
+
+void Query::close() noexcept {
+  open_ = false;
+  blockRows_ = 0;
+  delivered_ = 0;
+  if (handle_) SQLFreeStmt(handle_.get(), SQL_CLOSE);
+}
+
+}  // namespace zqn::ado::odbc

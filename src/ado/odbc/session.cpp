@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/session.h"
+
+#include <algorithm>
+
+#include "ado/odbc/query.h"
+
+namespace zqn::ado::odbc {
+
+namespace {
+constexpr std::size_t KeptStatements = 32;
+}
+
+Session::Session(StringView connectionString, const OdbcOptions& options)
+    : connectionString_(connectionString),
+      loginTimeout_(options.loginTimeout),
+      ran_(options.ran),
+      link_(connectionString_, loginTimeout_),
+      catalogue_(link_) {}
+
+Session::~Session() = default;
+
+Link& Session::reader() {
+  if (!reader_) reader_ = std::make_unique<Link>(connectionString_, loginTimeout_);
+  return *reader_;
+}
+
+Translation Session::translated(StringView statement) { return translate(statement, dialect(), catalogue_); }
+
+bool Session::mayRun(const Translation& statement) {
+  if (!inTransaction_ || !link_.dropped()) return true;
+  const bool ends = statement.effect == Effect::Commit || statement.effect == Effect::Rollback;
+  if (ends) inTransaction_ = false;
+  if (statement.effect == Effect::Rollback) return false;
+  throw RuntimeError(error::ProviderFailure,
+                     u"The connection was lost inside a transaction; nothing of it has been kept.",
+                     link_.product());
+}
+
+void Session::ran(const Translation& statement, bool failed) {
+  if (statement.effect == Effect::Commit || statement.effect == Effect::Rollback) {
+    inTransaction_ = false;
+  } else if (statement.effect == Effect::Begin) {
+    inTransaction_ = inTransaction_ || !failed;
+  } else if (statement.effect == Effect::Schema) {
+    catalogue_.forget();
+  }
+}
+
+Query& Session::kept(const String& text) {
+  const auto known = std::ranges::find_if(kept_, [&](const auto& entry) { return entry.first == text; });
+  if (known != kept_.end()) {
+    kept_.splice(kept_.begin(), kept_, known);
+    return *kept_.front().second;
+  }
+  if (kept_.size() >= KeptStatements) kept_.pop_back();
+  kept_.emplace_front(text, std::make_unique<Query>(*this, link_, text));
+  return *kept_.front().second;
+}
+
+}  // namespace zqn::ado::odbc

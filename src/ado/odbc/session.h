@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+//
+// Inside the ODBC provider: what its statements share: the connection, a second one for long lists, the
+// tables, the transaction that the caller has begun, and statements that are kept.
+#pragma once
+
+#include <functional>
+#include <list>
+
+#include "ado/odbc/catalogue.h"
+#include "ado/odbc/link.h"
+#include "ado/odbc/odbc.h"
+#include "ado/odbc/translate.h"
+
+namespace zqn::ado::odbc {
+
+class OdbcKeyset;
+class Query;
+
+class Session {
+ public:
+  Session(StringView connectionString, const OdbcOptions& options);
+  ~Session();
+
+  Link& link() noexcept { return link_; }
+  const Dialect& dialect() const noexcept { return link_.dialect(); }
+  Catalogue& catalogue() noexcept { return catalogue_; }
+
+  /// The connection for a long list's keys: it stands in a transaction of its own. Connected when it is first
+  /// needed.
+  Link& reader();
+  /// The keyset that reads through `reader`; one at a time, as all share its view of the database.
+  OdbcKeyset* reading = nullptr;
+
+  /// The statement as this server takes it. Error -2147217900 for what is no single statement.
+  Translation translated(StringView statement);
+
+  /// Before a statement that the caller has asked for. Error -2147467259 while the caller is inside a
+  /// transaction whose connection has dropped: only ROLLBACK (then false: there is nothing to run) and COMMIT
+  /// (an error once more) end it. So no half of a transaction is ever written.
+  bool mayRun(const Translation& statement);
+  /// The statement has run, or, `failed`, has not.
+  void ran(const Translation& statement, bool failed);
+  bool inTransaction() const noexcept { return inTransaction_; }
+
+  /// A prepared statement of the provider's own, already in the server's words. Valid until the next call.
+  Query& kept(const String& text);
+  void tell(StringView statement) const {
+    if (ran_) ran_(statement);
+  }
+
+ private:
+  String connectionString_;
+  std::chrono::seconds loginTimeout_;
+  std::function<void(StringView)> ran_;
+  Link link_;
+  std::unique_ptr<Link> reader_;
+  Catalogue catalogue_;
+  bool inTransaction_ = false;
+  std::list<std::pair<String, std::unique_ptr<Query>>> kept_;  // most recently used first
+};
+
+}  // namespace zqn::ado::odbc

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/statement.h"
+
+#include "ado/odbc/keyed_select.h"
+
+namespace zqn::ado::odbc {
+
+OdbcStatement::OdbcStatement(std::shared_ptr<Session> session, StringView text, Purpose purpose)
+    : session_(std::move(session)),
+      text_(text),
+      purpose_(purpose),
+      translation_(session_->translated(text)),
+      query_(std::make_unique<Query>(*session_, session_->link(), translation_.text)) {}
+
+void OdbcStatement::open(std::span<const Value> parameters) {
+  rowsAffected_ = 0;
+  if (!session_->mayRun(translation_)) return;
+  run(parameters);
+  if (query_->descriptions() != description_) learnColumns(parameters);
+  // A driver counts the rows of a SELECT, too.
+  if (columns_->empty()) rowsAffected_ = query_->rowsAffected();
+}
+
+void OdbcStatement::run(std::span<const Value> parameters) {
+  try {
+    query_->open(parameters);
+  } catch (const RuntimeError&) {
+    session_->ran(translation_, true);
+    throw;
+  }
+  session_->ran(translation_, false);
+}
+
+void OdbcStatement::learnColumns(std::span<const Value> parameters) {
+  Columns columns = query_->columns();
+  if (purpose_ == Purpose::Keyed && !columns.empty()) {
+    const auto keyed = KeyedSelect::of(text_, session_->catalogue());
+    const auto hidden = keyed ? keyed->missing(columns) : std::vector<String>();
+    if (!hidden.empty()) {
+      const Translation completed = session_->translated(keyed->withHidden(hidden));
+      query_->close();
+      query_ = std::make_unique<Query>(*session_, session_->link(), completed.text);
+      query_->open(parameters);
+      columns = query_->columns();
+    }
+    if (keyed && !keyed->mark(columns, hidden.size())) {
+      for (Column& column : columns) column.key = false;
+    }
+  }
+  description_ = query_->descriptions();
+  columns_ = std::make_shared<const Columns>(std::move(columns));
+}
+
+}  // namespace zqn::ado::odbc

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+//
+// Inside the ODBC provider: a statement of the dialogs as the engine runs it.
+#pragma once
+
+#include "ado/odbc/query.h"
+#include "ado/odbc/session.h"
+
+namespace zqn::ado::odbc {
+
+class OdbcStatement : public Statement {
+ public:
+  OdbcStatement(std::shared_ptr<Session> session, StringView text, Purpose purpose);
+
+  void open(std::span<const Value> parameters) override;
+  bool fetch(RowStore& rows, std::size_t atMost) override { return query_->fetch(rows, atMost); }
+  void close() noexcept override { query_->close(); }
+  std::shared_ptr<const Columns> columns() const override { return columns_; }
+  std::int64_t rowsAffected() const override { return rowsAffected_; }
+
+ private:
+  void run(std::span<const Value> parameters);
+  /// After the first run, and whenever the table has changed: what the columns are, with those of the key.
+  void learnColumns(std::span<const Value> parameters);
+
+  std::shared_ptr<Session> session_;
+  String text_;
+  Purpose purpose_;
+  Translation translation_;
+  std::unique_ptr<Query> query_;
+  int description_ = 0;  // of the query, that `columns_` are made from
+  std::shared_ptr<const Columns> columns_ = std::make_shared<const Columns>();
+  std::int64_t rowsAffected_ = 0;
+};
+
+}  // namespace zqn::ado::odbc

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "ado/odbc/translate.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "ado/odbc/catalogue.h"
+#include "ado/sql_tokens.h"
+
+namespace zqn::ado::odbc {
+
+namespace {
+
+using sql::Token;
+using Kind = Token::Kind;
+
+[[noreturn]] void refuse(String why, const Dialect& dialect) {
+  throw RuntimeError(error::CommandText, std::move(why), String(dialect.product));
+}
+
+std::vector<Token> tokensOf(StringView statement, const Dialect& dialect) {
+  if (statement.find(u'\0') != StringView::npos) refuse(u"The statement holds a character U+0000.", dialect);
+  std::vector<Token> tokens;
+  sql::Scanner scanner(statement);
+  bool ended = false;
+  for (Token token = scanner.next(); token.kind != Kind::End; token = scanner.next()) {
+    if (token.kind == Kind::Unclosed)
+      refuse(u"Unclosed quotation mark in the statement: " + String(statement), dialect);
+    const bool separator = token.isSymbol(u";");
+    if (ended && !separator) {
+      const auto rest = static_cast<std::size_t>(token.text.data() - statement.data());
+      refuse(u"A second statement follows the first: " + String(statement.substr(rest)), dialect);
+    }
+    ended = ended || separator;
+    if (!separator) tokens.push_back(token);
+  }
+  if (tokens.empty()) refuse(u"There is no statement.", dialect);
+  return tokens;
+}
+
+template <std::size_t N>
+bool isOneOf(const Token& token, const std::array<StringView, N>& words) {
+  return std::ranges::any_of(words, [&](StringView word) { return token.is(word); });
+}
+
+Effect effectOf(const Token& first) {
+  constexpr std::array<StringView, 2> begins = {u"BEGIN", u"START"};
+  constexpr std::array<StringView, 4> schema = {u"CREATE", u"ALTER", u"DROP", u"RENAME"};
+  if (isOneOf(first, begins)) return Effect::Begin;
+  if (first.is(u"COMMIT") || first.is(u"END")) return Effect::Commit;
+  if (first.is(u"ROLLBACK")) return Effect::Rollback;
+  return isOneOf(first, schema) ? Effect::Schema : Effect::None;
+}
+
+bool isName(const Token& token) { return token.kind == Kind::Word || token.kind == Kind::Name; }
+
+bool isBeyondAscii(StringView text) {
+  return std::ranges::any_of(text, [](char16_t unit) { return unit >= 0x80; });
+}
+
+class Translator {
+ public:
+  Translator(StringView statement, const Dialect& dialect, Catalogue& catalogue)
+      : statement_(statement),
+        dialect_(dialect),
+        catalogue_(catalogue),
+        tokens_(tokensOf(statement, dialect)) {}
+
+  Translation run() {
+    const Effect effect = effectOf(tokens_.front());
+    if (effect == Effect::Begin && tokens_.size() == 1) return {String(dialect_.begin), effect};
+    findTables();
+    conditions_ = !tokens_.front().is(u"UPDATE");
+    for (std::size_t i = 0; i < tokens_.size(); ++i) {
+      const Token& token = tokens_[i];
+      if (i < next_) continue;
+      if (token.is(u"WHERE")) conditions_ = true;
+      if (token.is(u"VALUES") && tokens_.front().is(u"INSERT")) {
+        values(i);
+      } else if (!truth(i)) {
+        plain(i);
+      }
+    }
+    text_.append(statement_, copied_, endOf(tokens_.back()) - copied_);
+    return {std::move(text_), effect};
+  }
+
+ private:
+  std::size_t beginOf(const Token& token) const {
+    return static_cast<std::size_t>(token.text.data() - statement_.data());
+  }
+  std::size_t endOf(const Token& token) const { return beginOf(token) + token.text.size(); }
+  /// Tokens `from` to `to`, the last one included, are `text` now.
+  void replace(std::size_t from, std::size_t to, StringView text) {
+    const std::size_t begin = beginOf(tokens_[from]);
+    text_.append(statement_, copied_, begin - copied_).append(text);
+    copied_ = endOf(tokens_[to]);
+  }
+  const Token& at(std::size_t i) const {
+    static const Token none;
+    return i < tokens_.size() ? tokens_[i] : none;
+  }
+
+  void findTables() {
+    constexpr std::array<StringView, 4> before = {u"FROM", u"JOIN", u"INTO", u"UPDATE"};
+    constexpr std::array<StringView, 2> behind = {u"AS", u"SELECT"};
+    for (std::size_t i = 0; i + 1 < tokens_.size(); ++i) {
+      if (isOneOf(tokens_[i], before) && isName(tokens_[i + 1]) && !isOneOf(tokens_[i + 1], behind))
+        tables_.push_back(i + 1);
+    }
+  }
+
+  const TableInfo::Column* column(const Token& token) {
+    if (!isName(token)) return nullptr;
+    const String name = token.unquoted();
+    for (const std::size_t table : tables_) {
+      const TableInfo* info = catalogue_.table(tokens_[table].unquoted());
+      if (!info) continue;
+      if (const TableInfo::Column* found = info->column(name)) return found;
+    }
+    return nullptr;
+  }
+
+  /// "Column = -1", "Column <> True": yes and no as this column knows it. True when it has been written.
+  bool truth(std::size_t i) {
+    constexpr std::array<StringView, 4> comparisons = {u"=", u"<>", u"!=", u"=="};
+    if (!isName(at(i)) || at(i + 1).kind != Kind::Symbol ||
+        std::ranges::find(comparisons, at(i + 1).text) == comparisons.end())
+      return false;
+    std::size_t last = i + 2;
+    if (at(last).isSymbol(u"-") || at(last).isSymbol(u"+")) ++last;
+    const std::optional<bool> value = truthOf(at(last));
+    const bool word = value && at(last).kind == Kind::Word;
+    if (!value || !(word || dialect_.strictBooleans)) return false;
+    const TableInfo::Column* known = column(at(i));
+    const bool strict = dialect_.strictBooleans && known && known->boolean;
+    if (strict == word) return false;
+
+    plain(i);
+    const bool equal = at(i + 1).text == u"=" || at(i + 1).text == u"==";
+    if (strict) {
+      replace(i + 2, last, *value ? u"true" : u"false");
+    } else if (conditions_) {
+      replace(i + 1, last, equal == *value ? u"<>0" : u"=0");
+    } else {
+      replace(i + 2, last, *value ? u"1" : u"0");
+    }
+    next_ = last + 1;
+    return true;
+  }
+  std::optional<bool> truthOf(const Token& token) const {
+    if (token.is(u"TRUE")) return true;
+    if (token.is(u"FALSE")) return false;
+    if (token.kind != Kind::Number) return {};
+    return std::ranges::any_of(token.text, [](char16_t unit) { return unit >= u'1' && unit <= u'9'; });
+  }
+
+  /// INSERT INTO T (a, b) VALUES (1, 0), (...): numbers for columns of yes and no.
+  void values(std::size_t& i) {
+    if (!dialect_.strictBooleans || tables_.empty()) return;
+    const TableInfo* table = catalogue_.table(tokens_[tables_.front()].unquoted());
+    if (!table) return;
+    std::vector<const TableInfo::Column*> targets;
+    for (std::size_t name = tables_.front() + 1; name < i; ++name) {
+      if (isName(at(name))) targets.push_back(table->column(at(name).unquoted()));
+    }
+    if (targets.empty())
+      for (const TableInfo::Column& one : table->columns) targets.push_back(&one);
+
+    std::size_t target = 0;
+    for (++i; i < tokens_.size(); ++i) {
+      const Token& token = at(i);
+      if (token.depth == 0) target = 0;
+      if (token.depth == 1 && token.isSymbol(u",")) ++target;
+      const bool whole = at(i + 1).isSymbol(u",") || at(i + 1).isSymbol(u")");
+      const bool strict = target < targets.size() && targets[target] && targets[target]->boolean;
+      if (strict && token.kind == Kind::Number && token.depth == 1 && whole) {
+        const std::size_t sign = at(i - 1).isSymbol(u"-") ? i - 1 : i;
+        replace(sign, i, *truthOf(token) ? u"true" : u"false");
+      } else {
+        plain(i);
+      }
+    }
+  }
+
+  /// A token by itself.
+  void plain(std::size_t i) {
+    const Token& token = tokens_[i];
+    const bool table = std::ranges::find(tables_, i) != tables_.end();
+    if (token.kind == Kind::Name) {
+      replace(i, i, sql::quoted(stored(token, table)));
+    } else if (table && dialect_.exactTableNames) {
+      if (const TableInfo* info = catalogue_.table(token.text)) replace(i, i, sql::quoted(info->name));
+    } else if (token.kind == Kind::Literal && dialect_.nationalLiterals && isBeyondAscii(token.text)) {
+      replace(i, i, u"N" + String(token.text));
+    } else if (token.is(u"LIKE") && !dialect_.like.empty()) {
+      like(i);
+    } else if (token.is(u"DEFAULT") && at(i + 1).is(u"VALUES")) {
+      replace(i, i + 1, dialect_.defaultValues);
+      next_ = i + 2;
+    } else if (dialect_.noTruthWords && (token.is(u"TRUE") || token.is(u"FALSE"))) {
+      replace(i, i, token.is(u"TRUE") ? u"1" : u"0");
+    }
+  }
+
+  /// The name in quotes as the server stores it.
+  String stored(const Token& token, bool isTable) {
+    const String name = token.unquoted();
+    if (!dialect_.lowerCaseNames && !(isTable && dialect_.exactTableNames)) return name;
+    if (isTable) {
+      const TableInfo* info = catalogue_.table(name);
+      return info ? info->name : name;
+    }
+    const TableInfo::Column* known = column(token);
+    return known ? known->name : name;
+  }
+
+  void like(std::size_t i) {
+    // A collation stands before NOT, and so before what has been copied already.
+    const bool negated = i > 0 && at(i - 1).is(u"NOT");
+    const StringView words = dialect_.like;
+    if (!negated) return replace(i, i, words);
+    const std::size_t last = words.rfind(u' ');
+    const std::size_t begin = beginOf(tokens_[i - 1]);
+    text_.append(statement_, copied_, begin - copied_).append(words.substr(0, last)).append(u" NOT");
+    copied_ = endOf(tokens_[i - 1]);
+    replace(i, i, words.substr(last + 1));
+  }
+
+  StringView statement_;
+  const Dialect& dialect_;
+  Catalogue& catalogue_;
+  std::vector<Token> tokens_;
+  std::vector<std::size_t> tables_;  // tokens that name one
+  String text_;
+  std::size_t copied_ = 0;
+  std::size_t next_ = 0;     // the first token that is not written yet
+  bool conditions_ = false;  // "=" compares; in front of an UPDATE's WHERE it assigns
+};
+
+}  // namespace
+
+Translation translate(StringView statement, const Dialect& dialect, Catalogue& catalogue) {
+  return Translator(statement, dialect, catalogue).run();
+}
+
+}  // namespace zqn::ado::odbc

@@ -20,8 +20,6 @@ struct Questions {
   StringView narrow = {};
   /// One value: the name of the database; Null for none.
   StringView database = {};
-  /// One value: 1 where the names of tables distinguish case.
-  StringView tablesDistinguishCase = {};
 };
 
 const Questions& questions(Dialect dialect) {
@@ -33,7 +31,6 @@ const Questions& questions(Dialect dialect) {
           u"WHERE c.relkind IN ('r', 'p', 'v', 'm', 'f') AND a.attnum > 0 AND NOT a.attisdropped "
           u"AND n.nspname NOT IN ('pg_catalog', 'information_schema') AND pg_table_is_visible(c.oid)",
       .narrow = u"SELECT CASE WHEN getdatabaseencoding() = 'UTF8' THEN '' ELSE getdatabaseencoding() END",
-      .tablesDistinguishCase = u"SELECT 1",
   };
   static constexpr Questions mariaDb{
       .columns =
@@ -41,7 +38,6 @@ const Questions& questions(Dialect dialect) {
           u"'utf16', 'utf16le', 'utf32') THEN '' ELSE COALESCE(CHARACTER_SET_NAME, '') END "
           u"FROM information_schema.COLUMNS WHERE TABLE_SCHEMA = DATABASE()",
       .database = u"SELECT DATABASE()",
-      .tablesDistinguishCase = u"SELECT CASE WHEN @@lower_case_table_names = 0 THEN 1 ELSE 0 END",
   };
   static constexpr Questions sqlServer{
       .columns =
@@ -72,30 +68,31 @@ String folded(StringView name) {
 
 class TablesOnServer {
  public:
-  explicit TablesOnServer(const ServerCatalogue& catalogue) : catalogue_(catalogue) {
+  explicit TablesOnServer(const ServerCatalogue& catalogue) {
+    // PostgreSQL does not find a name with capitals unless it stands in quotes, which the dialogs do not
+    // write.
+    const bool exact = catalogue.dialect == Dialect::PostgreSql;
     for (const ServerColumn& column : catalogue.columns) {
-      const String table = catalogue.tablesDistinguishCase ? column.table : folded(column.table);
-      tables_[table][folded(column.name)] = &column;
-      others_[folded(column.table)] = column.table;
+      tables_[exact ? column.table : folded(column.table)][exact ? column.name : folded(column.name)] =
+          &column;
+      if (exact && column.table != folded(column.table)) outOfReach_[folded(column.table)] = column.table;
     }
   }
 
   /// Columns by their folded names; nullptr when a dialog does not find the table.
   const std::map<String, const ServerColumn*>* find(StringView name) const {
-    const bool asWritten = catalogue_.tablesDistinguishCase && catalogue_.dialect != Dialect::PostgreSql;
-    const auto found = tables_.find(asWritten ? String(name) : folded(name));
+    const auto found = tables_.find(folded(name));
     return found == tables_.end() ? nullptr : &found->second;
   }
   /// What the server calls a table whose name differs in case alone; empty when there is none.
   String otherSpelling(StringView name) const {
-    const auto found = others_.find(folded(name));
-    return found == others_.end() ? String() : found->second;
+    const auto found = outOfReach_.find(folded(name));
+    return found == outOfReach_.end() ? String() : found->second;
   }
 
  private:
-  const ServerCatalogue& catalogue_;
   std::map<String, std::map<String, const ServerColumn*>> tables_;
-  std::map<String, String> others_;
+  std::map<String, String> outOfReach_;
 };
 
 bool holdsTexts(const String& type) {
@@ -182,8 +179,6 @@ ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect) {
         {textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)), textOf(rows.at(row, 3))});
   if (const Variant encoding = answer(connection, ask.narrow); !encoding.isNull())
     catalogue.narrow = CStr(encoding);
-  const Variant distinguish = answer(connection, ask.tablesDistinguishCase);
-  catalogue.tablesDistinguishCase = !distinguish.isNull() && CLng(distinguish) != 0;
   return catalogue;
 }
 

@@ -31,8 +31,6 @@ struct ServerCatalogue {
   std::vector<ServerColumn> columns;
   /// The encoding of the whole database, when that cannot hold every text; else empty.
   String narrow = {};
-  /// Names of tables that differ in case alone are different tables.
-  bool tablesDistinguishCase = false;
 };
 
 /// The dialect of a product, as a driver names it; none for a product that is not served.

@@ -210,6 +210,12 @@ class Server:
         except ServerFailure:
             return False
 
+    def template_file(self, template):
+        return self.home / f"{checked(template)}.template"
+
+    def remembers(self, template):
+        return self.template_file(template).exists()
+
     def write_credentials(self, user, password, folder=None):
         return write_secret((folder or self.home) / user, self.credentials(user, password))
 
@@ -267,10 +273,9 @@ class PostgreSql(Server):
 
     def remember(self, database, as_template):
         """Makes a database, which nobody uses now, a template for others."""
+        self.drop(as_template)
         self.query(f'ALTER DATABASE "{checked(database)}" RENAME TO "{checked(as_template)}";')
-
-    def remembers(self, template):
-        return self.query(f"SELECT count(*) FROM pg_database WHERE datname = '{checked(template)}'") == "1"
+        self.template_file(as_template).touch()
 
 
 class MariaDb(Server):
@@ -280,7 +285,8 @@ class MariaDb(Server):
     SETTINGS = ["skip-name-resolve", f"bind-address={HOST}", "socket=socket", "character-set-server=utf8mb4",
                 "lower_case_table_names=1", "max_connections=200", "performance_schema=0",
                 "innodb_buffer_pool_size=96M", "innodb_log_file_size=48M"]
-    FAST = ["innodb_flush_log_at_trx_commit=2", "innodb_flush_method=nosync", "innodb_doublewrite=0", "sync_binlog=0"]
+    FAST = ["innodb_flush_log_at_trx_commit=2", "innodb_flush_method=nosync", "innodb_doublewrite=0", "sync_binlog=0",
+            "innodb_file_per_table=0"]
     USERS = """FLUSH PRIVILEGES;
 DELETE FROM mysql.global_priv WHERE User IN ('root', '');
 FLUSH PRIVILEGES;
@@ -329,7 +335,7 @@ DROP DATABASE IF EXISTS `{0}`;
 
     def create(self, database, node=1, template=None):
         """Makes a database, dropped first if there is one, as a copy of another if wanted."""
-        dump = self.dump(template) if template else None
+        dump = self.template_file(template) if template else None
         manner = dump.with_suffix(".manner").read_text(encoding="utf-8") if dump else ""
         self.query(self.DROP.format(checked(database)) + f"CREATE DATABASE `{database}` {manner};\n"
                    f"GRANT ALL PRIVILEGES ON `{database}`.* TO 'clerk'@'127.0.0.1';", node=node)
@@ -340,12 +346,9 @@ DROP DATABASE IF EXISTS `{0}`;
     def drop(self, database, node=1):
         self.query(self.DROP.format(checked(database)), node=node)
 
-    def dump(self, template):
-        return self.home / f"{checked(template)}.sql"
-
     def remember(self, database, as_template):
         """Makes a database, which nobody uses now, a template for others: its dump, for a database has one name."""
-        dump = self.dump(as_template)
+        dump = self.template_file(as_template)
         manner = self.query("SELECT concat('CHARACTER SET ', default_character_set_name, ' COLLATE ', "
                             "default_collation_name) FROM information_schema.schemata "
                             f"WHERE schema_name = '{checked(database)}'")
@@ -358,9 +361,6 @@ DROP DATABASE IF EXISTS `{0}`;
         made.write_bytes(done.stdout)
         made.rename(dump)
         self.drop(database)
-
-    def remembers(self, template):
-        return self.dump(template).exists()
 
 
 class Galera(MariaDb):

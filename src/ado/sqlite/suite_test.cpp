@@ -14,7 +14,9 @@ class SqliteContext : public Context {
   String textColumn(int size) const override {
     return u"VARCHAR(" + fromUtf8(std::to_string(size)) + u") COLLATE ZQN_TEXT";
   }
-  bool hasKeysets() const override { return true; }
+  String countedKey() const override { return u"INTEGER PRIMARY KEY"; }
+  bool ignoresTrailingBlanks() const override { return true; }
+  bool updatesWithoutKey() const override { return true; }
 
  private:
   sqlite::TemporaryFile file_;

@@ -27,7 +27,6 @@ const sql::Text ManyList =
 }  // namespace
 
 TEST_P(KeysetTest, ReadsItsKeysAsTheyAreNeeded) {
-  if (!context->hasKeysets()) GTEST_SKIP() << "no keysets here";
   fillMany(connection);
   const auto rs = open(ManyList);
   EXPECT_GT(rs->knownRows(), 0);
@@ -66,7 +65,6 @@ TEST_P(KeysetTest, CountAndLastRowReadAllKeys) {
 }
 
 TEST_P(KeysetTest, FindReadsKeysOnlyAsFarAsTheMatch) {
-  if (!context->hasKeysets()) GTEST_SKIP() << "no keysets here";
   fillMany(connection);
   const auto rs = open(ManyList);
   rs->Find(u"Status='K05000'");
@@ -109,7 +107,6 @@ TEST_P(KeysetTest, RowsAddedByOthersAreUnseenUntilRequery) {
 }
 
 TEST_P(KeysetTest, RowsAddedWhileKeysAreReadAreUnseenToo) {
-  if (!context->hasKeysets()) GTEST_SKIP() << "no keysets here";
   fillMany(connection);
   const auto rs = open(ManyList);
   connection->Execute(u"INSERT INTO Vertriebsstati VALUES ('k09998b', 'neu', 0, 0)");
@@ -135,7 +132,7 @@ TEST_P(KeysetTest, LongListIsNotInTheWayOfWriting) {
   fillMany(connection);
   const auto other = context->connect();
   const auto rs = open(ManyList);
-  EXPECT_FALSE(rs->rowsComplete() && context->hasKeysets());
+  EXPECT_FALSE(rs->rowsComplete());
   connection->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='x' WHERE Status='k00001'");
   other->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='y' WHERE Status='k00002'");
   connection->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='z' WHERE Status='k00003'");
@@ -151,7 +148,6 @@ TEST_P(KeysetTest, SeesUncommittedRowsOfItsOwnConnection) {
 }
 
 TEST_P(KeysetTest, ReadsARowAnewWhenItBecomesCurrent) {
-  if (!context->hasKeysets()) GTEST_SKIP() << "no keysets here";
   for (const char16_t* statement : {u"SELECT Status, Bezeichnung FROM Vertriebsstati ORDER BY Status",
                                     u"SELECT Status, Bezeichnung FROM Vertriebsstati WHERE Status>='10'"}) {
     const auto rs = open(statement);
@@ -168,7 +164,6 @@ TEST_P(KeysetTest, ReadsARowAnewWhenItBecomesCurrent) {
 }
 
 TEST_P(KeysetTest, DeletedRowsStayAsHoles) {
-  if (!context->hasKeysets()) GTEST_SKIP() << "no keysets here";
   const auto rs = openForWrite(u"SELECT Status, Bezeichnung FROM Vertriebsstati ORDER BY Status");
   context->connect()->Execute(u"DELETE FROM Vertriebsstati WHERE Status='20'");
   EXPECT_EQ(rs->RecordCount(), 3);
@@ -211,11 +206,13 @@ TEST_P(KeysetTest, RowsThatAreNoTableRowsAreReadAtOnce) {
 
 TEST_P(KeysetTest, SortedByTheListItself) {
   const auto byAlias =
-      open(u"SELECT Gewichtung AS Status, Status AS Schluessel FROM Vertriebsstati ORDER BY Status DESC");
+      open(u"SELECT Gewichtung AS Status, Status AS Schluessel FROM Vertriebsstati WHERE Gewichtung>0 ORDER BY "
+           u"Status DESC");
   byAlias->MoveFirst();
   EXPECT_EQ(byAlias->Fields(1).Value(), Variant(u"20"));
-  const auto byNumber = open(u"SELECT Status, Bezeichnung FROM Vertriebsstati ORDER BY 2 DESC, 1");
-  EXPECT_EQ(keysFrom(*byNumber), u"20 10 30");
+  const auto byNumber =
+      open(u"SELECT Status, Bezeichnung FROM Vertriebsstati WHERE Status<'30' ORDER BY 2 DESC, 1");
+  EXPECT_EQ(keysFrom(*byNumber), u"20 10");
 }
 
 // ---- snapshots

@@ -29,10 +29,16 @@ class Context {
   virtual ~Context() = default;
   /// Another connection to it.
   virtual Ref<Connection> connect() = 0;
-  /// Declaration of a text column of `size` units whose texts compare without case and trailing blanks.
+  /// Declaration of a text column of `size` units whose texts compare without case.
   virtual String textColumn(int size) const = 0;
-  /// The server's cursor is a keyset: rows are fixed at Open and read again as they become current.
-  virtual bool hasKeysets() const = 0;
+  /// Declaration of a primary key that the database counts by itself.
+  virtual String countedKey() const = 0;
+  /// How a result spells the name of a column that was declared without quotes.
+  virtual String resultName(StringView declared) const { return String(declared); }
+  /// 'B ' finds 'B', too.
+  virtual bool ignoresTrailingBlanks() const = 0;
+  /// A row of a table without a primary key can be found again, and so be updated.
+  virtual bool updatesWithoutKey() const = 0;
 };
 using MakeContext = std::function<std::unique_ptr<Context>()>;
 

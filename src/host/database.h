@@ -25,8 +25,8 @@ std::filesystem::path dataFolder();
 Ref<ado::Connection> openDatabase(const DatabaseAddress& address);
 
 /// Tells on standard error what the dialogs will stumble over in an open database of a server: a table or a
-/// column that is missing or of another type, texts that it cannot hold. A line each, with what would be
-/// right; nothing for a file.
+/// column that is missing or of another type, texts that it cannot hold, keys in which case counts. A line
+/// each, with what would be right; nothing for a file.
 void tellFindings(ado::Connection& connection, const DatabaseAddress& address);
 
 /// Creates all tables of the system and their rows. A file is made when there is none, its folder must exist;

@@ -13,7 +13,8 @@ namespace zqn::host {
 
 namespace {
 
-// Table, column, type, and the character set where it is too small. Views count as tables.
+// Table, column, type, the character set where it is too small, and whether case counts. Views count as
+// tables.
 struct Questions {
   StringView columns;
   /// One value: the encoding of the database, empty where it holds every text.
@@ -25,9 +26,12 @@ struct Questions {
 const Questions& questions(Dialect dialect) {
   static constexpr Questions postgreSql{
       .columns =
-          u"SELECT c.relname, a.attname, format_type(a.atttypid, NULL), '' FROM pg_catalog.pg_class c "
+          u"SELECT c.relname, a.attname, format_type(a.atttypid, NULL), '', "
+          u"CASE WHEN k.collisdeterministic AND format_type(a.atttypid, NULL) <> 'citext' THEN 1 ELSE 0 END "
+          u"FROM pg_catalog.pg_class c "
           u"JOIN pg_catalog.pg_attribute a ON a.attrelid = c.oid "
           u"JOIN pg_catalog.pg_namespace n ON n.oid = c.relnamespace "
+          u"LEFT JOIN pg_catalog.pg_collation k ON k.oid = a.attcollation "
           u"WHERE c.relkind IN ('r', 'p', 'v', 'm', 'f') AND a.attnum > 0 AND NOT a.attisdropped "
           u"AND n.nspname NOT IN ('pg_catalog', 'information_schema') AND pg_table_is_visible(c.oid)",
       .narrow = u"SELECT CASE WHEN getdatabaseencoding() = 'UTF8' THEN '' ELSE getdatabaseencoding() END",
@@ -35,14 +39,16 @@ const Questions& questions(Dialect dialect) {
   static constexpr Questions mariaDb{
       .columns =
           u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN CHARACTER_SET_NAME IN ('utf8mb4', "
-          u"'utf16', 'utf16le', 'utf32') THEN '' ELSE COALESCE(CHARACTER_SET_NAME, '') END "
+          u"'utf16', 'utf16le', 'utf32') THEN '' ELSE COALESCE(CHARACTER_SET_NAME, '') END, "
+          u"CASE WHEN RIGHT(COLLATION_NAME, 3) <> '_ci' THEN 1 ELSE 0 END "
           u"FROM information_schema.COLUMNS WHERE TABLE_SCHEMA = DATABASE()",
       .database = u"SELECT DATABASE()",
   };
   static constexpr Questions sqlServer{
       .columns =
           u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN DATA_TYPE IN ('char', 'varchar', 'text') "
-          u"AND RIGHT(COLLATION_NAME, 5) <> '_UTF8' THEN COLLATION_NAME ELSE '' END "
+          u"AND RIGHT(COLLATION_NAME, 5) <> '_UTF8' THEN COLLATION_NAME ELSE '' END, "
+          u"CASE WHEN CHARINDEX('_CI_', COLLATION_NAME) = 0 THEN 1 ELSE 0 END "
           u"FROM INFORMATION_SCHEMA.COLUMNS WHERE TABLE_SCHEMA IN (SCHEMA_NAME(), 'dbo')",
   };
   if (dialect == Dialect::MariaDb) return mariaDb;
@@ -127,6 +133,14 @@ std::string tooNarrow(const String& set, const std::string& right) {
   return toUtf8(set) + ", which cannot hold every character; " + right + " would be right";
 }
 
+/// "COLLATE ..." as the text columns of the system say it.
+std::string rightCollation(Dialect dialect) {
+  const std::string type = toUtf8(columnType({.name = {}, .length = 1}, dialect));
+  return type.substr(type.find("COLLATE"));
+}
+
+void addName(std::string& list, StringView name) { list += (list.empty() ? "" : ", ") + toUtf8(name); }
+
 std::string missingTable(const Table& table, const String& otherSpelling) {
   std::string text = "table " + toUtf8(table.name) + " is missing";
   if (!otherSpelling.empty())
@@ -137,6 +151,7 @@ std::string missingTable(const Table& table, const String& otherSpelling) {
 void addColumnFindings(const Table& table, const std::map<String, const ServerColumn*>& found,
                        Dialect dialect, std::vector<std::string>& findings) {
   std::map<String, std::string> narrow;
+  std::string caseCounts;
   for (const Column& column : table.columns) {
     const std::string place = "column " + toUtf8(column.name) + " of table " + toUtf8(table.name);
     const auto there = found.find(folded(column.name));
@@ -149,11 +164,15 @@ void addColumnFindings(const Table& table, const std::map<String, const ServerCo
     if (!fits(column.kind, folded(present.type), dialect)) {
       findings.push_back(place + " is of the type " + toUtf8(present.type) + "; " +
                          toUtf8(columnType(column, dialect)) + " would be right");
-    } else if (!present.narrow.empty()) {
-      std::string& columns = narrow[present.narrow];
-      columns += (columns.empty() ? "" : ", ") + toUtf8(column.name);
+      continue;
     }
+    if (!present.narrow.empty()) addName(narrow[present.narrow], column.name);
+    if (present.caseCounts && std::ranges::count(table.primaryKey, column.name) > 0)
+      addName(caseCounts, column.name);
   }
+  if (!caseCounts.empty())
+    findings.push_back("table " + toUtf8(table.name) + " tells capital from small letters in its key (" +
+                       caseCounts + "); " + rightCollation(dialect) + " would be right");
   const std::string right = dialect == Dialect::MariaDb ? "utf8mb4" : "NVARCHAR";
   for (const auto& each : narrow)
     findings.push_back("table " + toUtf8(table.name) + " keeps texts (" + each.second + ") in " +
@@ -175,8 +194,8 @@ ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect) {
   catalogue.hasDatabase = ask.database.empty() || !answer(connection, ask.database).isNull();
   const ado::RowStore rows = runStatement(connection, ask.columns).rows;
   for (int row = 0; row < rows.rows(); ++row)
-    catalogue.columns.push_back(
-        {textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)), textOf(rows.at(row, 3))});
+    catalogue.columns.push_back({textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)),
+                                 textOf(rows.at(row, 3)), rows.at(row, 4).integer != 0});
   if (const Variant encoding = answer(connection, ask.narrow); !encoding.isNull())
     catalogue.narrow = CStr(encoding);
   return catalogue;

@@ -21,6 +21,8 @@ struct ServerColumn {
   String type;
   /// The character set of a text column that cannot hold every text; empty for all others.
   String narrow = {};
+  /// A text column in which "ab" is not "AB".
+  bool caseCounts = false;
 };
 
 struct ServerCatalogue {

@@ -157,6 +157,17 @@ TEST(TextColumns, ThatCannotHoldEveryTextAreToldOnceForATable) {
                   "character; utf8mb4 would be right"));
 }
 
+TEST(AKey, InWhichCaseCountsIsTold) {
+  ServerCatalogue catalogue = complete(Dialect::PostgreSql);
+  columnOf(catalogue, u"Keywords", u"Keyword").caseCounts = true;
+  columnOf(catalogue, u"Keywords", u"Section").caseCounts = true;
+  columnOf(catalogue, u"Vertriebsstati", u"Bezeichnung").caseCounts = true;
+  EXPECT_THAT(
+      findings(catalogue),
+      ElementsAre("table Keywords tells capital from small letters in its key (Keyword, Section); COLLATE "
+                  "zqn_text would be right"));
+}
+
 TEST(ATable, WithCapitalsIsOutOfReachOnPostgreSqlAlone) {
   for (const Dialect dialect : {Dialect::PostgreSql, Dialect::MariaDb, Dialect::SqlServer}) {
     ServerCatalogue catalogue = complete(dialect);

@@ -351,6 +351,14 @@ class Unexpected(ServerTest):
         self.assertRegex(first, "column Gewichtung of table Vertriebsstati is of the type .*char.*; INTEGER would be")
         self.assertRegex(second, "column Bezeichnung of table Kontaktgruppen is of the type int.*; VARCHAR.* would be")
 
+    def test_case_tells_the_keys_of_a_table_apart(self):
+        collation = 'COLLATE "C"' if SERVER == "postgresql" else "COLLATE utf8mb4_bin"
+        self.statements("DROP TABLE Mitbewerber",
+                        f"CREATE TABLE Mitbewerber (Mitbewerber VARCHAR(15) {collation} PRIMARY KEY, "
+                        "Bezeichnung VARCHAR(50))")
+        finding, = self.told()
+        self.assertIn("table Mitbewerber tells capital from small letters in its key (Mitbewerber); COLLATE ", finding)
+
     @mariadb
     def test_a_column_that_cannot_hold_every_text(self):
         self.statements("ALTER TABLE Artikelgruppen MODIFY Langtext VARCHAR(50) CHARACTER SET latin1")

@@ -71,6 +71,8 @@ DeskWindow::DeskWindow(const HostOptions& options)
   splitter_->setSizes({280, 520});
   splitter_->setContentsMargins(8, 8, 8, 4);
   setCentralWidget(splitter_);
+  // A connection string may be wider than the window; the tool tip has it whole.
+  databaseLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   statusBar()->addWidget(databaseLabel_, 1);
   statusBar()->addPermanentWidget(userLabel_);
   makeActions();

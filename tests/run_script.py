@@ -2,9 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Scripts of user actions and their approved transcripts.
 
-    run_script.py check [--ui headless|qt] [NAME ...]   holds each transcript against its approved one
-    run_script.py approve [--ui headless|qt] [NAME ...] accepts the present transcripts
-    run_script.py show [--ui headless|qt] NAME          prints a transcript
+    run_script.py check [OPTION ...] [NAME ...]     holds each transcript against its approved one
+    run_script.py approve [OPTION ...] [NAME ...]   accepts the present transcripts
+    run_script.py show [OPTION ...] NAME            prints a transcript
+
+    --ui headless|qt            on this desktop alone
+    --server NAME --state DIR   on a database server that servers.py has started in DIR, instead of SQLite
 
 A script is scripts/NAME.jsonl, its approved transcript scripts/NAME.approved.jsonl; without names all scripts
 are meant. Comment lines at the top of a script say how the command is called:
@@ -12,14 +15,18 @@ are meant. Comment lines at the top of a script say how the command is called:
     # args: show 21 10 --today 2026-11-21     arguments of the command (needed)
     # init: --rows 1000                       how the database is made; --sample unless said
     # application: examples/application       a folder whose files the application folder holds at first
+    # server: sqlite postgresql               the databases it is about; all of them unless said
 
-Each run has a new database in a folder of its own, which is also its application folder. Without --ui a script
-runs on both desktops, and both must come to the same transcript. Whatever the command writes to standard error
-fails the run. The environment variable ZQN_DIALOG names the command, build/zqn-dialog unless set.
+Each run has a new database, and a folder of its own as its application folder. Without --ui a script runs on both
+desktops, and on every desktop and every database it must come to the same transcript; SQLite's is the one to
+approve where a script runs there. Whatever the command writes to standard error fails the run. The environment variable ZQN_DIALOG names the command, build/zqn-dialog unless set.
 """
 
 import argparse
+import contextlib
 import difflib
+import fcntl
+import hashlib
 import json
 import os
 import shlex
@@ -30,8 +37,14 @@ import tempfile
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE))
+import database_servers
+from server_processes import ServerFailure
+
 SCRIPTS = HERE / "scripts"
 DESKTOPS = ("headless", "qt")
+DATABASES = ("sqlite", "postgresql", "mariadb", "galera")
+SAMPLE = ["--sample"]
 TIMEOUT = 120
 
 # What Qt's platform without a display says about itself, whatever a program does.
@@ -107,18 +120,62 @@ def status_of(transcript):
     return 1 if returned in (None, "", {"empty": True}) else 0
 
 
-def transcript_of(name, desktop):
+def runs_on(name, server):
+    database = server.name if server else "sqlite"
+    wanted = header(name, "server", DATABASES)
+    for unknown in set(wanted) - set(DATABASES):
+        raise Failure(f"there is no database '{unknown}'; there are {', '.join(DATABASES)}")
+    return database in wanted
+
+
+def init(folder, database, arguments):
+    if call(folder, ["init", "--db", database, *arguments]).returncode != 0:
+        raise Failure("the database cannot be made")
+
+
+def sample_on(server, folder):
+    """The template with the sample that this command makes, made when it is first asked for."""
+    file = os.stat(command())
+    digest = hashlib.sha256(f"{command()} {file.st_mtime_ns} {file.st_size}".encode()).hexdigest()[:16]
+    template = f"sample_{digest}"
+    with open(server.home / "sample.lock", "w", encoding="utf-8") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        if not server.remembers(template):
+            init(folder, "odbc:" + server.create("sample_being_made"), SAMPLE)
+            server.remember("sample_being_made", template)
+    return template
+
+
+@contextlib.contextmanager
+def database_for(name, desktop, server, folder):
+    """Makes the database of one run; the address that the command takes."""
+    wanted = header(name, "init", SAMPLE)
+    if server is None:
+        address = "sqlite:stage.sqlite"
+        init(folder, address, wanted)
+        yield address
+        return
+    database = database_servers.database_name(f"{name}.{desktop}")
+    template = sample_on(server, folder) if wanted == SAMPLE else None
+    try:
+        address = "odbc:" + server.create(database, template=template)
+        if template is None:
+            init(folder, address, wanted)
+        yield address
+    finally:
+        server.drop(database)
+
+
+def transcript_of(name, desktop, server):
     arguments = header(name, "args")
     with tempfile.TemporaryDirectory(prefix="zqn-script-") as made:
         folder = Path(made)
         for source in header(name, "application", []):
             shutil.copytree(HERE.parent / source, folder, dirs_exist_ok=True)
             folder.chmod(0o700)  # the copied folder's mode came along
-        database = ["--db", "sqlite:stage.sqlite"]
-        if call(folder, ["init", *database, *header(name, "init", ["--sample"])]).returncode != 0:
-            raise Failure("the database cannot be made")
-        done = call(folder, [*arguments, *database, "--app-path", str(folder), "--ui", desktop,
-                             "--script", str(script_file(name)), "--transcript", "transcript.jsonl"])
+        with database_for(name, desktop, server, folder) as address:
+            done = call(folder, [*arguments, "--db", address, "--app-path", str(folder), "--ui", desktop,
+                                 "--script", str(script_file(name)), "--transcript", "transcript.jsonl"])
         file = folder / "transcript.jsonl"
         transcript = file.read_text(encoding="utf-8") if file.exists() else ""
     if done.returncode != status_of(transcript):
@@ -131,18 +188,21 @@ def difference(before, after, before_name, after_name):
                                           lineterm="", n=2))
 
 
-def check(name, desktops):
+def check(name, desktops, server):
     if not approved_file(name).exists():
         raise Failure(f"nobody has approved a transcript; see it with 'show {name}', accept it with 'approve {name}'")
     approved = approved_file(name).read_bytes().decode("utf-8")
     for desktop in desktops:
-        transcript = transcript_of(name, desktop)
+        transcript = transcript_of(name, desktop, server)
         if transcript != approved:
-            raise Failure(difference(approved, transcript, "approved", desktop))
+            where = f"{desktop} on {server.name}" if server else desktop
+            raise Failure(difference(approved, transcript, "approved", where))
 
 
-def approve(name, desktops):
-    transcripts = {desktop: transcript_of(name, desktop) for desktop in desktops}
+def approve(name, desktops, server):
+    if server and runs_on(name, None):
+        raise Failure("runs on SQLite, too; its transcript there is the one to approve")
+    transcripts = {desktop: transcript_of(name, desktop, server) for desktop in desktops}
     first, *others = transcripts
     for other in others:
         if transcripts[other] != transcripts[first]:
@@ -150,8 +210,8 @@ def approve(name, desktops):
     approved_file(name).write_bytes(transcripts[first].encode("utf-8"))
 
 
-def show(name, desktops):
-    sys.stdout.write(transcript_of(name, desktops[0]))
+def show(name, desktops, server):
+    sys.stdout.write(transcript_of(name, desktops[0], server))
 
 
 def main():
@@ -159,17 +219,25 @@ def main():
     parser.add_argument("action", choices=("check", "approve", "show"))
     parser.add_argument("names", metavar="NAME", nargs="*")
     parser.add_argument("--ui", choices=DESKTOPS)
+    parser.add_argument("--server", metavar="NAME", choices=DATABASES[1:])
+    parser.add_argument("--state", metavar="DIR")
     options = parser.parse_intermixed_args()
+    if (options.server is None) != (options.state is None):
+        parser.error("--server and --state belong together")
     act = {"check": check, "approve": approve, "show": show}[options.action]
     desktops = (options.ui,) if options.ui else DESKTOPS
+    server = database_servers.server(options.server, options.state) if options.server else None
 
     failed = 0
     for name in options.names or all_names():
         try:
             if not script_file(name).exists():
                 raise Failure(f"there is no script {script_file(name)}")
-            act(name, desktops)
-        except Failure as failure:
+            if runs_on(name, server):
+                act(name, desktops, server)
+            elif options.names:
+                raise Failure(f"does not run on {options.server or 'sqlite'}, as it says itself")
+        except (Failure, ServerFailure) as failure:
             failed += 1
             print(f"{name}: {failure}\n", file=sys.stderr)
     return 1 if failed else 0

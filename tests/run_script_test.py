@@ -16,10 +16,12 @@ import run_script
 COMMAND = """#!{python}
 import pathlib, sys
 arguments = sys.argv[1:]
+here = pathlib.Path({folder!r})
+with open(here / "calls", "a", encoding="utf-8") as calls:
+    calls.write(arguments[0] + " " + arguments[arguments.index("--db") + 1] + "\\n")
 if arguments[0] == "init":
     sys.exit(0)
 desktop = arguments[arguments.index("--ui") + 1]
-here = pathlib.Path({folder!r})
 target = arguments[arguments.index("--transcript") + 1]
 pathlib.Path(target).write_bytes((here / ("transcript." + desktop)).read_bytes())
 sys.stderr.write((here / "stderr").read_text())
@@ -27,6 +29,29 @@ sys.exit(int((here / "status").read_text()))
 """
 
 DONE = '{"shown":"frmBühne"}\n{"result":{"return":"10","param":["10"]}}\n'
+
+
+class Server:
+    """A server that notes what it is asked for."""
+
+    name = "postgresql"
+
+    def __init__(self, home):
+        self.home, self.asked, self.templates = home, [], set()
+
+    def create(self, database, template=None):
+        self.asked.append(f"create {database} from {template}" if template else f"create {database}")
+        return f"Database={database}"
+
+    def drop(self, database):
+        self.asked.append(f"drop {database}")
+
+    def remembers(self, template):
+        return template in self.templates
+
+    def remember(self, database, as_template):
+        self.asked.append(f"remember {database}")
+        self.templates.add(as_template)
 
 
 class RunScript(unittest.TestCase):
@@ -116,6 +141,85 @@ class RunScript(unittest.TestCase):
         self.script('{"get":[]}\n# args: show 21\n')
         self.assertIn("# args:", self.run_script("check", "name")[1] + self.run_script("approve", "name")[1])
         self.assertEqual(self.run_script("check", "nirgends")[0], 1)
+
+    def serve(self):
+        """A server stands ready from now on; the arguments that lead there."""
+        server = Server(self.folder)
+        patch = mock.patch.object(run_script.database_servers, "server", lambda name, state: server)
+        patch.start()
+        self.addCleanup(patch.stop)
+        return server, ("--server", "postgresql", "--state", "irgendwo", "--ui", "headless")
+
+    def calls(self):
+        file = self.folder / "calls"
+        lines = file.read_text(encoding="utf-8").splitlines() if file.exists() else []
+        file.unlink(missing_ok=True)
+        return lines
+
+    def test_on_a_server_each_run_has_a_copy_of_the_sample(self):
+        self.run_script("approve", "name")
+        self.calls()
+        server, options = self.serve()
+        self.assertEqual(self.run_script("check", *options, "name"), (0, ""))
+        self.assertEqual(self.run_script("check", *options, "name"), (0, ""))
+        database = run_script.database_servers.database_name("name.headless")
+        self.assertEqual(self.calls(), ["init odbc:Database=sample_being_made", f"show odbc:Database={database}",
+                                        f"show odbc:Database={database}"])
+        template, = server.templates
+        copy = [f"create {database} from {template}", f"drop {database}"]
+        self.assertEqual(server.asked, ["create sample_being_made", "remember sample_being_made", *copy, *copy])
+
+    def test_on_a_server_a_database_that_is_not_the_sample_is_made_directly(self):
+        self.script("# args: show 21 10\n# init: --rows 7\n")
+        self.run_script("approve", "name")
+        self.calls()
+        server, options = self.serve()
+        self.assertEqual(self.run_script("check", *options, "name"), (0, ""))
+        database = run_script.database_servers.database_name("name.headless")
+        self.assertEqual(self.calls(), [f"init odbc:Database={database}", f"show odbc:Database={database}"])
+        self.assertEqual(server.asked, [f"create {database}", f"drop {database}"])
+
+    def test_another_command_makes_another_sample(self):
+        self.run_script("approve", "name")
+        server, options = self.serve()
+        self.run_script("check", *options, "name")
+        with open(self.folder / "command", "a", encoding="utf-8") as command:
+            command.write("# newer\n")
+        self.run_script("check", *options, "name")
+        self.assertEqual(len(server.templates), 2)
+
+    def test_on_a_server_a_difference_fails_and_the_database_goes(self):
+        self.run_script("approve", "name")
+        self.behave(headless=DONE.replace("frm", "Frm"))
+        server, options = self.serve()
+        status, said = self.run_script("check", *options, "name")
+        self.assertEqual(status, 1)
+        self.assertIn("+++ headless on postgresql", said)
+        self.assertRegex(server.asked[-1], "^drop ")
+        self.behave(stderr="qt.sql: something is wrong\n")
+        self.assertEqual(self.run_script("check", *options, "name")[0], 1)
+        self.assertRegex(server.asked[-1], "^drop ")
+
+    def test_a_script_runs_where_it_says(self):
+        server, options = self.serve()
+        self.script("# args: show 21 10\n# server: postgresql\n")
+        self.assertEqual(self.run_script("approve", *options, "name"), (0, ""))
+        self.assertEqual(self.run_script("check", *options), (0, ""))
+        self.calls()
+        self.assertEqual(self.run_script("check"), (0, ""))  # all that run on SQLite: none
+        self.assertEqual(self.calls(), [])
+        self.assertIn("does not run on sqlite", self.run_script("check", "name")[1])
+        self.script("# args: show 21 10\n# server: sqlite\n")
+        self.assertIn("does not run on postgresql", self.run_script("check", *options, "name")[1])
+        self.script("# args: show 21 10\n# server: orakel\n")
+        self.assertIn("there is no database 'orakel'", self.run_script("check", "name")[1])
+
+    def test_what_is_approved_is_the_transcript_of_sqlite(self):
+        server, options = self.serve()
+        status, said = self.run_script("approve", *options, "name")
+        self.assertEqual(status, 1)
+        self.assertIn("runs on SQLite, too", said)
+        self.assertFalse((self.folder / "name.approved.jsonl").exists())
 
 
 if __name__ == "__main__":

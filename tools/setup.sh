@@ -12,6 +12,10 @@ packages=(
   libsqlite3-dev qt6-base-dev fonts-liberation libcli11-dev nlohmann-json3-dev
   # tests and benchmarks
   libgtest-dev libgmock-dev libbenchmark-dev python3 pkg-config dpkg-dev
+  # database servers over ODBC: what the provider is built with, and the drivers
+  unixodbc-dev odbc-postgresql odbc-mariadb tdsodbc
+  # the servers that the tests start for themselves, with ports and data of their own: tests/servers.py
+  postgresql mariadb-server galera-4
   # ./check
   clang-format clang-tidy doxygen
 )
@@ -29,5 +33,12 @@ if [ "$(id -u)" -ne 0 ]; then
 fi
 echo "Installing: ${missing[*]}" >&2
 export DEBIAN_FRONTEND=noninteractive
+# The servers' packages would start their own servers, which nobody here needs.
+policy=/usr/sbin/policy-rc.d
+if [ ! -e "$policy" ]; then
+  trap 'rm -f "$policy"' EXIT
+  printf '#!/bin/sh\nexit 101\n' >"$policy"
+  chmod 755 "$policy"
+fi
 apt-get update -qq >&2
 apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2

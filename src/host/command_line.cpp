@@ -174,7 +174,9 @@ Options parseCommandLine(int argc, const char* const* argv) {
   kinds->add_flag("--json", options.json, "As a JSON array");
 
   CLI::App* init = app.add_subcommand("init", "Create the tables of the system in a database");
-  init->add_option("--db", options.host.database, "Database: sqlite:FILE")->option_text("URL")->required();
+  init->add_option("--db", options.host.database, "Database: sqlite:FILE or odbc:CONNECTION-STRING")
+      ->option_text("URL")
+      ->required();
   CLI::Option* sample = init->add_flag("--sample", options.init.sample, "With sample rows in German");
   init->add_option("--rows", options.init.rows, "With N generated rows in each catalogue")
       ->option_text("N")
@@ -183,7 +185,9 @@ Options parseCommandLine(int argc, const char* const* argv) {
 
   CLI::App* sql =
       app.add_subcommand("sql", "Run statements from standard input, each ended by ; at a line's end");
-  sql->add_option("--db", options.host.database, "Database: sqlite:FILE")->option_text("URL")->required();
+  sql->add_option("--db", options.host.database, "Database: sqlite:FILE or odbc:CONNECTION-STRING")
+      ->option_text("URL")
+      ->required();
 
   CLI::App* show = app.add_subcommand("show", "Open one dialog and print the key that it returns");
   show->add_option("KIND", texts.kind, "Number of the kind; 'zqn-dialog kinds' lists them")->required();

@@ -29,12 +29,14 @@ class Profile : public WSProfile {
 }  // namespace
 
 Host::Host(const HostOptions& options)
-    : file_(options.database ? databaseFile(*options.database) : defaultDatabaseFile()),
-      connection_(openDatabase(file_)),
+    : address_(options.database ? DatabaseAddress::read(*options.database)
+                                : DatabaseAddress::ofFile(defaultDatabaseFile())),
+      connection_(openDatabase(address_)),
       session_(std::make_shared<HostSession>(connection_, options.user.empty() ? loginName() : options.user,
                                              options.admin)),
       handsSessionOver_(options.session),
       multiselect_(options.multiselect) {
+  tellFindings(*connection_, address_);
   for (const SettingForRun& setting : options.settings) {
     const String user = setting.ofUser ? session_->user() : String();
     session_->settings().setForRun({setting.section, setting.key, user}, setting.value);
@@ -48,7 +50,7 @@ void Host::equip(ORBDialog& dialog) const {
 }
 
 script::ScriptWorld Host::world() const {
-  const Ref<ado::Connection> other = openDatabase(file_);
+  const Ref<ado::Connection> other = openDatabase(address_);
   return {.query = [other](StringView statement) { return query(*other, statement); },
           .execute = [other](StringView statement) { other->Execute(statement); },
           .saveSetting =

@@ -7,11 +7,11 @@
 //     host.equip(dialog);
 #pragma once
 
-#include <filesystem>
 #include <memory>
 
 #include "frontend/orb_dialog.h"
 #include "host/command_line.h"
+#include "host/database_address.h"
 #include "host/host_session.h"
 #include "host/script/world.h"
 #include "runtime/locale.h"
@@ -20,13 +20,14 @@ namespace zqn::host {
 
 class Host {
  public:
-  /// Opens the database of the options, or the default one. CommandFailure when it cannot be opened.
+  /// Opens the database of the options, or the default one. CommandFailure when it cannot be opened; what the
+  /// dialogs will stumble over in it is told on standard error.
   explicit Host(const HostOptions& options);
 
   /// Gives a dialog its connection, the session unless the options leave it out, and Multiselect.
   void equip(ORBDialog& dialog) const;
 
-  const std::filesystem::path& file() const noexcept { return file_; }
+  const DatabaseAddress& address() const noexcept { return address_; }
   const Ref<ado::Connection>& connection() const noexcept { return connection_; }
   HostSession& session() const noexcept { return *session_; }
 
@@ -35,7 +36,7 @@ class Host {
   script::ScriptWorld world() const;
 
  private:
-  std::filesystem::path file_;
+  DatabaseAddress address_;
   Ref<ado::Connection> connection_;
   std::shared_ptr<HostSession> session_;
   bool handsSessionOver_;

@@ -21,10 +21,11 @@ ExitStatus showHeadless(const Options& options) {
 }
 
 void init(const Options& options) {
-  const auto file = databaseFile(*options.host.database);
-  const Created created = createTables(file, {.sample = options.init.sample, .rows = options.init.rows});
-  std::cout << "created " << created.tables << " tables with " << created.rows << " rows in " << file.string()
-            << "\n";
+  const auto address = DatabaseAddress::read(*options.host.database);
+  const Created created = createTables(address, {.sample = options.init.sample, .rows = options.init.rows});
+  std::cout << "created " << created.tables << " tables with " << created.rows << " rows in "
+            << address.shown() << "\n";
+  tellFindings(*openDatabase(address), address);
 }
 
 ExitStatus run(const Options& options, const WithWindows& withWindows) {
@@ -39,7 +40,7 @@ ExitStatus run(const Options& options, const WithWindows& withWindows) {
       init(options);
       return ExitStatus::Done;
     case Command::Sql:
-      runStatements(*openDatabase(databaseFile(*options.host.database)), std::cin, std::cout);
+      runStatements(*openDatabase(DatabaseAddress::read(*options.host.database)), std::cin, std::cout);
       return ExitStatus::Done;
     case Command::Show:
       if (options.show.ui == Ui::Headless) return showHeadless(options);

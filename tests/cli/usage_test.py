@@ -55,9 +55,9 @@ class WrongUsage(CommandTest):
         self.assert_refused(WRONG_USAGE, ["--db", "behind"], "--db", "sqlite:a.sqlite", "kinds")
 
     def test_a_database_is_a_url(self):
-        for url in ("a.sqlite", "foo:a.sqlite", "sqlite:", ""):
+        for url in ("a.sqlite", "foo:a.sqlite", "sqlite:", "odbc:", "odbc: ;", ""):
             for command in (("show", "21"), ("init",), ("sql",)):
-                self.assert_refused(WRONG_USAGE, ["--db", "sqlite:FILE"], *command, "--db", url)
+                self.assert_refused(WRONG_USAGE, ["--db", "sqlite:FILE", "odbc:CONNECTION-STRING"], *command, "--db", url)
 
     def test_init_and_sql_need_a_database(self):
         self.assert_refused(WRONG_USAGE, ["--db"], "init", "--sample")
@@ -68,8 +68,8 @@ class WrongUsage(CommandTest):
         for rows in ("0", "-1", "many", "1.5"):
             self.assert_refused(WRONG_USAGE, ["--rows"], "init", "--db", "sqlite:a.sqlite", "--rows", rows)
 
-    def test_odbc_is_told_apart_from_a_wrong_url(self):
-        self.assert_refused(CANNOT_OPEN, ["ODBC", "sqlite:FILE"], "show", "21", "--db", "odbc:DSN=waren")
+    def test_a_data_source_that_is_not_there_is_no_wrong_usage(self):
+        self.assert_refused(CANNOT_OPEN, ["'DSN=nirgends;PWD=***'"], "show", "21", "--db", "odbc:DSN=nirgends;PWD=x")
 
 
 class Help(CommandTest):

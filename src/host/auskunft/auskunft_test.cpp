@@ -28,8 +28,9 @@ class AuskunftTest : public ::testing::Test {
  protected:
   AuskunftTest() {
     std::filesystem::create_directories(folder_);
-    createTables(folder_ / "sample.sqlite", {.sample = true});
-    connection_ = openDatabase(folder_ / "sample.sqlite");
+    const auto address = DatabaseAddress::ofFile(folder_ / "sample.sqlite");
+    createTables(address, {.sample = true});
+    connection_ = openDatabase(address);
     offerAuskunft(connection_);
   }
   ~AuskunftTest() override {

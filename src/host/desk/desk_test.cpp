@@ -59,7 +59,7 @@ class Desk : public ::testing::Test {
  protected:
   void SetUp() override {
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
-    createTables(file(), {.sample = true});
+    createTables(DatabaseAddress::ofFile(file()), {.sample = true});
   }
   std::string file() const { return folder.filePath("waren.sqlite").toStdString(); }
   HostOptions options() const {

@@ -156,6 +156,7 @@ void DeskWindow::makeActions() {
   };
   QMenu* database = menuBar()->addMenu("&Datenbank");
   add(database, "Ö&ffnen…", QKeySequence("Ctrl+O"), [this] { pickDatabase(); });
+  add(database, "Auf einem &Server öffnen…", {}, [this] { pickServer(); });
   add(database, "&Neu mit Beispieldaten…", QKeySequence("Ctrl+N"), [this] { createDatabase(); });
   database->addSeparator();
   add(database, "&Beenden", QKeySequence("Ctrl+Q"), [this] { close(); });
@@ -207,7 +208,7 @@ void DeskWindow::showLines() {
   if (dialog == nullptr) return;
   const CallToWrite call{.kind = dialog->kind,
                          .param = param(),
-                         .database = "sqlite:" + host_->file().string(),
+                         .database = host_->address().shownUrl(),
                          .multiselect = multiselect_->isChecked(),
                          .generic = dialog->generic || generic_->isChecked()};
   cppLines_->setPlainText(QString::fromStdString(cppLines(call)));
@@ -230,21 +231,38 @@ void DeskWindow::open(const DialogTitle& title) {
   activateWindow();
 }
 
+QString DeskWindow::folderOfDatabase() const {
+  const auto& address = host_->address();
+  const auto folder = address.isServer() ? dataFolder() : address.file().parent_path();
+  return QString::fromStdString(folder.string());
+}
+
 void DeskWindow::pickDatabase() {
-  const QString folder = QString::fromStdString(host_->file().parent_path().string());
-  const QString file = QFileDialog::getOpenFileName(this, "Datenbank öffnen", folder, databaseFilter);
-  if (!file.isEmpty()) useDatabase(file);
+  const QString file =
+      QFileDialog::getOpenFileName(this, "Datenbank öffnen", folderOfDatabase(), databaseFilter);
+  if (!file.isEmpty()) useDatabase("sqlite:" + file.toStdString());
+}
+
+void DeskWindow::pickServer() {
+  const auto& address = host_->address();
+  bool taken = false;
+  const QString text =
+      QInputDialog::getText(this, "Datenbankserver", "Verbindung des ODBC-Treibers:", QLineEdit::Normal,
+                            address.isServer() ? QString::fromStdString(address.shown())
+                                               : QString("Driver={};Server=;Database=;UID=;PWD="),
+                            &taken);
+  if (taken) useDatabase("odbc:" + text.toStdString());
 }
 
 void DeskWindow::createDatabase() {
-  const QString folder = QString::fromStdString(host_->file().parent_path().string());
-  const QString file =
-      QFileDialog::getSaveFileName(this, "Neue Datenbank mit Beispieldaten", folder + "/beispiel.sqlite",
-                                   databaseFilter, nullptr, QFileDialog::DontConfirmOverwrite);
+  const QString file = QFileDialog::getSaveFileName(this, "Neue Datenbank mit Beispieldaten",
+                                                    folderOfDatabase() + "/beispiel.sqlite", databaseFilter,
+                                                    nullptr, QFileDialog::DontConfirmOverwrite);
   if (file.isEmpty()) return;
+  const std::string url = "sqlite:" + file.toStdString();
   try {
-    createTables(file.toStdString(), {.sample = true});
-    useDatabase(file);
+    createTables(DatabaseAddress::read(url), {.sample = true});
+    useDatabase(url);
   } catch (const CommandFailure& failure) {
     QMessageBox::critical(
         this, windowTitle(),
@@ -252,9 +270,9 @@ void DeskWindow::createDatabase() {
   }
 }
 
-void DeskWindow::useDatabase(const QString& file) {
+void DeskWindow::useDatabase(const std::string& url) {
   HostOptions options = options_;
-  options.database = "sqlite:" + file.toStdString();
+  options.database = url;
   try {
     auto opened = std::make_unique<Host>(options);
     opened->session().user(host_->session().user());
@@ -287,9 +305,9 @@ void DeskWindow::changeSettings() {
 void DeskWindow::showSession() {
   const bool admin = host_->session().UserIsAdmin();
   adminAction_->setChecked(admin);
-  const QString file = QString::fromStdString(host_->file().string());
-  databaseLabel_->setText("Datenbank: " + file);
-  databaseLabel_->setToolTip(file);
+  const QString database = QString::fromStdString(host_->address().shown());
+  databaseLabel_->setText("Datenbank: " + database);
+  databaseLabel_->setToolTip(database);
   userLabel_->setText("Benutzer: " + toQt(host_->session().user()) + (admin ? " (Administrator)" : ""));
 }
 

@@ -44,8 +44,11 @@ class DeskWindow : public QMainWindow {
   void showLines();
 
   void pickDatabase();
+  void pickServer();
   void createDatabase();
-  void useDatabase(const QString& file);
+  /// `url` as --db takes it.
+  void useDatabase(const std::string& url);
+  QString folderOfDatabase() const;
   void changeUser();
   void changeSettings();
   void showSession();

@@ -9,7 +9,7 @@ using ado::sql::Text;
 
 void clsBuchungskreise::Init(const Variant& Key, const Ref<ado::Connection>& Connection) {
   m_strHerkunft = concatenate(Key);
-  CodedCatalogue::Init(u"", Connection);
+  CodedCatalogue::Init(Key.isNull() ? Variant(Null) : Variant(u""), Connection);
 }
 
 void clsBuchungskreise::ShowData(const Ref<ado::Recordset>& Recordset) {

@@ -12,7 +12,8 @@ class clsBuchungskreise final : public CodedCatalogue {
  public:
   clsBuchungskreise() : CodedCatalogue(valuesOf(codedCatalogues, u"clsBuchungskreise")) {}
 
-  /// Takes `Key` as the origin, Null as the empty one, and goes on without a key. Error 13 for an object.
+  /// Takes `Key` as the origin and goes on without a key. Null is the empty origin, and stays the key until
+  /// one is picked or saved. Error 13 for an object.
   void Init(const Variant& Key, const Ref<ado::Connection>& Connection) override;
   /// The second column gets the caption and is hidden: the third shows under its own name.
   void ShowData(const Ref<ado::Recordset>& Recordset) override;

@@ -85,7 +85,7 @@ TEST_F(Buchungskreise, TheCriterionHasTheKeyWithoutQuotes) {
   });
 }
 
-TEST_F(Buchungskreise, ANewRowGetsTheOriginOnce) {
+TEST_F(Buchungskreise, ANewRowGetsTheOrigin) {
   EXPECT_EQ(show(27, {u"VK"},
                  [&] {
                    enter(u"010");
@@ -98,6 +98,20 @@ TEST_F(Buchungskreise, ANewRowGetsTheOriginOnce) {
             Variant(u"010"));
   EXPECT_THAT(of(u"VK"), ElementsAre(u"-|(ohne)", u"001|Angebote", u"002|Aufträge", u"010|Rechnungen Inland",
                                      u"1|Barverkauf"));
+}
+
+TEST_F(Buchungskreise, TheOriginOfAKnownRowIsNeverRewritten) {
+  show(27, {u"vk"}, [&] {
+    put(u"txtKey", u"001");
+    press(key::Tab);
+    put(u"txtKeyText", u"Angebote Inland");
+    press(key::F9);
+    enter(u"010");
+    press(key::F9);
+  });
+  EXPECT_THAT(rows(u"SELECT * FROM Nummernkreis_Buchungskreise WHERE Buchungskreis IN ('001', '010') AND "
+                   u"Herkunft='VK'"),
+              ::testing::UnorderedElementsAre(u"001|VK|Angebote Inland", u"010|vk|NULL"));
 }
 
 TEST_F(Buchungskreise, TheSameRangeOfAnotherOriginStays) {
@@ -117,18 +131,29 @@ TEST_F(Buchungskreise, TheSameRangeOfAnotherOriginStays) {
 
 TEST_F(Buchungskreise, AnEmptyOriginIsAnOriginToo) {
   for (const Variant& origin : {Variant(u""), Variant(), Variant(Null)}) {
-    show(27, {origin}, [&] {
-      EXPECT_THAT(listRows(u"tdblShow"), ElementsAre(u"900||Ohne Herkunft"));
-      enter(u"901");
-      press(key::F9);
-      EXPECT_EQ(listRows(u"tdblShow").size(), 2u);
-      deleteMarked();
-    });
+    EXPECT_EQ(show(27, {origin},
+                   [&] {
+                     EXPECT_EQ(text(u"txtKey"), u"");
+                     EXPECT_THAT(listRows(u"tdblShow"), ElementsAre(u"900||Ohne Herkunft"));
+                     enter(u"901");
+                     press(key::F9);
+                     EXPECT_EQ(listRows(u"tdblShow").size(), 2u);
+                     deleteMarked();
+                   }),
+              Variant(u"901"));
+    EXPECT_EQ(param.at(0), Variant(u"901"));
     EXPECT_EQ(statements(ado::Operation::Open).front(),
               u"SELECT * FROM Nummernkreis_Buchungskreise WHERE Buchungskreis<>'-' AND Herkunft='' ORDER BY "
               u"Buchungskreis");
     operations.clear();
   }
+}
+
+TEST_F(Buchungskreise, NullComesBackAsItWentInUnlessARangeIsTaken) {
+  EXPECT_TRUE(show(27, {Null}, [&] { press(key::Escape); }).isEmpty());
+  EXPECT_TRUE(param.at(0).isNull());
+  EXPECT_EQ(show(27, {Null}, [&] { doubleClick(0, u"tdblShow"); }), Variant(u"900"));
+  EXPECT_EQ(param.at(0), Variant(u"900"));
 }
 
 TEST_F(Buchungskreise, TheKeyTakesThreeCharacters) {

@@ -156,6 +156,14 @@ TEST_P(GroupCatalogues, AStoredHyphenIsHiddenAndKeptWhereItIsReserved) {
   EXPECT_THAT(all(), Contains(of().reserved ? u"-|lang|kurz" : u"-|lang|neu"));
 }
 
+TEST_P(GroupCatalogues, AHyphenAndABlankAreAKeyAsAnyOther) {
+  showThis({u""}, [&] {
+    enter(u"- ");
+    press(key::F9);
+  });
+  EXPECT_THAT(all(), Contains(u"- |NULL|NULL"));
+}
+
 TEST_P(GroupCatalogues, AKnownKeyIsUpdatedAndNeverRewritten) {
   showThis({u"X"}, [&] {
     click(u"cmdNew");
@@ -163,8 +171,25 @@ TEST_P(GroupCatalogues, AKnownKeyIsUpdatedAndNeverRewritten) {
     press(key::Tab);
     type(u"Neu");
     press(key::F9);
+    EXPECT_THAT(all(), Contains(u"A|Armaturen für Gas|Neu"));
+    put(u"txtKey", u"w");
+    press(key::F9);
   });
-  EXPECT_THAT(all(), Contains(u"A|Armaturen für Gas|Neu"));
+  EXPECT_THAT(all(), Contains(u"W|Armaturen für Gas|Neu")) << "F9 saves what the fields show";
+}
+
+TEST_P(GroupCatalogues, TheListKeepsItsColumnsWhenARowIsSavedOrDeleted) {
+  showThis({u"A"}, [&] {
+    const auto expectColumns = [&](const char* after) {
+      EXPECT_EQ(get(u"tdblShow", u"Columns(0).Width"), Variant(std::int32_t{1800})) << after;
+      EXPECT_EQ(get(u"tdblShow", u"Columns(1).Caption"), Variant(u"Bezeichnung")) << after;
+      EXPECT_EQ(get(u"tdblShow", u"Columns(2).Visible"), Variant(false)) << after;
+    };
+    click(u"cmdOK");
+    expectColumns("saving");
+    deleteMarked();
+    expectColumns("deleting");
+  });
 }
 
 TEST_P(GroupCatalogues, DeletesTheMarkedRowWhateverTheKeySays) {

@@ -80,6 +80,31 @@ TEST_F(PaymentTypes, AHyphenAsCodeTicksTheBoxAndSwitchesTheCodeOff) {
   });
 }
 
+TEST_F(PaymentTypes, TheCodeTakesItsColoursFromItsNeighbours) {
+  showGeneric(1, {u"LAS"}, [&] {
+    form().control(u"chk1").BackColor(0x00112233);
+    form().control(u"txtLangtext").BackColor(0x00445566);
+    const Control& code = form().control(u"txtZusatz");
+    click(u"chk1");
+    EXPECT_EQ(code.BackColor(), 0x00112233u);
+    click(u"chk1");
+    EXPECT_EQ(code.BackColor(), 0x00445566u);
+    mark(0);
+    EXPECT_EQ(code.BackColor(), 0x00112233u) << "a record without transfer";
+    mark(1);
+    EXPECT_EQ(code.BackColor(), 0x00445566u) << "and one with";
+  });
+}
+
+TEST_F(PaymentTypes, TheKeyOfAKnownRecordIsNeverRewritten) {
+  showGeneric(1, {u"BAR"}, [&] {
+    put(u"txtKey", u"bar");
+    press(key::F9);
+  });
+  EXPECT_THAT(head(), Contains(u"BAR|Barzahlung|-"));
+  EXPECT_THAT(blocks(), Contains(u"ZAA|BAR|000|ÿÿÿ|Barzahlung|Betrag erhalten.|---R-|Arial|10|---L"));
+}
+
 TEST_F(PaymentTypes, ATypedHyphenReadsBackWithTheBoxTicked) {
   showGeneric(1, {u"LAS"}, [&] {
     put(u"txtZusatz", u"-");

@@ -156,6 +156,15 @@ TEST_F(Versandarten, TheMarksAreReadByLetterAndWrittenByPosition) {
   EXPECT_THAT(blocks(), Contains(u"VSA|LKW|000|ÿÿÿ|Eigener LKW|Frei Haus.|N-L--|Arial|10|---L"));
 }
 
+TEST_F(Versandarten, TheKeyOfAKnownRecordIsNeverRewritten) {
+  show(4, {u"LKW"}, [&] {
+    put(u"txtKey", u"lkw");
+    press(key::F9);
+  });
+  EXPECT_THAT(head(), Contains(u"LKW|Eigener LKW|Frachtbrief A4|NULL"));
+  EXPECT_THAT(blocks(), Contains(u"VSA|LKW|000|ÿÿÿ|Eigener LKW|Frei Haus.|N-L--|Arial|10|---L"));
+}
+
 TEST_F(Versandarten, AHeadRowWithoutABlockShowsTheDefaultsAndGetsItsBlockOnSaving) {
   show(4, {u"PAKET"}, [&] {
     EXPECT_EQ(text(u"txtLangtext"), u"");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Payment terms, kind 3: the seven numbers, the sentence that is built of them, and their row.
+#include "runtime/convert.h"
 #include "testing/payment_terms.h"
 
 namespace zqn::testing {
@@ -23,6 +24,7 @@ TEST_F(Zahlungsbedingungen, ShowsItsFieldsAndCaptions) {
     EXPECT_EQ(get(u"tdblShow", u"Columns(1).Caption"), Variant(u"Kurztext:"));
     EXPECT_EQ(get(u"txtKey", u"MaxLength"), Variant(std::int32_t{3}));
     EXPECT_FALSE(enabled(u"txtKeyText"));
+    EXPECT_EQ(CDbl(get(u"txtKeyText", u"BackColor")), 1.0 * 0x8000000F);
     const std::vector<String> shown = shownControls();
     EXPECT_EQ(shown.size(), 28u);
     EXPECT_THAT(shown, ::testing::Not(
@@ -68,6 +70,46 @@ TEST_F(Zahlungsbedingungen, SavesTheNumbersAndTheirSentence) {
     EXPECT_EQ(get(u"tdblShow", u"Text"), Variant(u"N1"));
   });
   EXPECT_THAT(row(u"N1"), ElementsAre(u"N1|10 Tage 3%, 20 Tage 2%, 30 Tage netto.|10|20|0|30|3|2|0"));
+}
+
+TEST_F(Zahlungsbedingungen, AllSevenNumbersAreStoredAndReadAgain) {
+  show(3, {u""}, [&] {
+    enter(u"N1");
+    put(u"tdbnSkTage(0)", u"7");
+    put(u"tdbnPercent(0)", u"4");
+    put(u"tdbnSkTage(1)", u"14");
+    put(u"tdbnPercent(1)", u"3");
+    put(u"tdbnSkTage(2)", u"21");
+    put(u"tdbnPercent(2)", u"2,5");
+    put(u"tdbnNettoTage", u"60");
+    click(u"cmdOK");
+    mark(0);
+    EXPECT_EQ(number(u"tdbnSkTage(2)"), Variant(0.0));
+    put(u"txtKey", u"N1");
+    press(key::Tab);
+    EXPECT_EQ(text(u"txtKeyText"), u"7 Tage 4%, 14 Tage 3%, 21 Tage 2,5%, 60 Tage netto.");
+    EXPECT_EQ((std::vector{number(u"tdbnSkTage(0)"), number(u"tdbnPercent(0)"), number(u"tdbnSkTage(1)"),
+                           number(u"tdbnPercent(1)"), number(u"tdbnSkTage(2)"), number(u"tdbnPercent(2)"),
+                           number(u"tdbnNettoTage")}),
+              (std::vector<Variant>{7.0, 4.0, 14.0, 3.0, 21.0, 2.5, 60.0}));
+  });
+  EXPECT_THAT(row(u"N1"),
+              ElementsAre(u"N1|7 Tage 4%, 14 Tage 3%, 21 Tage 2,5%, 60 Tage netto.|7|14|21|60|4|3|2,5"));
+}
+
+TEST_F(Zahlungsbedingungen, AnEmptyTextIsStoredAsOne) {
+  execute(u"INSERT INTO Zahlungsbedingungen (ZahlBedSchl) VALUES ('NU')");
+  show(3, {u"NU"}, [&] { click(u"cmdOK"); });
+  EXPECT_THAT(row(u"NU"), ElementsAre(u"NU||0|0|0|0|0|0|0"));
+}
+
+TEST_F(Zahlungsbedingungen, AColumnThatCannotBeWrittenKeepsItsValueAndLeavesTheOthers) {
+  show(3, {u"14"}, [&] {
+    put(u"tdbnNettoTage", u"15");
+    fail(ado::Operation::Field, u"Zahlungsbedingungen", error::ProviderFailure, 1);
+    press(key::F9);
+  });
+  EXPECT_THAT(row(u"14"), ElementsAre(u"14|14 Tage netto.|0|0|0|15|0|0|0"));
 }
 
 TEST_F(Zahlungsbedingungen, AnEmptiedNumberIsStoredAsNull) {

@@ -7,8 +7,8 @@
 //     objDialog.controls().txtKey(txtKey);           // the form hands a control over
 //     objDialog.controls().txtKey().Text(u"10");     // the class works with it
 //
-// Called by frmDialog alone. Only Init may let an error out to it, and DeleteData; whatever else fails is
-// skipped there.
+// Called by frmDialog alone. An error of Init or DeleteData, or of Key when the form itself is asked for its
+// key, goes on to the form's caller; whatever else fails is skipped there.
 #pragma once
 
 #include "ado/connection.h"

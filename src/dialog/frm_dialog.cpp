@@ -213,16 +213,16 @@ void frmDialog::tdblShow_RowColChange() {
 }
 
 void frmDialog::pick() {
-  const String value = tdblShow.Text();
-  if (Trim(value).empty()) return;
-  cmdDelete.Enabled(true);
-  txtKey.Text(value);
-  LoadRecord();
-  definition().Key(txtKey.Text());
+  ResumeNext step;
+  if (!step.test([&] { return !Trim(tdblShow.Text()).empty(); })) return;
+  step([&] { cmdDelete.Enabled(true); });
+  step([&] { txtKey.Text(tdblShow.Text()); });
+  step([&] { LoadRecord(); });
+  step([&] { definition().Key(txtKey.Text()); });
   if (Multiselect) {
-    DblClick.raise(definition().Key());
+    step([&] { DblClick.raise(definition().Key()); });
   } else {
-    UnloadMe();
+    step([&] { UnloadMe(); });
   }
 }
 
@@ -275,10 +275,11 @@ void frmDialog::cmdDelete_Click() {
 }
 
 void frmDialog::cmdNew_Click() {
-  definition().InitData();
-  txtKey.SetFocus();
-  txtKey.Text(u"");
-  UpdateOK();
+  ResumeNext step;
+  step([&] { definition().InitData(); });
+  step([&] { txtKey.SetFocus(); });
+  step([&] { txtKey.Text(u""); });
+  step([&] { UpdateOK(); });
 }
 
 void frmDialog::cmdCancel_Click() {
@@ -298,8 +299,10 @@ void frmDialog::Form_Activate() {
   } else if (step.test([&] { return txtKeyText.Enabled(); })) {
     step([&] { tdblShow.SetFocus(); });
   } else if (step.test([&] { return tdbnSkTage(0).Enabled() && tdbnSkTage(0).Visible(); })) {
-    // The number control does not take the focus at start unless another control had it before.
+    // The number control does not take the focus at start unless another control had it before, and kept it
+    // for as long as something waits.
     step([&] { cmdOK.SetFocus(); });
+    step([&] { Desktop::current().doEvents(); });
     step([&] { tdbnSkTage(0).SetFocus(); });
   }
 }

@@ -7,9 +7,9 @@
 //
 // There is no record state and no dirty flag: the text of txtKey is the current record.
 //
-// Error modes. Statement by statement: ShowData, LoadRecord, FindKey, SelectText, Form_Activate,
-// Form_KeyDown, Form_Unload, cmdOK, cmdCancel, and cmdDelete behind DeleteData. The others, Init among them,
-// let an error out.
+// Error modes. Whatever asks the definition class runs statement by statement, but for three: Init, Key, and
+// cmdDelete up to DeleteData let an error out. So do the routines that ask it for nothing: UpdateOK,
+// UpdateListState, UpdateZahlungstext, tdblShow_RowColChange and Form_KeyPress.
 #pragma once
 
 #include <memory>
@@ -39,6 +39,9 @@ class frmDialog final : public Form {
   String Key() const;
   /// Fills the form and shows it modally. Never raises: the form always comes up.
   void ShowData();
+  /// The dates can be entered while the check box is on; the definition class hears of it. Errors of the
+  /// class stay here.
+  void chk1_Click();
 
  private:
   void LoadRecord();
@@ -55,7 +58,6 @@ class frmDialog final : public Form {
   void pick();
   void paintList(std::uint32_t backColor, std::uint32_t foreColor);
 
-  void chk1_Click();
   void cmdOK_Click();
   void cmdDelete_Click();
   void cmdNew_Click();

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The generic form as a clerk works with it, on the payment terms; and what a definition class may do to it.
+// The generic form as a clerk works with it, on the payment terms.
 #include "dialog/frm_dialog.h"
 
-#include "dialog/frm_dialog_roster.h"
 #include "runtime/convert.h"
 #include "testing/payment_terms.h"
 
@@ -14,89 +13,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 class GenericForm : public PaymentTerms {};
-
-// ---- design
-
-TEST(GenericFormDesign, HoldsAllFieldsInvisibleInTheirTabOrder) {
-  frmDialog form;
-  ASSERT_EQ(form.controls().size(), 50u);
-  EXPECT_EQ(form.ScaleWidth(), 6465);
-  EXPECT_EQ(form.ScaleHeight(), 5235);
-  EXPECT_EQ(form.Caption(), u"Form1");
-  for (const auto& control : form.controls()) EXPECT_EQ(control->Visible(), control->Name() == u"lblFra");
-  EXPECT_EQ(form.control(u"lblFra").container(), &form.control(u"fra"));
-  EXPECT_FALSE(form.control(u"lblFra").isShown());
-  EXPECT_TRUE(form.Get<CommandButton>(u"cmdCancel").Cancel());
-  for (const auto& control : form.controls()) {
-    EXPECT_EQ(control->TabStop(), control->kind() != ControlKind::ToggleButton) << toUtf8(control->Name());
-  }
-}
-
-TEST(GenericFormDesign, PurchaseTogglesRepeatTheTipsOfTheSalesGroup) {
-  frmDialog form;
-  for (const auto& [purchase, sales] :
-       {std::pair{u"tglDruckAF", u"tglDruckLS"}, std::pair{u"tglDruckBS", u"tglDruckRG"},
-        std::pair{u"tglDruckLM", u"tglDruckGS"}}) {
-    EXPECT_EQ(form.control(purchase).ToolTipText(), form.control(sales).ToolTipText());
-    EXPECT_EQ(form.control(purchase).Left(), form.control(sales).Left());
-  }
-  EXPECT_EQ(form.control(u"tglDruckAN").ToolTipText(), u"Text wird auf Angebot gedruckt");
-}
-
-TEST(GenericFormDesign, WithoutACatalogueInitFailsAtOnce) {
-  for (const std::int32_t kind : {-1, 0, 16, 21, 28, 38}) {
-    frmDialog form;
-    EXPECT_EQ(errorNumberOf([&] { form.Init(nothing, u"", kind); }), error::ObjectNotSet) << kind;
-    EXPECT_EQ(errorNumberOf([&] { return form.Key(); }), error::ObjectNotSet);
-  }
-}
-
-// ---- opening
-
-TEST_F(GenericForm, OpensOnTheListRowOfTheKey) {
-  show(3, {u"14"}, [&] {
-    EXPECT_EQ(get(u"tdblShow", u"Row"), Variant(std::int32_t{1}));
-    EXPECT_EQ(number(u"tdbnNettoTage"), Variant(14.0));
-    EXPECT_EQ(focus(), u"tdbnSkTage(0)") << "with the key text disabled, the first number takes the focus";
-    EXPECT_TRUE(enabled(u"cmdOK"));
-    EXPECT_TRUE(enabled(u"cmdDelete"));
-  });
-}
-
-TEST_F(GenericForm, AKeyThatIsNotInTheListGetsTheFocusAndCannotBeDeleted) {
-  show(3, {u"X9"}, [&] {
-    EXPECT_EQ(text(u"txtKey"), u"X9");
-    EXPECT_EQ(focus(), u"txtKey");
-    EXPECT_FALSE(enabled(u"cmdDelete"));
-    EXPECT_TRUE(enabled(u"cmdOK"));
-    EXPECT_EQ(number(u"tdbnSkTage(0)"), Variant(0.0));
-  });
-}
-
-TEST_F(GenericForm, TheKeyIsComparedWithTheListWithoutRegardToCase) {
-  show(3, {u"s1"}, [&] {
-    EXPECT_EQ(text(u"txtKey"), u"S1") << "the key takes its stored form";
-    EXPECT_TRUE(enabled(u"cmdDelete"));
-  });
-}
-
-TEST_F(GenericForm, AnEmptyCatalogueDisablesTheListAndDelete) {
-  execute(u"DELETE FROM Zahlungsbedingungen");
-  show(3, {u""}, [&] {
-    EXPECT_FALSE(enabled(u"tdblShow"));
-    EXPECT_FALSE(enabled(u"cmdDelete"));
-    EXPECT_FALSE(enabled(u"cmdOK"));
-    EXPECT_EQ(focus(), u"tdbnSkTage(0)") << "the empty key equals the empty list";
-  });
-}
-
-TEST_F(GenericForm, AListThatFailsToOpenLeavesTheFormUp) {
-  fail(ado::Operation::Open, u"ORDER BY", error::ProviderFailure);
-  show(3, {u"14"}, [&] {
-    EXPECT_THAT(listRows(u"tdblShow"), IsEmpty());
-    EXPECT_EQ(text(u"txtKey"), u"14");
-  });
-}
 
 // ---- what Show returns
 
@@ -164,6 +80,68 @@ TEST_F(GenericForm, F9OnTheListPicksAndElsewhereSaves) {
                    press(key::F9);
                  }),
             Variant(u"00"));
+}
+
+TEST_F(GenericForm, ARowWithABlankKeyIsNeitherShownNorPicked) {
+  execute(u"INSERT INTO Zahlungsbedingungen (ZahlBedSchl) VALUES (' ')");
+  EXPECT_EQ(show(3, {u"X9"},
+                 [&] {
+                   TextBox& typed = form().Get<TextBox>(u"txtKey");
+                   form().control(u"tdblShow").SetFocus();
+                   typed.Text(u"");
+                   EXPECT_TRUE(enabled(u"cmdOK")) << "by the program: nobody has left the field";
+                   mark(0);
+                   EXPECT_EQ(get(u"tdblShow", u"Text"), Variant(u" "));
+                   EXPECT_EQ(typed.Text(), u"");
+                   EXPECT_FALSE(enabled(u"cmdDelete"));
+                   EXPECT_FALSE(enabled(u"cmdOK"));
+                   typed.Text(u"X9");
+                   doubleClick(0, u"tdblShow");
+                   EXPECT_TRUE(form().Visible());
+                   EXPECT_EQ(typed.Text(), u"X9");
+                   EXPECT_FALSE(enabled(u"cmdDelete"));
+                 }),
+            Variant(u"X9"));
+}
+
+// ---- the fields
+
+TEST_F(GenericForm, DaysTakeFourDigitsAndPercentagesThreeAndTwo) {
+  show(3, {u"00"}, [&] {
+    for (const StringView days : {u"tdbnSkTage(0)", u"tdbnSkTage(1)", u"tdbnSkTage(2)", u"tdbnNettoTage"}) {
+      put(days, u"12345");
+      EXPECT_EQ(number(days), Variant(1234.0)) << toUtf8(days);
+      EXPECT_EQ(text(days), u"1234") << toUtf8(days);
+    }
+    put(u"tdbnSkTage(0)", u"1,5");
+    EXPECT_EQ(text(u"tdbnSkTage(0)"), u"15");
+    for (const StringView percent : {u"tdbnPercent(0)", u"tdbnPercent(1)", u"tdbnPercent(2)"}) {
+      put(percent, u"1234,567");
+      EXPECT_EQ(number(percent), Variant(123.56)) << toUtf8(percent);
+      EXPECT_EQ(text(percent), u"123,56") << toUtf8(percent);
+    }
+  });
+}
+
+TEST_F(GenericForm, TheDatesCanBeEnteredWhileTheCheckBoxIsOn) {
+  show(3, {u"14"}, [&] {
+    auto& generic = dynamic_cast<frmDialog&>(form());
+    auto& box = generic.Get<CheckBox>(u"chk1");
+    const auto expectDates = [&](bool open) {
+      for (const StringView date : {u"tdbdValidOf", u"tdbdValidTo"}) {
+        EXPECT_EQ(enabled(date), open) << toUtf8(date) << " at " << box.Value();
+        EXPECT_EQ(CDbl(get(date, u"BackColor")), open ? 1.0 * 0x80000005 : 1.0 * 0x8000000F)
+            << toUtf8(date) << " at " << box.Value();
+      }
+    };
+    for (const int value : {1, 0, 1, 2}) {
+      box.Value(value);
+      expectDates(value == 1);
+    }
+    for (const StringView date : {u"tdbdValidOf", u"tdbdValidTo"}) form().control(date).Enabled(true);
+    generic.chk1_Click();
+    expectDates(false);
+  });
 }
 
 // ---- the key field
@@ -267,6 +245,41 @@ TEST_F(GenericForm, DeleteAndCtrlLOnTheListDelete) {
     EXPECT_FALSE(enabled(u"tdblShow"));
   });
   EXPECT_THAT(rows(u"SELECT * FROM Zahlungsbedingungen"), IsEmpty());
+}
+
+TEST_F(GenericForm, CtrlShiftLOnTheListDoesNothing) {
+  show(3, {u"14"}, [&] {
+    select(0, u"tdblShow");
+    desktop.press(KeyStroke::ofCharacter(u'L', shift::Ctrl | shift::Shift));
+    EXPECT_EQ(listRows(u"tdblShow").size(), 3u);
+  });
+}
+
+TEST_F(GenericForm, DeleteOnTheListAsksThoughItsButtonIsDisabled) {
+  show(3, {u"X9"}, [&] {
+    form().control(u"tdblShow").SetFocus();
+    EXPECT_FALSE(enabled(u"cmdDelete"));
+    expectDeleteQuestion(MsgBoxResult::Yes);
+    press(key::Delete);
+    EXPECT_EQ(listRows(u"tdblShow").size(), 2u);
+  });
+}
+
+TEST_F(GenericForm, FunctionKeysWithAShiftKeyDoNothing) {
+  show(3, {u"14"}, [&] {
+    click(u"txtKey");
+    operations.clear();
+    for (const int held : {shift::Shift, shift::Ctrl, shift::Alt, shift::Ctrl | shift::Shift}) {
+      for (const int code : {key::F6, key::F9, key::F10}) press(code, held);
+      EXPECT_EQ(text(u"txtKey"), u"14") << held;
+      EXPECT_EQ(focus(), u"txtKey") << held;
+      EXPECT_TRUE(form().Visible()) << held;
+    }
+    EXPECT_THAT(operations, IsEmpty());
+    select(0, u"tdblShow");
+    press(key::F9, shift::Shift);
+    EXPECT_TRUE(form().Visible());
+  });
 }
 
 TEST_F(GenericForm, DeleteInAFieldEditsTheField) {

@@ -87,6 +87,9 @@ class Desktop {
   /// to the modal loop, and dropped when the last form closes. Error 5 for a name that is no key; then
   /// nothing is queued.
   void sendKeys(StringView keys);
+  /// Lets everything happen that waits in the queue of events, queued keys included, and returns. The form
+  /// may be closed by then. The idle step stays with the modal loop.
+  virtual void doEvents() = 0;
   /// The mouse pointer over all windows: the hourglass while something takes long, else each window's own.
   void hourglass(bool shown);
   bool isHourglass() const noexcept { return hourglass_; }

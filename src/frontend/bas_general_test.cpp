@@ -25,7 +25,10 @@ String sentence(const std::vector<Variant>& v) {
 TEST(PaymentTermSentence, NamesEachDiscountAndTheNetTerm) {
   EXPECT_EQ(sentence(terms(14., 2., 0., 0., 0., 0., 30.)), u"14 Tage 2%, 30 Tage netto.");
   EXPECT_EQ(sentence(terms(10., 3., 20., 2., 0., 0., 30.)), u"10 Tage 3%, 20 Tage 2%, 30 Tage netto.");
+  EXPECT_EQ(sentence(terms(7., 4., 14., 3., 21., 2., 60.)),
+            u"7 Tage 4%, 14 Tage 3%, 21 Tage 2%, 60 Tage netto.");
   EXPECT_EQ(sentence(terms(0., 0., 10., 3.)), u"10 Tage 3%.");
+  EXPECT_EQ(sentence(terms(0., 0., 0., 0., 21., 2.)), u"21 Tage 2%.");
 }
 
 TEST(PaymentTermSentence, OneDayIsATag) {
@@ -151,9 +154,34 @@ TEST_F(Queries, WithoutALanguageTheDefaultRowIsAskedOnce) {
   EXPECT_EQ(opens(), 1);
   EXPECT_TRUE(read(u"99", u"", u"ÿÿÿ").isNull());
   EXPECT_EQ(opens(), 1);
+  EXPECT_TRUE(read(u"99", u"", u"ŸŸŸ").isNull());
+  EXPECT_EQ(opens(), 1) << "the same language in any case";
   EXPECT_TRUE(read(u"99", u"", u"EN").isNull());
   EXPECT_EQ(opens(), 2);
-  EXPECT_EQ(block.Langtext, u"");
+}
+
+TEST_F(Queries, AMissingBlockLeavesEverythingAsItWas) {
+  for (const StringView language : {u"ÿÿÿ", u"EN"}) {
+    const TextBlock before{u"kurz", u"lang", u"N", u"Courier", 14, u"fett"};
+    block = before;
+    String number = u"99";
+    EXPECT_TRUE(ReadTextBaustein(u"VSA", number, u"", language, block).isNull());
+    EXPECT_EQ(block.Kurztext, before.Kurztext);
+    EXPECT_EQ(block.Langtext, before.Langtext);
+    EXPECT_EQ(block.WoDrucken, before.WoDrucken);
+    EXPECT_EQ(block.Schriftart, before.Schriftart);
+    EXPECT_EQ(block.Schriftgroesse, before.Schriftgroesse);
+    EXPECT_EQ(block.Schriftstil, before.Schriftstil);
+    EXPECT_EQ(number, u"99");
+  }
+}
+
+TEST_F(Queries, TheNumberComesBackAsItIsStored) {
+  somebodyElse(
+      u"INSERT INTO Textbausteine (Textart, TextNummer, ZusatztextNummer, SprachKZ, Langtext) VALUES ('VSA', "
+      u"'LKW', '000', 'ÿÿÿ', 'Frei Haus.')");
+  EXPECT_EQ(read(u"lkw", u"", u""), Variant(std::int16_t{1}));
+  EXPECT_EQ(number_, u"LKW");
 }
 
 TEST_F(Queries, ABlockWithAnEmptyLongTextCountsAsNoneThoughItIsRead) {
@@ -173,6 +201,16 @@ TEST_F(Queries, AFailedQueryLeavesTheBlockAsItWas) {
   block.Langtext = u"vorher";
   String number = u"01";
   EXPECT_TRUE(ReadTextBaustein(u"VSA", number, u"", u"EN", block).isEmpty());
+  EXPECT_EQ(block.Langtext, u"vorher");
+  EXPECT_EQ(number, u"01");
+}
+
+TEST_F(Queries, AFailedSecondQueryLeavesTheBlockAsItWas) {
+  fail(Operation::Open, u"SprachKZ='ÿÿÿ'", error::ProviderFailure);
+  block.Langtext = u"vorher";
+  String number = u"01";
+  EXPECT_TRUE(ReadTextBaustein(u"VSA", number, u"", u"IT", block).isEmpty());
+  EXPECT_EQ(opens(), 2);
   EXPECT_EQ(block.Langtext, u"vorher");
   EXPECT_EQ(number, u"01");
 }

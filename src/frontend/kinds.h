@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The 37 kinds of dialogs: number, name, and what serves each. Which kinds this library opens follows from
-// its forms: a kind without a form here returns Empty from Show at once.
+// its forms and definition classes; any other number opens the empty generic form.
 #pragma once
 
 #include <cstdint>

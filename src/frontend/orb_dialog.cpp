@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "catalogues/crm_kategorien.h"
@@ -28,20 +29,31 @@
 
 namespace zqn {
 
+/// A new form in the member that bears its name, for as long as it is open. The form of a Show that is still
+/// running comes back afterwards.
+template <class Form>
+class Held {
+ public:
+  explicit Held(std::unique_ptr<Form>& member)
+      : member_(member), outer_(std::exchange(member, std::make_unique<Form>())) {}
+  ~Held() { member_ = std::move(outer_); }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+
+ private:
+  std::unique_ptr<Form>& member_;
+  std::unique_ptr<Form> outer_;
+};
+
 /// The road of a form through Show. Every statement stands by itself: one that fails is skipped.
 class ShowSteps {
  public:
   ShowSteps(ORBDialog& dialog, VariantArray& param) : dialog_(dialog), param_(param) {}
 
-  /// A catalogue that reports its picks to the host.
-  template <class Form>
-  Variant catalogue() {
-    return dedicated<Form>(
-        [this](ResumeNext& step, Form& form) {
-          step([&] { form.DblClick = [this](const Variant& Result) { reported(Result); }; });
-          takesHost(step, form);
-        },
-        {&Form::SelectedKey}, 1);
+  Variant vertriebsstati() { return catalogue(dialog_.frmVStati, &ORBDialog::frmVStati_DblClick); }
+  Variant crmKategorien() { return catalogue(dialog_.frmCRM, &ORBDialog::frmCRM_DblClick); }
+  Variant selektionskriterien() {
+    return catalogue(dialog_.frmSelkritVertrag, &ORBDialog::frmSelkritVertrag_DblClick);
   }
 
   /// GrundArt is 1 for reasons of customers, 2 for those of contracts. Nobody hears of picks.
@@ -121,27 +133,50 @@ class ShowSteps {
   /// The generic form. All of Init is one statement: when it fails the form stands empty.
   Variant generic(std::int32_t kind) {
     ResumeNext step;
-    std::unique_ptr<frmDialog> form;
+    const Held held(dialog_.frm);
+    frmDialog& frm = *dialog_.frm;
     Variant returned;
-    step([&] { form = std::make_unique<frmDialog>(); });
-    step([&] { form->DblClick = [this](const Variant& Result) { reported(Result); }; });
-    step([&] { form->Init(dialog_.Connection(), param_.at(0), kind); });
-    step([&] { form->Multiselect = dialog_.Multiselect(); });
-    step([&] { form->ShowData(); });
-    step([&] { param_.at(0) = form->Key(); });
-    step([&] { returned = form->Key(); });
+    hear(frm, &ORBDialog::frm_DblClick);
+    step([&] { frm.Init(dialog_.Connection(), param_.at(0), kind); });
+    step([&] { frm.Multiselect = dialog_.Multiselect(); });
+    step([&] { frm.ShowData(); });
+    step([&] { param_.at(0) = frm.Key(); });
+    step([&] { returned = frm.Key(); });
     return returned;
   }
 
  private:
-  /// The road of every form of its own: `setFirst` sets what the kind needs; element i of Param goes into
-  /// member i, and the first `comeBack` members go back; member 0 is what Show returns. An element that is
-  /// not there leaves its member Empty.
+  using Sink = void (ORBDialog::*)(const Variant& Result);
+
+  template <class Form>
+  void hear(Form& form, Sink sink) {
+    form.DblClick = [this, sink](const Variant& Result) { (dialog_.*sink)(Result); };
+  }
+
+  /// The road of a catalogue whose picks the host hears of.
+  template <class Form>
+  Variant catalogue(std::unique_ptr<Form>& member, Sink sink) {
+    const Held held(member);
+    hear(*member, sink);
+    return through<Form>(
+        *member, [this](ResumeNext& step, Form& form) { takesHost(step, form); }, {&Form::SelectedKey}, 1);
+  }
+
+  /// The road of a form that nobody hears of.
   template <class Form>
   Variant dedicated(const std::function<void(ResumeNext&, Form&)>& setFirst,
                     std::initializer_list<Variant Form::*> members, std::size_t comeBack) {
-    ResumeNext step;
     Form form;
+    return through<Form>(form, setFirst, members, comeBack);
+  }
+
+  /// The road of either: `setFirst` sets what the kind needs; element i of Param goes into
+  /// member i, and the first `comeBack` members go back; member 0 is what Show returns. An element that is
+  /// not there leaves its member Empty.
+  template <class Form>
+  Variant through(Form& form, const std::function<void(ResumeNext&, Form&)>& setFirst,
+                  std::initializer_list<Variant Form::*> members, std::size_t comeBack) {
+    ResumeNext step;
     setFirst(step, form);
     const std::vector<Variant Form::*> member(members);
     for (std::size_t i = 0; i < member.size(); ++i) step([&] { form.*member[i] = param_.at(i); });
@@ -154,12 +189,6 @@ class ShowSteps {
   void takesHost(ResumeNext& step, Form& form) {
     step([&] { form.Connection = dialog_.Connection(); });
     step([&] { form.Multiselect = dialog_.Multiselect(); });
-  }
-
-  void reported(const Variant& Result) {
-    ResumeNext step;
-    step([&] { dialog_.Result(Result); });
-    step([&] { dialog_.DblClick.raise(Result); });
   }
 
   ORBDialog& dialog_;
@@ -184,9 +213,9 @@ constexpr Dispatch dispatch[] = {
     {1, &ShowSteps::paymentTypes<false>, make<frmZahlungsarten>},
     {2, &ShowSteps::paymentTypes<true>, make<frmZahlungsarten>},
     {16, &ShowSteps::withSession<frmPreislisten>, make<frmPreislisten>},
-    {21, &ShowSteps::catalogue<frmVertriebsstati>, make<frmVertriebsstati>},
-    {25, &ShowSteps::catalogue<frmCRMKategorien>, make<frmCRMKategorien>},
-    {26, &ShowSteps::catalogue<frmSelektionskriterienVertrag>, make<frmSelektionskriterienVertrag>},
+    {21, &ShowSteps::vertriebsstati, make<frmVertriebsstati>},
+    {25, &ShowSteps::crmKategorien, make<frmCRMKategorien>},
+    {26, &ShowSteps::selektionskriterien, make<frmSelektionskriterienVertrag>},
     {28, &ShowSteps::selectionListValues, make<frmSelectionListValues>},
     {29, &ShowSteps::withSession<frmOfferTemplates>, make<frmOfferTemplates>},
     {30, &ShowSteps::withSession<frmSaveOfferTemplate>, make<frmSaveOfferTemplate>},
@@ -203,15 +232,10 @@ const Dispatch* findDispatch(std::int32_t kind) noexcept {
   return row != std::end(dispatch) ? row : nullptr;
 }
 
-bool isDedicated(std::int32_t kind) noexcept {
-  const KindInfo* info = findKind(kind);
-  return info != nullptr && info->server == KindServer::Dedicated;
-}
-
 }  // namespace
 
 bool isOffered(std::int32_t number) noexcept {
-  return findDispatch(number) != nullptr || (!isDedicated(number) && hasDefinition(number));
+  return findDispatch(number) != nullptr || hasDefinition(number);
 }
 
 std::unique_ptr<Form> makeForm(std::int32_t number) {
@@ -227,6 +251,9 @@ std::unique_ptr<Form> makeGenericForm(std::int32_t number) {
   return form;
 }
 
+ORBDialog::ORBDialog() = default;
+ORBDialog::~ORBDialog() = default;
+
 void ORBDialog::Session(Ref<zqn::Session> session) {
   session_ = std::move(session);
   connection_ = session_->SessionConnection();
@@ -236,7 +263,6 @@ Variant ORBDialog::Show(std::int32_t zqnDataType, VariantArray& Param) {
   evaluateAccess(zqnDataType);
   ShowSteps steps(*this, Param);
   if (const Dispatch* row = findDispatch(zqnDataType)) return (steps.*row->show)();
-  if (isDedicated(zqnDataType)) return {};
   return steps.generic(zqnDataType);
 }
 
@@ -268,6 +294,12 @@ bool ORBDialog::listAllows(StringView list, std::int32_t kind) {
     if (step.test([&] { return CInt(part) == kind; })) return true;
   }
   return false;
+}
+
+void ORBDialog::report(const Variant& Result) {
+  ResumeNext step;
+  step([&] { result_ = Result; });
+  step([&] { DblClick.raise(Result); });
 }
 
 void ORBDialog::eventFailed(StringView, const RuntimeError&) {

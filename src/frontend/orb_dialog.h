@@ -12,6 +12,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "ado/connection.h"
 #include "contract/session.h"
@@ -21,9 +22,15 @@
 
 namespace zqn {
 
+class frmCRMKategorien;
+class frmDialog;
+class frmSelektionskriterienVertrag;
+class frmVertriebsstati;
+
 class ORBDialog : private EventOwner {
  public:
-  ORBDialog() = default;
+  ORBDialog();
+  ~ORBDialog();
   ORBDialog(const ORBDialog&) = delete;
   ORBDialog& operator=(const ORBDialog&) = delete;
 
@@ -59,10 +66,24 @@ class ORBDialog : private EventOwner {
   Event<const Variant&> DblClick{*this, u"DblClick"};
 
  private:
+  friend class ShowSteps;
   void eventFailed(StringView event, const RuntimeError& failure) override;
   /// Writes the access flag: what the present user may change in a dialog of this kind.
   void evaluateAccess(std::int32_t kind);
   static bool listAllows(StringView list, std::int32_t kind);
+
+  /// Keeps a pick as Result and hands it to the host. Skips what fails.
+  void report(const Variant& Result);
+
+  // Where each form that reports its picks stands while it is open, and who hears of them.
+  std::unique_ptr<frmDialog> frm;
+  void frm_DblClick(const Variant& Result) { report(Result); }
+  std::unique_ptr<frmCRMKategorien> frmCRM;
+  void frmCRM_DblClick(const Variant& Result) { report(Result); }
+  std::unique_ptr<frmSelektionskriterienVertrag> frmSelkritVertrag;
+  void frmSelkritVertrag_DblClick(const Variant& Result) { report(Result); }
+  std::unique_ptr<frmVertriebsstati> frmVStati;
+  void frmVStati_DblClick(const Variant& Result) { report(Result); }
 
   bool multiselect_ = false;
   Variant result_;

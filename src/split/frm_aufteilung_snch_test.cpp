@@ -102,9 +102,13 @@ TEST_F(SplitOpens, WithLessThanFiveElementsOfParam) {
   EXPECT_EQ(param.elements()[0], Variant(twoSerials));
 }
 
-TEST_F(SplitOpens, WithoutADesktopReturnsWithoutAWindow) {
+TEST(SplitWithoutADesktop, GivesBackWhatCameIn) {
+  ORBDialog dialog;
   VariantArray args{twoBatches, 5.0, u"Stk", std::int32_t{1}, false};
+  ASSERT_EQ(errorNumberOf([] { Desktop::current(); }), error::CannotCreateObject);
   EXPECT_EQ(dialog.Show(34, args), Variant(twoBatches));
+  EXPECT_EQ(args.at(0), Variant(twoBatches));
+  EXPECT_EQ(args.at(1), Variant(5.0));
 }
 
 // ---- the running total

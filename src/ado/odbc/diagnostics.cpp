@@ -14,6 +14,8 @@ constexpr std::int32_t ConversionFailed = -2147217913;
 
 // Numbers of MariaDB and MySQL, whose SQLSTATEs say less.
 constexpr std::array<long, 5> AccessDenied = {1044, 1142, 1143, 1227, 1370};
+constexpr std::array<long, 1> AmbiguousColumn = {1052};
+constexpr std::array<long, 1> NoDefault = {1364};
 constexpr std::array<long, 6> ServerGone = {1053, 1927, 2002, 2006, 2013, 4031};
 
 template <std::size_t N>
@@ -61,6 +63,8 @@ std::int32_t errorNumber(const Diagnostic& diagnostic) noexcept {
   const std::string& state = diagnostic.state;
   if (isOneOf(diagnostic.native, AccessDenied) || state == "42501" || state == "25006")
     return error::PermissionDenied;
+  if (isOneOf(diagnostic.native, AmbiguousColumn)) return error::CommandText;
+  if (isOneOf(diagnostic.native, NoDefault)) return error::IntegrityViolation;
   if (state == "42S02" || state == "42P01" || state == "S0002") return error::TableNotFound;
   if (state == "22001" || state == "22003") return error::ProviderDataOverflow;
   // The row was changed by somebody else at the same time, and the server has given up this statement.
@@ -77,7 +81,8 @@ bool isDrop(const Diagnostic& diagnostic) noexcept {
 }
 
 bool isOutdated(const Diagnostic& diagnostic) noexcept {
-  return diagnostic.state == "0A000" && diagnostic.text.find(u"cached plan") != String::npos;
+  return (diagnostic.state == "0A000" && diagnostic.text.find(u"cached plan") != String::npos) ||
+         diagnostic.text.find(u"differs from number of columns") != String::npos;
 }
 
 }  // namespace zqn::ado::odbc

@@ -28,7 +28,7 @@ Diagnostic diagnosticOf(SQLSMALLINT kind, SQLHANDLE handle);
 std::int32_t errorNumber(const Diagnostic& diagnostic) noexcept;
 /// The connection is gone: nothing can run on it any more.
 bool isDrop(const Diagnostic& diagnostic) noexcept;
-/// The table has changed since the statement was prepared; prepared again, it runs. Nothing has run.
+/// A table has other columns now than when the SELECT was prepared; prepared again, it runs.
 bool isOutdated(const Diagnostic& diagnostic) noexcept;
 
 /// The words without "[Vendor][Driver]" and "ERROR: " before them, and without what a driver appends.

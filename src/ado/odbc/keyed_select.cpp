@@ -48,6 +48,12 @@ std::vector<String> KeyedSelect::key() const {
   return names;
 }
 
+std::vector<String> KeyedSelect::renamed(std::vector<String> columns) {
+  for (std::size_t i = 0; i < columns.size(); ++i)
+    columns[i] += u" AS zqn_key_" + fromUtf8(std::to_string(i));
+  return columns;
+}
+
 std::vector<String> KeyedSelect::missing(const Columns& described) const {
   std::vector<String> names;
   for (const String& column : key_)
@@ -56,7 +62,7 @@ std::vector<String> KeyedSelect::missing(const Columns& described) const {
 }
 
 String KeyedSelect::withHidden(const std::vector<String>& hidden) const {
-  return sql::selectText(select_, hidden, select_.rest);
+  return sql::selectText(select_, renamed(hidden), select_.rest);
 }
 
 String KeyedSelect::oneRow(const std::vector<String>& hidden) const {
@@ -83,7 +89,7 @@ sql::KeysOnly KeyedSelect::keysInOrder(const Columns& columns) const {
     tail += sorting || !tail.empty() ? u"\n, " : u"\nORDER BY ";
     tail += sql::quoted(column);
   }
-  return sql::keysOnly(select_, columns, key(), tail);
+  return sql::keysOnly(select_, columns, renamed(key()), tail);
 }
 
 bool KeyedSelect::isLimited() const {
@@ -100,8 +106,8 @@ bool KeyedSelect::mark(Columns& columns, std::size_t hidden) const {
   });
   if (!ofTable) return false;
   for (Column& column : columns) {
-    column.key = std::ranges::any_of(
-        key_, [&](const String& name) { return sameName(name, column.baseColumn); });
+    column.key =
+        std::ranges::any_of(key_, [&](const String& name) { return sameName(name, column.baseColumn); });
   }
   for (std::size_t i = columns.size() - hidden; i < columns.size(); ++i) columns[i].hidden = true;
   return std::ranges::all_of(key_, [&](const String& name) { return baseOf(columns, name) != nullptr; });
@@ -110,7 +116,8 @@ bool KeyedSelect::mark(Columns& columns, std::size_t hidden) const {
 std::vector<int> KeyedSelect::positions(const Columns& columns) const {
   std::vector<int> places;
   for (const String& name : key_)
-    if (const Column* column = baseOf(columns, name)) places.push_back(static_cast<int>(column - columns.data()));
+    if (const Column* column = baseOf(columns, name))
+      places.push_back(static_cast<int>(column - columns.data()));
   return places;
 }
 

@@ -17,6 +17,8 @@ class KeyedSelect {
 
   /// The columns of the key, in quotes, in their order.
   std::vector<String> key() const;
+  /// Columns under names of their own, so that an ORDER BY never means them.
+  static std::vector<String> renamed(std::vector<String> columns);
   /// Those that the described columns of the list do not have, in quotes.
   std::vector<String> missing(const Columns& described) const;
   /// The statement with these columns behind its list.

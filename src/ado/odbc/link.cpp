@@ -55,9 +55,9 @@ String Link::connectOnce(const String& connectionString) {
   Handle connection = allocate(SQL_HANDLE_DBC, environment());
   SQLSetConnectAttrW(connection.get(), SQL_ATTR_LOGIN_TIMEOUT,
                      reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(loginTimeout_.count())), 0);
-  const SQLRETURN result =
-      SQLDriverConnectW(connection.get(), nullptr, asWide(connectionString),
-                        static_cast<SQLSMALLINT>(connectionString.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+  const SQLRETURN result = SQLDriverConnectW(connection.get(), nullptr, asWide(connectionString),
+                                             static_cast<SQLSMALLINT>(connectionString.size()), nullptr, 0,
+                                             nullptr, SQL_DRIVER_NOPROMPT);
   if (!SQL_SUCCEEDED(result)) throw failure(diagnosticOf(SQL_HANDLE_DBC, connection.get()));
   connection_ = std::move(connection);
 

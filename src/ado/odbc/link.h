@@ -7,8 +7,8 @@
 #include <chrono>
 #include <memory>
 
-#include "ado/odbc/dialect.h"
 #include "ado/odbc/diagnostics.h"
+#include "ado/odbc/dialect.h"
 
 namespace zqn::ado::odbc {
 

@@ -54,8 +54,8 @@ std::vector<String> odbcDrivers() {
   std::array<SQLWCHAR, 256> name = {};
   SQLSMALLINT length = 0;
   const auto next = [&](SQLUSMALLINT which) {
-    return SQLDriversW(odbc::environment(), which, name.data(), static_cast<SQLSMALLINT>(name.size()), &length,
-                       nullptr, 0, nullptr);
+    return SQLDriversW(odbc::environment(), which, name.data(), static_cast<SQLSMALLINT>(name.size()),
+                       &length, nullptr, 0, nullptr);
   };
   for (SQLRETURN result = next(SQL_FETCH_FIRST); SQL_SUCCEEDED(result); result = next(SQL_FETCH_NEXT))
     names.emplace_back(odbc::asText(name.data()));

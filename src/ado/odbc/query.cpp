@@ -72,7 +72,7 @@ String digits(std::int64_t value) {
 }  // namespace
 
 Query::Query(Session& session, Link& link, String text)
-    : session_(session), link_(link), text_(std::move(text)) {}
+    : session_(session), link_(link), text_(wellFormed(text)) {}
 
 void Query::fail() {
   const RuntimeError error = link_.failure(handle_);
@@ -90,8 +90,7 @@ void Query::makeHandle() {
 void Query::prepare() {
   if (prepared_) return;
   session_.tell(text_);
-  const SQLRETURN result =
-      SQLPrepareW(handle_.get(), asWide(text_), static_cast<SQLINTEGER>(text_.size()));
+  const SQLRETURN result = SQLPrepareW(handle_.get(), asWide(text_), static_cast<SQLINTEGER>(text_.size()));
   if (!SQL_SUCCEEDED(result)) fail();
   prepared_ = true;
 }
@@ -163,7 +162,7 @@ void Query::bind(std::span<const Value> values) {
         }
         break;
       case Value::Kind::Text:
-        parameter.text = value.text;
+        parameter.text = wellFormed(value.text);
         result = asText(parameter.text.size() > LongestParameter ? SQL_WLONGVARCHAR : SQL_WVARCHAR);
         break;
     }
@@ -212,8 +211,9 @@ void Query::readDescription() {
     std::array<SQLWCHAR, 260> name = {};
     SQLSMALLINT length = 0, type = 0, decimals = 0, nullable = 0;
     SQLULEN size = 0;
-    if (!SQL_SUCCEEDED(SQLDescribeColW(handle_.get(), number, name.data(), static_cast<SQLSMALLINT>(name.size()),
-                                       &length, &type, &size, &decimals, &nullable)))
+    if (!SQL_SUCCEEDED(SQLDescribeColW(handle_.get(), number, name.data(),
+                                       static_cast<SQLSMALLINT>(name.size()), &length, &type, &size,
+                                       &decimals, &nullable)))
       fail();
     Column column;
     column.name = asText(name.data());

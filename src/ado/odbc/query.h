@@ -24,7 +24,8 @@ class Query {
 
   /// Prepares it without running it: the server says what columns there will be.
   void describe();
-  /// Runs it. One with parameters is prepared for the next time. Never run twice for one call, whatever fails.
+  /// Runs it. One with parameters is prepared for the next time. Never run twice for one call, whatever
+  /// fails.
   void open(std::span<const Value> parameters = {});
   /// Adds rows, `atMost` of them; false when these were the last.
   bool fetch(RowStore& rows, std::size_t atMost);

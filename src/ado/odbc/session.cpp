@@ -25,7 +25,9 @@ Link& Session::reader() {
   return *reader_;
 }
 
-Translation Session::translated(StringView statement) { return translate(statement, dialect(), catalogue_); }
+Translation Session::translated(StringView statement) {
+  return translate(statement, dialect(), [this](StringView name) { return catalogue_.table(name); });
+}
 
 bool Session::mayRun(const Translation& statement) {
   if (!inTransaction_ || !link_.dropped()) return true;

@@ -61,11 +61,8 @@ bool isBeyondAscii(StringView text) {
 
 class Translator {
  public:
-  Translator(StringView statement, const Dialect& dialect, Catalogue& catalogue)
-      : statement_(statement),
-        dialect_(dialect),
-        catalogue_(catalogue),
-        tokens_(tokensOf(statement, dialect)) {}
+  Translator(StringView statement, const Dialect& dialect, const TableLookup& lookup)
+      : statement_(statement), dialect_(dialect), lookup_(lookup), tokens_(tokensOf(statement, dialect)) {}
 
   Translation run() {
     const Effect effect = effectOf(tokens_.front());
@@ -115,7 +112,7 @@ class Translator {
     if (!isName(token)) return nullptr;
     const String name = token.unquoted();
     for (const std::size_t table : tables_) {
-      const TableInfo* info = catalogue_.table(tokens_[table].unquoted());
+      const TableInfo* info = lookup_(tokens_[table].unquoted());
       if (!info) continue;
       if (const TableInfo::Column* found = info->column(name)) return found;
     }
@@ -159,7 +156,7 @@ class Translator {
   /// INSERT INTO T (a, b) VALUES (1, 0), (...): numbers for columns of yes and no.
   void values(std::size_t& i) {
     if (!dialect_.strictBooleans || tables_.empty()) return;
-    const TableInfo* table = catalogue_.table(tokens_[tables_.front()].unquoted());
+    const TableInfo* table = lookup_(tokens_[tables_.front()].unquoted());
     if (!table) return;
     std::vector<const TableInfo::Column*> targets;
     for (std::size_t name = tables_.front() + 1; name < i; ++name) {
@@ -191,7 +188,7 @@ class Translator {
     if (token.kind == Kind::Name) {
       replace(i, i, sql::quoted(stored(token, table)));
     } else if (table && dialect_.exactTableNames) {
-      if (const TableInfo* info = catalogue_.table(token.text)) replace(i, i, sql::quoted(info->name));
+      if (const TableInfo* info = lookup_(token.text)) replace(i, i, sql::quoted(info->name));
     } else if (token.kind == Kind::Literal && dialect_.nationalLiterals && isBeyondAscii(token.text)) {
       replace(i, i, u"N" + String(token.text));
     } else if (token.is(u"LIKE") && !dialect_.like.empty()) {
@@ -209,7 +206,7 @@ class Translator {
     const String name = token.unquoted();
     if (!dialect_.lowerCaseNames && !(isTable && dialect_.exactTableNames)) return name;
     if (isTable) {
-      const TableInfo* info = catalogue_.table(name);
+      const TableInfo* info = lookup_(name);
       return info ? info->name : name;
     }
     const TableInfo::Column* known = column(token);
@@ -230,7 +227,7 @@ class Translator {
 
   StringView statement_;
   const Dialect& dialect_;
-  Catalogue& catalogue_;
+  const TableLookup& lookup_;
   std::vector<Token> tokens_;
   std::vector<std::size_t> tables_;  // tokens that name one
   String text_;
@@ -241,8 +238,8 @@ class Translator {
 
 }  // namespace
 
-Translation translate(StringView statement, const Dialect& dialect, Catalogue& catalogue) {
-  return Translator(statement, dialect, catalogue).run();
+Translation translate(StringView statement, const Dialect& dialect, const TableLookup& lookup) {
+  return Translator(statement, dialect, lookup).run();
 }
 
 }  // namespace zqn::ado::odbc

@@ -5,13 +5,18 @@
 // else stays as it is written.
 #pragma once
 
+#include <functional>
+
 #include "ado/odbc/dialect.h"
 
 namespace zqn::ado::odbc {
 
-class Catalogue;
+struct TableInfo;
 
 enum class Effect { None, Begin, Commit, Rollback, Schema };
+
+/// A table by the name that a statement gives it, without quotes; nullptr when there is none.
+using TableLookup = std::function<const TableInfo*(StringView name)>;
 
 struct Translation {
   String text;
@@ -19,6 +24,6 @@ struct Translation {
 };
 
 /// Error -2147217900 for an empty text, a quote without its end, a character U+0000, or a second statement.
-Translation translate(StringView statement, const Dialect& dialect, Catalogue& catalogue);
+Translation translate(StringView statement, const Dialect& dialect, const TableLookup& lookup);
 
 }  // namespace zqn::ado::odbc

@@ -79,10 +79,14 @@ TEST_P(RecordsetTest, FindComparesTextsAsTheDatabaseDoes) {
   connection->Execute(
       u"INSERT INTO Vertriebsstati VALUES ('äb', 'x', 0, 0), ('  ', 'blanks', 0, 0), ('', 'empty', 0, 0)");
   const auto rs = list();
-  EXPECT_EQ(found(*rs, u"Status='ÄB '"), u"äb");
+  // Rows in memory are compared here, rows on a server there.
+  const bool blanksAreOne = GetParam().location == adUseClient || context->ignoresTrailingBlanks();
+  EXPECT_EQ(found(*rs, u"Status='ÄB'"), u"äb");
+  EXPECT_EQ(found(*rs, u"Status='ÄB '"), blanksAreOne ? u"äb" : u"EOF");
   EXPECT_EQ(found(*rs, u"Status='ab'"), u"EOF") << "accents count";
-  EXPECT_EQ(found(*rs, u"Bezeichnung='ANGEBOT  '"), u"20");
-  EXPECT_EQ(found(*rs, u"Status=' '"), u"  ") << "blanks are one blank";
+  EXPECT_EQ(found(*rs, u"Bezeichnung='ANGEBOT  '"), blanksAreOne ? u"20" : u"EOF");
+  EXPECT_EQ(found(*rs, u"Status=' '"), blanksAreOne ? u"  " : u"EOF") << "blanks are one blank";
+  EXPECT_EQ(found(*rs, u"Status='  '"), u"  ");
   rs->MoveFirst();
   rs->Find(u"Status=''");
   EXPECT_EQ(rs->Fields(1).Value(), Variant(u"empty"));

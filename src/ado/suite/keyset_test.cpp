@@ -11,12 +11,17 @@ constexpr int ManyRows = 10000;
 
 /// Rows k00000 to k09999, inserted in another order.
 void fillMany(const Ref<Connection>& connection) {
+  constexpr int RowsAtOnce = 500;
   connection->Execute(u"BEGIN");
-  for (int i = 0; i < ManyRows; ++i) {
-    const int number = static_cast<int>(static_cast<std::int64_t>(i) * 7919 % ManyRows);
-    const std::string digits = std::to_string(100000 + number).substr(1);
-    connection->Execute(u"INSERT INTO Vertriebsstati VALUES (" + sql::value(fromUtf8("k" + digits)) + u", " +
-                        sql::value(fromUtf8("Name " + std::to_string(number % 100))) + u", 0, NULL)");
+  for (int i = 0; i < ManyRows;) {
+    sql::Text statement = u"INSERT INTO Vertriebsstati VALUES ";
+    for (int row = 0; row < RowsAtOnce; ++row, ++i) {
+      const int number = static_cast<int>(static_cast<std::int64_t>(i) * 7919 % ManyRows);
+      const std::string digits = std::to_string(100000 + number).substr(1);
+      statement += (row == 0 ? u"(" : u", (") + sql::value(fromUtf8("k" + digits)) + u", " +
+                   sql::value(fromUtf8("Name " + std::to_string(number % 100))) + u", 0, NULL)";
+    }
+    connection->Execute(statement);
   }
   connection->Execute(u"COMMIT");
 }
@@ -153,12 +158,12 @@ TEST_P(KeysetTest, ReadsARowAnewWhenItBecomesCurrent) {
     const auto rs = open(statement);
     const auto other = context->connect();
     other->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='fremd' WHERE Status='20'");
-    rs->MoveNext();
+    rs->Find(u"Status='20'");
     EXPECT_EQ(rs->Fields(1).Value(), Variant(u"fremd"));
     other->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='Angebot' WHERE Status='20'");
     EXPECT_EQ(rs->Fields(1).Value(), Variant(u"fremd")) << "while it is current it stays as it was read";
     rs->MoveFirst();
-    rs->MoveNext();
+    rs->Find(u"Status='20'");
     EXPECT_EQ(rs->Fields(1).Value(), Variant(u"Angebot"));
   }
 }
@@ -205,9 +210,9 @@ TEST_P(KeysetTest, RowsThatAreNoTableRowsAreReadAtOnce) {
 }
 
 TEST_P(KeysetTest, SortedByTheListItself) {
-  const auto byAlias =
-      open(u"SELECT Gewichtung AS Status, Status AS Schluessel FROM Vertriebsstati WHERE Gewichtung>0 ORDER BY "
-           u"Status DESC");
+  const auto byAlias = open(
+      u"SELECT Gewichtung AS Status, Status AS Schluessel FROM Vertriebsstati WHERE Gewichtung>0 ORDER BY "
+      u"Status DESC");
   byAlias->MoveFirst();
   EXPECT_EQ(byAlias->Fields(1).Value(), Variant(u"20"));
   const auto byNumber =

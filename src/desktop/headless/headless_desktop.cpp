@@ -69,6 +69,11 @@ void HeadlessDesktop::pressQueuedKeys() {
   while (nextQueuedKey(stroke)) press(stroke);
 }
 
+void HeadlessDesktop::doEvents() {
+  release();
+  pressQueuedKeys();
+}
+
 void HeadlessDesktop::runLoop(const std::function<bool()>& done) {
   // A key that opened the form or the box comes up again over it.
   release();

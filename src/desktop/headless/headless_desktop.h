@@ -38,6 +38,7 @@ class HeadlessDesktop : public Desktop {
   /// the item is disabled. Esc takes none, too.
   bool take(Menu* item);
 
+  void doEvents() override;
   void copyToClipboard(StringView text) override { clipboard_ = text; }
   String clipboardText() const override { return clipboard_; }
 

@@ -75,6 +75,23 @@ TEST_F(NobodyThere, QueuedKeysArePressedBeforeTheFormCloses) {
 
 // ---- somebody there
 
+TEST_F(SomebodyThere, DoEventsPressesWhatIsQueuedAndLeavesTheRestToTheLoop) {
+  int acted = 0;
+  desktop.whenIdle([&] {
+    ++acted;
+    form.UnloadMe();
+  });
+  form.Activate = [&] {
+    a.SetFocus();
+    desktop.sendKeys(u"ab");
+    desktop.doEvents();
+    EXPECT_EQ(a.Text(), u"ab");
+    EXPECT_EQ(acted, 0);
+  };
+  form.Show();
+  EXPECT_EQ(acted, 1);
+}
+
 TEST_F(SomebodyThere, ActsOnceTheQueueIsEmpty) {
   std::string order;
   a.Change = [&] { order += "typed "; };

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -27,6 +28,22 @@ TEST(Focus, StartsOnTheFirstControlAndTabFollowsTheRoster) {
   // The disabled field is passed over.
   EXPECT_THAT(order, ElementsAre("TDBList1", "Schluessel", "Kurztext", "AutoOverwrite", "btnOK", "btnCancel",
                                  "TDBList1"));
+}
+
+TEST(Focus, IsWhereDoEventsFindsItForWhatWaits) {
+  Person person;
+  StatiForm form;
+  form.Activate = [&] {
+    form.Schluessel.SetFocus();
+    QWidget* const field = person.desktop.widgetOf(form.Schluessel);
+    QCoreApplication::postEvent(field, new QKeyEvent(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, "1"));
+    person.desktop.sendKeys(u"2");
+    person.desktop.doEvents();
+    EXPECT_EQ(form.Schluessel.Text(), u"12");
+    form.Kurztext.SetFocus();
+  };
+  person.at(form, {[&] { EXPECT_EQ(form.ActiveControl(), &form.Kurztext); }});
+  EXPECT_EQ(form.Schluessel.Text(), u"12");
 }
 
 TEST(Focus, ShiftTabGoesBack) {

@@ -128,6 +128,14 @@ void QtDesktop::pointerChanged() {
 
 // ---- loops
 
+void QtDesktop::doEvents() {
+  QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+  rethrowShielded();
+  KeyStroke stroke;
+  while (nextQueuedKey(stroke)) pressKey(stroke);
+  rethrowShielded();
+}
+
 void QtDesktop::runLoop(const std::function<bool()>& done) {
   QAbstractEventDispatcher* const events = QAbstractEventDispatcher::instance();
   hideClosedForms();

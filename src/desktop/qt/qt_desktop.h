@@ -32,6 +32,7 @@ class QtDesktop : public Desktop {
   QtDesktop();
   ~QtDesktop() override;
 
+  void doEvents() override;
   void copyToClipboard(StringView text) override;
   String clipboardText() const override;
   double TwipsPerPixelX() const override;

@@ -335,12 +335,13 @@ DROP DATABASE IF EXISTS `{0}`;
 
     def create(self, database, node=1, template=None):
         """Makes a database, dropped first if there is one, as a copy of another if wanted."""
-        dump = self.template_file(template) if template else None
-        manner = dump.with_suffix(".manner").read_text(encoding="utf-8") if dump else ""
+        manner = content = ""
+        if template:
+            dump = self.template_file(template)
+            manner = dump.with_suffix(".manner").read_text(encoding="utf-8")
+            content = f"USE `{database}`;\n" + dump.read_text(encoding="utf-8")
         self.query(self.DROP.format(checked(database)) + f"CREATE DATABASE `{database}` {manner};\n"
-                   f"GRANT ALL PRIVILEGES ON `{database}`.* TO 'clerk'@'127.0.0.1';", node=node)
-        if dump:
-            self.query(dump.read_text(encoding="utf-8"), database, node=node)
+                   f"GRANT ALL PRIVILEGES ON `{database}`.* TO 'clerk'@'127.0.0.1';\n" + content, node=node)
         return self.connection(database, node)
 
     def drop(self, database, node=1):

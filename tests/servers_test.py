@@ -17,6 +17,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE))
 import database_servers
+import server_processes
 from server_processes import ServerFailure, status_of
 
 LEAST = ("postgresql", "mariadb")
@@ -251,26 +252,28 @@ class LifeTime(unittest.TestCase):
                 self.assertIsNotNone(pid)
 
     def test_a_start_that_is_ended_from_outside_leaves_nothing(self):
-        for signal_number in (signal.SIGTERM, signal.SIGINT):
-            for seconds in (0.3, 0.8):
-                start = subprocess.Popen([sys.executable, "-B", str(HERE / "servers.py"), "start", "--state",
-                                          self.state, "mariadb"], stderr=subprocess.DEVNULL)
-                time.sleep(seconds)
-                start.send_signal(signal_number)
-                start.wait(60)
-                server = database_servers.server("mariadb", self.state)
-                self.assertFalse(server.known and start.returncode != 0, start.returncode)
-                server.stop()
+        for seconds, how in ((0.3, signal.SIGTERM), (0.8, signal.SIGINT)):
+            start = subprocess.Popen([sys.executable, "-B", str(HERE / "servers.py"), "start", "--state", self.state,
+                                      "mariadb"], stderr=subprocess.DEVNULL)
+            time.sleep(seconds)
+            start.send_signal(how)
+            start.wait(60)
+            server = database_servers.server("mariadb", self.state)
+            self.assertFalse(server.known and start.returncode != 0, start.returncode)
+            server.stop()
 
     def test_a_start_that_is_killed_is_cleared_away_by_the_next(self):
         start = subprocess.Popen([sys.executable, "-B", str(HERE / "servers.py"), "start", "--state", self.state,
                                   "postgresql"], stderr=subprocess.DEVNULL)
-        file = Path(self.state) / "postgresql" / "node1" / "pid"
-        while not file.exists() and start.poll() is None:
+        process = server_processes.Process(Path(self.state) / "postgresql" / "node1", "postgres")
+        while process.pid() is None and start.poll() is None:
             time.sleep(0.005)
         start.kill()
         start.wait()
-        pid = int(file.read_text())
+        pid = process.pid()
+        self.assertIsNotNone(pid)
+        (process.folder / "pid").unlink(missing_ok=True)  # as if ended before it was written
+        self.assertTrue(server_processes.until(process.pid, 20))
         servers("start", "--anew", "--state", self.state, "postgresql")
         self.assertIsNone(status_of(pid))
         self.assertNotEqual(self.known("postgresql")[1], pid)

@@ -307,7 +307,10 @@ DROP DATABASE IF EXISTS `{0}`;
 """
 
     def make_node(self, node, folder):
-        lines = ["[mysqld]", f"datadir={folder / 'data'}", *self.SETTINGS,
+        # A server that starts clears temporary tables away in its folder, another server's among them.
+        (folder / "temporary").mkdir()
+        give(folder / "temporary", self.user)
+        lines = ["[mysqld]", f"datadir={folder / 'data'}", f"tmpdir={folder / 'temporary'}", *self.SETTINGS,
                  *([] if self.known["durable"] else self.FAST)]
         (folder / "settings").write_text("\n".join(lines) + "\n", encoding="utf-8")
         users = write_secret(folder / "users", self.USERS.format(**self.known), self.user)

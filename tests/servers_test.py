@@ -210,7 +210,8 @@ class MariaDb(OneServer, unittest.TestCase):
     name = "mariadb"
     holds = "BEGIN; SELECT * FROM t; SELECT sleep(60);"
     settings = ("SELECT @@character_set_server; SELECT @@lower_case_table_names; SELECT @@max_connections; "
-                "SELECT @@innodb_flush_log_at_trx_commit", "utf8mb4\n1\n200\n2")
+                "SELECT @@innodb_flush_log_at_trx_commit; SELECT @@tmpdir LIKE '%/mariadb/node1/temporary'",
+                "utf8mb4\n1\n200\n2\n1")
 
 
 class LifeTime(unittest.TestCase):

@@ -192,14 +192,18 @@ class Server:
 
     def query(self, sql, database=None, user="admin", node=1, password=None):
         """Runs statements with the server's own client; rows as lines, columns parted by tabs."""
-        port = self.node(node)["port"]
+        self.node(node)
+        if password is None:
+            return self.run_client(self.home / user, user, database, node, sql)
         with tempfile.TemporaryDirectory(prefix="zqn-client-") as folder:
-            credentials = self.home / user
-            if password is not None:
-                credentials = self.write_credentials(user, password, Path(folder))
-            command, variables = self.client(credentials, user, database or self.first_database, port)
-            done = subprocess.run(command, input=sql, capture_output=True, text=True, encoding="utf-8", cwd="/",
-                                  errors="replace", env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", **variables})
+            credentials = self.write_credentials(user, password, Path(folder))
+            return self.run_client(credentials, user, database, node, sql)
+
+    def run_client(self, credentials, user, database, node, sql):
+        command, variables = self.client(credentials, user, database or self.first_database,
+                                         self.node(node)["port"])
+        done = subprocess.run(command, input=sql, capture_output=True, text=True, encoding="utf-8", cwd="/",
+                              errors="replace", env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", **variables})
         if done.returncode != 0:
             raise ServerFailure(f"{self.title(node)}: {done.stderr.strip()}")
         return done.stdout.rstrip("\n")

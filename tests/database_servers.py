@@ -27,6 +27,7 @@ HOST = "127.0.0.1"
 NAME_LENGTH = 60
 RESERVED = {"postgres", "template0", "template1", "mysql", "sys", "information_schema", "performance_schema"}
 PORT_ATTEMPTS = 3
+DRIVERS = Path(os.environ.get("ODBCSYSINI", "/etc"), "odbcinst.ini")
 
 
 def database_name(text):
@@ -128,6 +129,9 @@ class Server:
         self.known = {"home": str(home), "durable": durable, "admin": secrets.token_hex(12),
                       "clerk": secrets.token_hex(12), "nodes": {str(node): {} for node in self.every_node()}}
         self.save()
+        if DRIVERS.exists():
+            quiet = re.sub(r"(?m)^CommLog\s*=.*$", "CommLog=0", DRIVERS.read_text(encoding="utf-8"))
+            (self.folder / DRIVERS.name).write_text(quiet, encoding="utf-8")
         for user in ("admin", "clerk"):
             self.write_credentials(user, self.known[user])
         for node in self.every_node():
@@ -189,6 +193,11 @@ class Server:
         pairs = {"Driver": "{" + self.driver + "}", "Server": HOST, "Port": self.node(node)["port"],
                  "Database": database or self.first_database, "UID": "clerk", "PWD": self.known["clerk"]}
         return ";".join(f"{key}={value}" for key, value in pairs.items() if value)
+
+    def surroundings(self):
+        """What a program that connects is to find in its environment: as installed, PostgreSQL's driver leaves a
+        log of each process in the folder for temporary files."""
+        return {"ODBCSYSINI": str(self.folder)} if (self.folder / DRIVERS.name).exists() else {}
 
     def query(self, sql, database=None, user="admin", node=1, password=None):
         """Runs statements with the server's own client; rows as lines, columns parted by tabs."""

@@ -32,7 +32,7 @@ def servers(*arguments, expected=0):
     return done.stderr.strip() if expected else done.stdout.strip()
 
 
-def odbc_failure(connection_string):
+def connect(connection_string):
     """What the driver says when it connects; an empty text when it has connected."""
     odbc = ctypes.CDLL("libodbc.so.2")
     environment, connection = ctypes.c_void_p(), ctypes.c_void_p()
@@ -50,6 +50,17 @@ def odbc_failure(connection_string):
     odbc.SQLFreeHandle(2, connection)
     odbc.SQLFreeHandle(1, environment)
     return message.value.decode("utf-8", "replace")
+
+
+CONNECT = f"import os, sys; sys.path.insert(0, {str(HERE)!r}); import servers_test; " \
+          "sys.stdout.write(servers_test.connect(os.environ['ZQN_ODBC']))"
+
+
+def odbc_failure(connection_string, server):
+    """The same in a process of its own: the driver manager keeps what it has once read about its drivers."""
+    environment = {**os.environ, **server.surroundings(), "ZQN_ODBC": connection_string}
+    return subprocess.run([sys.executable, "-B", "-c", CONNECT], env=environment, capture_output=True, text=True,
+                          check=True, timeout=60).stdout
 
 
 def listening(port):
@@ -91,12 +102,18 @@ class OneServer:
 
     def test_the_drivers_connect_with_the_connection_string(self):
         text = self.servers("connection", self.name, "--database", "verbunden")
-        self.assertEqual(odbc_failure(text), "")
+        self.assertEqual(odbc_failure(text, self.server), "")
+
+    def test_the_drivers_leave_no_log_behind(self):
+        before = set(Path("/tmp").glob("psqlodbc_python*.log"))
+        said = self.servers("serve", self.name, "--database", "leise", "--", sys.executable, "-B", "-c", CONNECT)
+        self.assertEqual(said, "")
+        self.assertEqual(set(Path("/tmp").glob("psqlodbc_python*.log")) - before, set())
 
     def test_a_wrong_password_is_refused(self):
         text = self.server.create("falsch")
         self.assertIn("PWD=", text)
-        self.assertRegex(odbc_failure(text + "x"), "authentication failed|Access denied")
+        self.assertRegex(odbc_failure(text + "x", self.server), "authentication failed|Access denied")
         with self.assertRaisesRegex(ServerFailure, "authentication failed|Access denied"):
             self.server.query("SELECT 1", "falsch", user="clerk", password="x")
 
@@ -169,7 +186,7 @@ class OneServer:
         port, pid = self.server.node(1)["port"], self.server.process().pid()
         self.servers("kill", self.name)
         self.assertIsNone(status_of(pid))
-        self.assertNotEqual(odbc_failure(self.server.connection("bleibt")), "")
+        self.assertNotEqual(odbc_failure(self.server.connection("bleibt"), self.server), "")
         self.assertIn("is not running", self.servers("kill", self.name, expected=2))
         for _ in range(2):  # the second time a server that runs
             self.servers("restart", self.name)
@@ -331,7 +348,7 @@ class Root(unittest.TestCase):
             home = server.home
             try:
                 self.assertFalse(home.is_relative_to(state))
-                self.assertEqual(odbc_failure(server.connection()), "")
+                self.assertEqual(odbc_failure(server.connection(), server), "")
             finally:
                 servers("stop", "--state", state)
             self.assertFalse(home.exists())
@@ -347,7 +364,7 @@ class Cluster(unittest.TestCase):
         server = database_servers.server("galera", self.state)
         self.assertEqual(len({server.node(node)["port"] for node in (1, 2, 3)}), 3)
         text = servers("connection", "galera", "--state", self.state, "--node", "2", "--database", "verbund")
-        self.assertEqual(odbc_failure(text), "")
+        self.assertEqual(odbc_failure(text, server), "")
         server.query("CREATE TABLE a (b varchar(9) PRIMARY KEY)", "verbund", user="clerk", node=1)
         servers("kill", "galera", "--state", self.state, "--node", "3")
         server.query("SET SESSION wsrep_sync_wait=1; INSERT INTO a VALUES ('Öse')", "verbund", user="clerk", node=2)

@@ -27,6 +27,7 @@ HOST = "127.0.0.1"
 NAME_LENGTH = 60
 RESERVED = {"postgres", "template0", "template1", "mysql", "sys", "information_schema", "performance_schema"}
 PORT_ATTEMPTS = 3
+DRIVERS = Path(os.environ.get("ODBCSYSINI", "/etc"), "odbcinst.ini")
 
 
 def database_name(text):
@@ -128,6 +129,9 @@ class Server:
         self.known = {"home": str(home), "durable": durable, "admin": secrets.token_hex(12),
                       "clerk": secrets.token_hex(12), "nodes": {str(node): {} for node in self.every_node()}}
         self.save()
+        if DRIVERS.exists():
+            quiet = re.sub(r"(?m)^CommLog\s*=.*$", "CommLog=0", DRIVERS.read_text(encoding="utf-8"))
+            (self.folder / DRIVERS.name).write_text(quiet, encoding="utf-8")
         for user in ("admin", "clerk"):
             self.write_credentials(user, self.known[user])
         for node in self.every_node():
@@ -190,16 +194,25 @@ class Server:
                  "Database": database or self.first_database, "UID": "clerk", "PWD": self.known["clerk"]}
         return ";".join(f"{key}={value}" for key, value in pairs.items() if value)
 
+    def surroundings(self):
+        """What a program that connects is to find in its environment: as installed, PostgreSQL's driver leaves a
+        log of each process in the folder for temporary files."""
+        return {"ODBCSYSINI": str(self.folder)} if (self.folder / DRIVERS.name).exists() else {}
+
     def query(self, sql, database=None, user="admin", node=1, password=None):
         """Runs statements with the server's own client; rows as lines, columns parted by tabs."""
-        port = self.node(node)["port"]
+        self.node(node)
+        if password is None:
+            return self.run_client(self.home / user, user, database, node, sql)
         with tempfile.TemporaryDirectory(prefix="zqn-client-") as folder:
-            credentials = self.home / user
-            if password is not None:
-                credentials = self.write_credentials(user, password, Path(folder))
-            command, variables = self.client(credentials, user, database or self.first_database, port)
-            done = subprocess.run(command, input=sql, capture_output=True, text=True, encoding="utf-8", cwd="/",
-                                  errors="replace", env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", **variables})
+            credentials = self.write_credentials(user, password, Path(folder))
+            return self.run_client(credentials, user, database, node, sql)
+
+    def run_client(self, credentials, user, database, node, sql):
+        command, variables = self.client(credentials, user, database or self.first_database,
+                                         self.node(node)["port"])
+        done = subprocess.run(command, input=sql, capture_output=True, text=True, encoding="utf-8", cwd="/",
+                              errors="replace", env={"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", **variables})
         if done.returncode != 0:
             raise ServerFailure(f"{self.title(node)}: {done.stderr.strip()}")
         return done.stdout.rstrip("\n")
@@ -307,7 +320,10 @@ DROP DATABASE IF EXISTS `{0}`;
 """
 
     def make_node(self, node, folder):
-        lines = ["[mysqld]", f"datadir={folder / 'data'}", *self.SETTINGS,
+        # A server that starts clears temporary tables away in its folder, another server's among them.
+        (folder / "temporary").mkdir()
+        give(folder / "temporary", self.user)
+        lines = ["[mysqld]", f"datadir={folder / 'data'}", f"tmpdir={folder / 'temporary'}", *self.SETTINGS,
                  *([] if self.known["durable"] else self.FAST)]
         (folder / "settings").write_text("\n".join(lines) + "\n", encoding="utf-8")
         users = write_secret(folder / "users", self.USERS.format(**self.known), self.user)
@@ -335,12 +351,13 @@ DROP DATABASE IF EXISTS `{0}`;
 
     def create(self, database, node=1, template=None):
         """Makes a database, dropped first if there is one, as a copy of another if wanted."""
-        dump = self.template_file(template) if template else None
-        manner = dump.with_suffix(".manner").read_text(encoding="utf-8") if dump else ""
+        manner = content = ""
+        if template:
+            dump = self.template_file(template)
+            manner = dump.with_suffix(".manner").read_text(encoding="utf-8")
+            content = f"USE `{database}`;\n" + dump.read_text(encoding="utf-8")
         self.query(self.DROP.format(checked(database)) + f"CREATE DATABASE `{database}` {manner};\n"
-                   f"GRANT ALL PRIVILEGES ON `{database}`.* TO 'clerk'@'127.0.0.1';", node=node)
-        if dump:
-            self.query(dump.read_text(encoding="utf-8"), database, node=node)
+                   f"GRANT ALL PRIVILEGES ON `{database}`.* TO 'clerk'@'127.0.0.1';\n" + content, node=node)
         return self.connection(database, node)
 
     def drop(self, database, node=1):

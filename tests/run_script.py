@@ -97,9 +97,10 @@ def environment(folder):
     }
 
 
-def call(folder, arguments):
+def call(folder, arguments, server=None):
+    surroundings = {**environment(folder), **(server.surroundings() if server else {})}
     try:
-        done = subprocess.run([command(), *arguments], cwd=folder, env=environment(folder),
+        done = subprocess.run([command(), *arguments], cwd=folder, env=surroundings,
                               capture_output=True, timeout=TIMEOUT)
     except subprocess.TimeoutExpired:
         raise Failure(f"no end after {TIMEOUT} seconds: {shlex.join(arguments)}") from None
@@ -128,8 +129,8 @@ def runs_on(name, server):
     return database in wanted
 
 
-def init(folder, database, arguments):
-    if call(folder, ["init", "--db", database, *arguments]).returncode != 0:
+def init(folder, database, arguments, server=None):
+    if call(folder, ["init", "--db", database, *arguments], server).returncode != 0:
         raise Failure("the database cannot be made")
 
 
@@ -141,7 +142,7 @@ def sample_on(server, folder):
     with open(server.home / "sample.lock", "w", encoding="utf-8") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
         if not server.remembers(template):
-            init(folder, "odbc:" + server.create("sample_being_made"), SAMPLE)
+            init(folder, "odbc:" + server.create("sample_being_made"), SAMPLE, server)
             server.remember("sample_being_made", template)
     return template
 
@@ -160,7 +161,7 @@ def database_for(name, desktop, server, folder):
     try:
         address = "odbc:" + server.create(database, template=template)
         if template is None:
-            init(folder, address, wanted)
+            init(folder, address, wanted, server)
         yield address
     finally:
         server.drop(database)
@@ -175,7 +176,7 @@ def transcript_of(name, desktop, server):
             folder.chmod(0o700)  # the copied folder's mode came along
         with database_for(name, desktop, server, folder) as address:
             done = call(folder, [*arguments, "--db", address, "--app-path", str(folder), "--ui", desktop,
-                                 "--script", str(script_file(name)), "--transcript", "transcript.jsonl"])
+                                 "--script", str(script_file(name)), "--transcript", "transcript.jsonl"], server)
         file = folder / "transcript.jsonl"
         transcript = file.read_text(encoding="utf-8") if file.exists() else ""
     if done.returncode != status_of(transcript):

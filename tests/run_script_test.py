@@ -14,11 +14,12 @@ sys.path.insert(0, str(Path(__file__).parent))
 import run_script
 
 COMMAND = """#!{python}
-import pathlib, sys
+import os, pathlib, sys
 arguments = sys.argv[1:]
 here = pathlib.Path({folder!r})
 with open(here / "calls", "a", encoding="utf-8") as calls:
-    calls.write(arguments[0] + " " + arguments[arguments.index("--db") + 1] + "\\n")
+    drivers = " with drivers" if os.environ.get("ODBCSYSINI") == str(here) else ""
+    calls.write(arguments[0] + " " + arguments[arguments.index("--db") + 1] + drivers + "\\n")
 if arguments[0] == "init":
     sys.exit(0)
 desktop = arguments[arguments.index("--ui") + 1]
@@ -42,6 +43,9 @@ class Server:
     def create(self, database, template=None):
         self.asked.append(f"create {database} from {template}" if template else f"create {database}")
         return f"Database={database}"
+
+    def surroundings(self):
+        return {"ODBCSYSINI": str(self.home)}
 
     def drop(self, database):
         self.asked.append(f"drop {database}")
@@ -163,8 +167,8 @@ class RunScript(unittest.TestCase):
         self.assertEqual(self.run_script("check", *options, "name"), (0, ""))
         self.assertEqual(self.run_script("check", *options, "name"), (0, ""))
         database = run_script.database_servers.database_name("name.headless")
-        self.assertEqual(self.calls(), ["init odbc:Database=sample_being_made", f"show odbc:Database={database}",
-                                        f"show odbc:Database={database}"])
+        self.assertEqual(self.calls(), ["init odbc:Database=sample_being_made with drivers",
+                                        *2 * [f"show odbc:Database={database} with drivers"]])
         template, = server.templates
         copy = [f"create {database} from {template}", f"drop {database}"]
         self.assertEqual(server.asked, ["create sample_being_made", "remember sample_being_made", *copy, *copy])
@@ -176,7 +180,8 @@ class RunScript(unittest.TestCase):
         server, options = self.serve()
         self.assertEqual(self.run_script("check", *options, "name"), (0, ""))
         database = run_script.database_servers.database_name("name.headless")
-        self.assertEqual(self.calls(), [f"init odbc:Database={database}", f"show odbc:Database={database}"])
+        self.assertEqual(self.calls(), [f"init odbc:Database={database} with drivers",
+                                        f"show odbc:Database={database} with drivers"])
         self.assertEqual(server.asked, [f"create {database}", f"drop {database}"])
 
     def test_another_command_makes_another_sample(self):

@@ -109,7 +109,7 @@ def until(condition, seconds, pause=0.02):
 
 
 class Process:
-    """A server's process in a folder of its own, known by the id in the file `pid` there. The id counts only while
+    """A server's process in a folder of its own, known by the id in a file there. The id counts only while
     the process it names was started with this folder in its arguments: ids are given away again."""
 
     started = {}  # what this program itself has started, to be waited for
@@ -123,14 +123,17 @@ class Process:
         """The process id; nothing when it does not run."""
         for child in list(self.started.values()):
             child.poll()
-        try:
-            pid = int((self.folder / "pid").read_text())
-            arguments = Path(f"/proc/{pid}/cmdline").read_bytes().decode("utf-8", "replace").split("\0")
-        except (OSError, ValueError):
-            return None
-        ours = any(argument.endswith("=" + str(self.folder / "data")) or argument == str(self.folder / "data")
-                   for argument in arguments)
-        return pid if ours and status_of(pid) else None
+        # The server's own note serves if whoever started it was ended before making this one.
+        for note in (self.folder / "pid", *sorted((self.folder / "data").glob("*.pid"))):
+            try:
+                pid = int(note.read_text().split()[0])
+                arguments = Path(f"/proc/{pid}/cmdline").read_bytes().decode("utf-8", "replace").split("\0")
+            except (OSError, ValueError, IndexError):
+                continue
+            data = str(self.folder / "data")
+            if (data in arguments or f"--datadir={data}" in arguments) and status_of(pid):
+                return pid
+        return None
 
     def start(self, command):
         with open(self.log, "ab") as log:

@@ -69,8 +69,7 @@ def serve(options):
     if options.own:
         server.start(anew=True)
     try:
-        environment = {**os.environ, "ZQN_ODBC": server.create(options.database),
-                       "ZQN_ODBC_SERVER": options.name, "ZQN_ODBC_STATE": str(server.folder.parent)}
+        environment = {**os.environ, **server.surroundings(), "ZQN_ODBC": server.create(options.database), "ZQN_ODBC_SERVER": options.name, "ZQN_ODBC_STATE": str(server.folder.parent)}
         status = subprocess.run(options.command, env=environment).returncode
         if not options.own:
             server.drop(options.database)

@@ -17,6 +17,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE))
 import database_servers
+import server_processes
 from server_processes import ServerFailure, status_of
 
 LEAST = ("postgresql", "mariadb")
@@ -31,7 +32,7 @@ def servers(*arguments, expected=0):
     return done.stderr.strip() if expected else done.stdout.strip()
 
 
-def odbc_failure(connection_string):
+def connect(connection_string):
     """What the driver says when it connects; an empty text when it has connected."""
     odbc = ctypes.CDLL("libodbc.so.2")
     environment, connection = ctypes.c_void_p(), ctypes.c_void_p()
@@ -49,6 +50,17 @@ def odbc_failure(connection_string):
     odbc.SQLFreeHandle(2, connection)
     odbc.SQLFreeHandle(1, environment)
     return message.value.decode("utf-8", "replace")
+
+
+CONNECT = f"import os, sys; sys.path.insert(0, {str(HERE)!r}); import servers_test; " \
+          "sys.stdout.write(servers_test.connect(os.environ['ZQN_ODBC']))"
+
+
+def odbc_failure(connection_string, server):
+    """The same in a process of its own: the driver manager keeps what it has once read about its drivers."""
+    environment = {**os.environ, **server.surroundings(), "ZQN_ODBC": connection_string}
+    return subprocess.run([sys.executable, "-B", "-c", CONNECT], env=environment, capture_output=True, text=True,
+                          check=True, timeout=60).stdout
 
 
 def listening(port):
@@ -90,12 +102,18 @@ class OneServer:
 
     def test_the_drivers_connect_with_the_connection_string(self):
         text = self.servers("connection", self.name, "--database", "verbunden")
-        self.assertEqual(odbc_failure(text), "")
+        self.assertEqual(odbc_failure(text, self.server), "")
+
+    def test_the_drivers_leave_no_log_behind(self):
+        before = set(Path("/tmp").glob("psqlodbc_python*.log"))
+        said = self.servers("serve", self.name, "--database", "leise", "--", sys.executable, "-B", "-c", CONNECT)
+        self.assertEqual(said, "")
+        self.assertEqual(set(Path("/tmp").glob("psqlodbc_python*.log")) - before, set())
 
     def test_a_wrong_password_is_refused(self):
         text = self.server.create("falsch")
         self.assertIn("PWD=", text)
-        self.assertRegex(odbc_failure(text + "x"), "authentication failed|Access denied")
+        self.assertRegex(odbc_failure(text + "x", self.server), "authentication failed|Access denied")
         with self.assertRaisesRegex(ServerFailure, "authentication failed|Access denied"):
             self.server.query("SELECT 1", "falsch", user="clerk", password="x")
 
@@ -168,7 +186,7 @@ class OneServer:
         port, pid = self.server.node(1)["port"], self.server.process().pid()
         self.servers("kill", self.name)
         self.assertIsNone(status_of(pid))
-        self.assertNotEqual(odbc_failure(self.server.connection("bleibt")), "")
+        self.assertNotEqual(odbc_failure(self.server.connection("bleibt"), self.server), "")
         self.assertIn("is not running", self.servers("kill", self.name, expected=2))
         for _ in range(2):  # the second time a server that runs
             self.servers("restart", self.name)
@@ -209,7 +227,8 @@ class MariaDb(OneServer, unittest.TestCase):
     name = "mariadb"
     holds = "BEGIN; SELECT * FROM t; SELECT sleep(60);"
     settings = ("SELECT @@character_set_server; SELECT @@lower_case_table_names; SELECT @@max_connections; "
-                "SELECT @@innodb_flush_log_at_trx_commit", "utf8mb4\n1\n200\n2")
+                "SELECT @@innodb_flush_log_at_trx_commit; SELECT @@tmpdir LIKE '%/mariadb/node1/temporary'",
+                "utf8mb4\n1\n200\n2\n1")
 
 
 class LifeTime(unittest.TestCase):
@@ -251,26 +270,28 @@ class LifeTime(unittest.TestCase):
                 self.assertIsNotNone(pid)
 
     def test_a_start_that_is_ended_from_outside_leaves_nothing(self):
-        for signal_number in (signal.SIGTERM, signal.SIGINT):
-            for seconds in (0.3, 0.8):
-                start = subprocess.Popen([sys.executable, "-B", str(HERE / "servers.py"), "start", "--state",
-                                          self.state, "mariadb"], stderr=subprocess.DEVNULL)
-                time.sleep(seconds)
-                start.send_signal(signal_number)
-                start.wait(60)
-                server = database_servers.server("mariadb", self.state)
-                self.assertFalse(server.known and start.returncode != 0, start.returncode)
-                server.stop()
+        for seconds, how in ((0.3, signal.SIGTERM), (0.8, signal.SIGINT)):
+            start = subprocess.Popen([sys.executable, "-B", str(HERE / "servers.py"), "start", "--state", self.state,
+                                      "mariadb"], stderr=subprocess.DEVNULL)
+            time.sleep(seconds)
+            start.send_signal(how)
+            start.wait(60)
+            server = database_servers.server("mariadb", self.state)
+            self.assertFalse(server.known and start.returncode != 0, start.returncode)
+            server.stop()
 
     def test_a_start_that_is_killed_is_cleared_away_by_the_next(self):
         start = subprocess.Popen([sys.executable, "-B", str(HERE / "servers.py"), "start", "--state", self.state,
                                   "postgresql"], stderr=subprocess.DEVNULL)
-        file = Path(self.state) / "postgresql" / "node1" / "pid"
-        while not file.exists() and start.poll() is None:
+        process = server_processes.Process(Path(self.state) / "postgresql" / "node1", "postgres")
+        while process.pid() is None and start.poll() is None:
             time.sleep(0.005)
         start.kill()
         start.wait()
-        pid = int(file.read_text())
+        pid = process.pid()
+        self.assertIsNotNone(pid)
+        (process.folder / "pid").unlink(missing_ok=True)  # as if ended before it was written
+        self.assertTrue(server_processes.until(process.pid, 20))
         servers("start", "--anew", "--state", self.state, "postgresql")
         self.assertIsNone(status_of(pid))
         self.assertNotEqual(self.known("postgresql")[1], pid)
@@ -327,7 +348,7 @@ class Root(unittest.TestCase):
             home = server.home
             try:
                 self.assertFalse(home.is_relative_to(state))
-                self.assertEqual(odbc_failure(server.connection()), "")
+                self.assertEqual(odbc_failure(server.connection(), server), "")
             finally:
                 servers("stop", "--state", state)
             self.assertFalse(home.exists())
@@ -343,7 +364,7 @@ class Cluster(unittest.TestCase):
         server = database_servers.server("galera", self.state)
         self.assertEqual(len({server.node(node)["port"] for node in (1, 2, 3)}), 3)
         text = servers("connection", "galera", "--state", self.state, "--node", "2", "--database", "verbund")
-        self.assertEqual(odbc_failure(text), "")
+        self.assertEqual(odbc_failure(text, server), "")
         server.query("CREATE TABLE a (b varchar(9) PRIMARY KEY)", "verbund", user="clerk", node=1)
         servers("kill", "galera", "--state", self.state, "--node", "3")
         server.query("SET SESSION wsrep_sync_wait=1; INSERT INTO a VALUES ('Öse')", "verbund", user="clerk", node=2)

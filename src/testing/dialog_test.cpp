@@ -115,13 +115,28 @@ void DialogTest::Before(ado::Operation operation, StringView statement, StringVi
 Variant DialogTest::show(std::int32_t kind, VariantArray handedIn, const std::function<void()>& acts,
                          Through through) {
   param = std::move(handedIn);
-  acts_ = acts;
-  return through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
+  Variant returned;
+  during(
+      [&] {
+        returned = through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
+      },
+      acts);
+  return returned;
+}
+
+Variant DialogTest::showsNoForm(std::int32_t kind, VariantArray handedIn) {
+  param = std::move(handedIn);
+  acts_ = [] { ADD_FAILURE() << "a form came up"; };
+  Variant returned = dialog.Show(kind, param);
+  acts_ = nullptr;
+  return returned;
 }
 
 void DialogTest::during(const std::function<void()>& shows, const std::function<void()>& acts) {
   acts_ = acts;
   shows();
+  // What a test expects while the form is open must have been looked at.
+  if (std::exchange(acts_, nullptr) && !tolerant_) ADD_FAILURE() << "no form has waited for the clerk";
 }
 
 void DialogTest::idle() {

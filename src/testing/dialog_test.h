@@ -74,9 +74,12 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
 
   /// The form that serves the kind, or the generic form in any case.
   enum class Through { Show, GenericForm };
-  /// Shows a dialog; `acts` runs when the form waits for the person. Returns what Show returned.
+  /// Shows a dialog; `acts` runs when the form waits for the person, and one that never runs fails the test.
+  /// Returns what Show returned.
   Variant show(std::int32_t kind, VariantArray param, const std::function<void()>& acts = {},
                Through through = Through::Show);
+  /// The same for a dialog whose form must not come up.
+  Variant showsNoForm(std::int32_t kind, VariantArray param);
   /// The same for whatever `shows` a form.
   void during(const std::function<void()>& shows, const std::function<void()>& acts);
   /// Param as Show left it.

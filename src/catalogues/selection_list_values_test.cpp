@@ -71,6 +71,10 @@ TEST_F(SelectionListValues, TheStoredFormOfTheEmptyValueIsShownAsEmpty) {
   });
 }
 
+TEST_F(SelectionListValues, AFieldNumberMayBeATextWithBlanks) {
+  show(28, {u"", u"Artikel", u" 1 ", u""}, [&] { EXPECT_EQ(listRows().size(), 3u); });
+}
+
 TEST_F(SelectionListValues, AFieldNumberThatIsNoneLeavesTheListEmptyAndNothingIsWritten) {
   for (const Variant& field : {Variant(u"eins"), Variant(u"1 OR 1"), Variant(), Variant(Null)}) {
     show(28, {u"", u"Artikel", field, u""}, [&] {
@@ -183,7 +187,12 @@ TEST_F(SelectionListValues, DeletingAsksFirst) {
 // ---- picking
 
 TEST_F(SelectionListValues, ADoubleClickOnTheEmptyLineReturnsAnEmptyText) {
-  EXPECT_EQ(showField(u"Messing", [&] { doubleClick(1); }), Variant(u""));
+  EXPECT_EQ(showField(u"Messing",
+                      [&] {
+                        doubleClick(1);
+                        EXPECT_FALSE(form().Visible());
+                      }),
+            Variant(u""));
   EXPECT_EQ(param.at(0), Variant(u""));
 }
 
@@ -237,6 +246,16 @@ TEST_F(SelectionListValues, OpeningPassesOverFailures) {
   showField(u"Messing", [&] {
     EXPECT_THAT(listRows(), IsEmpty());
     EXPECT_EQ(text(u"Schluessel"), u"Messing");
+    EXPECT_TRUE(enabled(u"btnOK"));
+  });
+}
+
+TEST_F(SelectionListValues, WhatIsNoTextIsPassedOverAndTheFormComesUpAllTheSame) {
+  const Variant noText{std::shared_ptr<Object>()};
+  show(28, {noText, u"Artikel", std::int32_t{1}, noText}, [&] {
+    EXPECT_EQ(form().Caption(), u"Wertliste");
+    EXPECT_EQ(text(u"Schluessel"), u"");
+    EXPECT_EQ(listRows().size(), 3u);
     EXPECT_TRUE(enabled(u"btnOK"));
   });
 }

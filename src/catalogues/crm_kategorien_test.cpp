@@ -94,7 +94,11 @@ TEST_F(CRMKategorien, ClearingEmptiesKeysThatWereNeverTickedAndTheDatesToUpdate)
 }
 
 TEST_F(CRMKategorien, TheKeyIsShownAsItIsStored) {
-  show(25, {u"anruf"}, [&] { EXPECT_EQ(text(u"Schluessel"), u"ANRUF"); });
+  show(25, {u"MESSE"}, [&] {
+    enter(u"anruf");
+    EXPECT_EQ(text(u"Schluessel"), u"ANRUF");
+    EXPECT_EQ(text(u"Kurztext"), u"Telefonat");
+  });
 }
 
 TEST_F(CRMKategorien, TheNameIsSelectedWholeWhenItGetsTheFocus) {

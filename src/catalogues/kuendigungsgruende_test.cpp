@@ -91,7 +91,8 @@ TEST_F(Kuendigungsgruende, ANewReasonStartsForCustomersAndContracts) {
 }
 
 TEST_F(Kuendigungsgruende, TheKeyIsShownAsItIsStoredAndItsTextSelectedByAClick) {
-  show(ofContracts, {u"gerät"}, [&] {
+  show(ofContracts, {u"PREIS"}, [&] {
+    enter(u"gerät");
     EXPECT_EQ(text(u"Schluessel"), u"GERÄT");
     click(u"Text");
     EXPECT_EQ(number(u"Text", u"SelLength"), 14);

@@ -69,8 +69,13 @@ TEST_F(Vertriebsstati, StoredProgressIsCorrectedAsIfItWereTyped) {
 }
 
 TEST_F(Vertriebsstati, TheKeyIsShownAsItIsStored) {
-  execute(u"INSERT INTO Vertriebsstati VALUES ('Abc', 'klein und groß', 0, 5)");
-  show(21, {u"aBC"}, [&] { EXPECT_THAT(fields(), ElementsAre(u"Abc", u"klein und groß", u"5", u"0")); });
+  execute(
+      u"INSERT INTO Vertriebsstati VALUES ('Abc', 'klein und groß', 0, 5);"
+      u"INSERT INTO Vertriebsstati VALUES ('x', 'zuletzt', 0, 5)");
+  show(21, {u"x"}, [&] {
+    enter(u"aBC");
+    EXPECT_THAT(fields(), ElementsAre(u"Abc", u"klein und groß", u"5", u"0"));
+  });
 }
 
 TEST_F(Vertriebsstati, NullOpensOnTheEmptyKeyAndComesBack) {
@@ -270,6 +275,18 @@ TEST_F(Vertriebsstati, SavingDoesNotTakeTheKey) {
                    click(u"btnOK");
                  }),
             Variant(u"20"));
+}
+
+TEST_F(Vertriebsstati, AFirstRowThatIsNotStoredLeavesNothingToSearch) {
+  execute(u"DELETE FROM Vertriebsstati");
+  fail(ado::Operation::Update, u"Vertriebsstati", error::IntegrityViolation);
+  expectError(u"btnOK_Click", error::NoCurrentRecord);
+  show(21, {u""}, [&] {
+    enter(u"10");
+    operations.clear();
+    click(u"btnOK");
+    EXPECT_EQ(operations.back().first, ado::Operation::Requery);
+  });
 }
 
 TEST_F(Vertriebsstati, WithoutTheRightSavingOnlySaysSo) {

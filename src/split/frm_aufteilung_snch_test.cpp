@@ -129,11 +129,11 @@ TEST_F(SplitOpens, AnyBytesAsText) {
       {"€5|(5)|5-", {u"0,000|0|5||"}},
       {"\t", {u"0,000||||"}},
   };
-  for (const auto& [bytes, shown] : cases) {
-    split(1, fromUtf8(bytes), std::int32_t{0}, [&] {
-      auto withBottomRow = shown;
+  for (const auto& each : cases) {
+    split(1, fromUtf8(each.first), std::int32_t{0}, [&] {
+      auto withBottomRow = each.second;
       withBottomRow.push_back(u"0,000|Stk|||");
-      EXPECT_EQ(gridRows(), withBottomRow) << bytes;
+      EXPECT_EQ(gridRows(), withBottomRow) << each.first;
     });
   }
 }

@@ -51,8 +51,8 @@ TEST_F(SelectionListValues, TheCaptionIsTheCallersUnlessItIsBlank) {
   const std::vector<std::pair<Variant, String>> cases = {
       {u"Werkstoffe", u"Werkstoffe"}, {u" Werk ", u" Werk "}, {u"  ", u"Wertliste"},
       {Variant(), u"Wertliste"},      {Null, u"Wertliste"},   {std::int32_t{7}, u"7"}};
-  for (const auto& [caption, shown] : cases)
-    show(28, {u"", u"Artikel", u"1", caption}, [&] { EXPECT_EQ(form().Caption(), shown); });
+  for (const auto& each : cases)
+    show(28, {u"", u"Artikel", u"1", each.first}, [&] { EXPECT_EQ(form().Caption(), each.second); });
 }
 
 TEST_F(SelectionListValues, AnEmptyKeyMarksTheEmptyValueAndItsButtonsAreReady) {

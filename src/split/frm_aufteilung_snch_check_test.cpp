@@ -103,6 +103,18 @@ TEST_F(SplitCheck, OutOfRowModeTheEditorComesBack) {
   EXPECT_EQ(param.elements()[0], Variant(u"1|\"Stk\"|\"L-9\"|\"\"|\"\"")) << "it writes into that cell";
 }
 
+TEST_F(SplitCheck, OutOfRowModeTheEditorComesBackAlsoToAnEmptyCell) {
+  split(3, u"1|\"Stk\"|\"\"", 1.0, [&] {
+    clickCell(1, 0);
+    EXPECT_FALSE(editor().Visible());
+    EXPECT_EQ(editor().Text(), u"");
+    expectMissing(u"keine Chargennummer");
+    press(key::F9);
+    EXPECT_TRUE(editor().Visible());
+    EXPECT_EQ(focus(), u"txtEdit");
+  });
+}
+
 TEST_F(SplitCheck, TheBottomRowIsNeverLookedAt) {
   EXPECT_EQ(split(1, u"", std::int32_t{0},
                   [&] {

@@ -47,12 +47,10 @@ TEST_F(SplitEditor, RepairsDatesAndReadsNumbers) {
   });
 }
 
-TEST_F(SplitEditor, ComesBackWhenItsTextChangesWhileItIsHidden) {
-  String text;
-  for (int i = 0; i < 100; ++i) text += u"1|\"Stk\"|\"L\"\r\n";
-  split(1, text, 200.0, [&] {
-    clickCell(2, 3);
-    grid().userScrolled(50, 1);
+TEST_F(SplitEditor, ComesBackOverItsCellWhenItsTextChangesWhileItIsHidden) {
+  split(3, twoBatches, 5.0, [&] {
+    clickCell(1, 3);
+    clickCell(2, 0);
     EXPECT_FALSE(editor().Visible());
     editor().Text(u"neu");
     EXPECT_TRUE(editor().Visible());

@@ -124,6 +124,8 @@ TEST_F(SplitRowMode, EndsWithAPressInAnotherColumn) {
 
 TEST_F(SplitRowMode, LooksSelectedOnlyOnceTheButtonIsReleased) {
   split(1, twoBatches, 5.0, [&] {
+    clickCell(1, 0);
+    EXPECT_EQ(marks(), "picCurrenti - picNew");
     headless::pressOn(grid(), {2, 0});
     EXPECT_EQ(marks(), "- picCurrent picNew");
     grid().userReleased({2, 0}, 1, 0);

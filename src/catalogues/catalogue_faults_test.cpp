@@ -3,6 +3,7 @@
 // A database that fails at any one operation of a clerk's work, on every catalogue form: the host lives, no
 // half row is stored, and only procedures without a handler tell of it.
 #include <algorithm>
+#include <functional>
 #include <set>
 
 #include "catalogues/catalogue_test.h"
@@ -176,18 +177,31 @@ TEST_P(Work, GoesOnWithTheNextStatementWhereWritingARowFails) {
   EXPECT_GT(count, 3u);
 }
 
+/// What a clerk does with records that have a name beside their key.
+struct NamedWork {
+  StringView name, newKey;
+  int deleted;
+  std::function<void()> change = [] {};
+  std::function<void()> add = [] {};
+
+  void on(Work& clerk) const {
+    clerk.press(key::Down);
+    clerk.click(name);
+    clerk.type(u"geändert");
+    change();
+    clerk.save();
+    clerk.add(newKey);
+    clerk.type(u"neu");
+    add();
+    clerk.saveByKey();
+    clerk.select(deleted);
+    clerk.click(u"btnDelete");
+    clerk.doubleClick(1);
+  }
+};
+
 void workOnStatuses(Work& clerk) {
-  clerk.press(key::Down);
-  clerk.click(u"Kurztext");
-  clerk.type(u"geändert");
-  clerk.click(u"AutoOverwrite");
-  clerk.save();
-  clerk.add(u"40");
-  clerk.type(u"neu");
-  clerk.saveByKey();
-  clerk.select(2);
-  clerk.click(u"btnDelete");
-  clerk.doubleClick(1);
+  NamedWork{u"Kurztext", u"40", 2, [&] { clerk.click(u"AutoOverwrite"); }}.on(clerk);
 }
 
 String status(const Work& clerk) {
@@ -196,21 +210,13 @@ String status(const Work& clerk) {
 }
 
 void workOnCategories(Work& clerk) {
-  clerk.press(key::Down);
-  clerk.click(u"Kurztext");
-  clerk.type(u"geändert");
-  clerk.click(u"Status");
-  clerk.save();
-  clerk.add(u"NEU");
-  clerk.type(u"neu");
-  clerk.click(u"HelpDesk");
-  clerk.click(u"Status");
-  clerk.press(key::Tab);
-  clerk.type(u"10");
-  clerk.saveByKey();
-  clerk.select(0);
-  clerk.click(u"btnDelete");
-  clerk.doubleClick(1);
+  const auto chooseAStatus = [&] {
+    clerk.click(u"HelpDesk");
+    clerk.click(u"Status");
+    clerk.press(key::Tab);
+    clerk.type(u"10");
+  };
+  NamedWork{u"Kurztext", u"NEU", 0, [&] { clerk.click(u"Status"); }, chooseAStatus}.on(clerk);
 }
 
 String category(const Work& clerk) {
@@ -220,18 +226,7 @@ String category(const Work& clerk) {
          clerk.value(u"AktLetzterBesuch");
 }
 
-void workOnReasons(Work& clerk) {
-  clerk.press(key::Down);
-  clerk.click(u"Text");
-  clerk.type(u"geändert");
-  clerk.save();
-  clerk.add(u"NEU");
-  clerk.type(u"neu");
-  clerk.saveByKey();
-  clerk.select(0);
-  clerk.click(u"btnDelete");
-  clerk.doubleClick(1);
-}
+void workOnReasons(Work& clerk) { NamedWork{u"Text", u"NEU", 0}.on(clerk); }
 
 String reason(const Work& clerk) {
   const int entry = *clerk.get(u"Anzeigetyp", u"ListIndex").as<std::int32_t>();

@@ -88,6 +88,14 @@ TEST_F(SplitOpens, OnlyTheEditorIsReachedByTab) {
   });
 }
 
+TEST_F(SplitOpens, WithTheTotalInBoldBesideItsTarget) {
+  split(1, twoBatches, 5.0, [&] {
+    EXPECT_EQ(form().control(u"lblGmenge").design().other.Alignment, Alignment::Right);
+    for (const StringView label : {u"lblGmenge", u"lblAufteilungstext"})
+      EXPECT_TRUE(form().control(label).design().other.Bold);
+  });
+}
+
 TEST_F(SplitOpens, WhatIsNoTextReadsAsNothing) {
   const Variant noText{std::shared_ptr<Object>()};
   show(34, {noText, noText, noText, std::int32_t{1}, false}, [&] {

@@ -3,6 +3,7 @@
 // A database that fails at any one operation of a clerk's work, on every catalogue form: the host lives, no
 // half row is stored, and only procedures without a handler tell of it.
 #include <algorithm>
+#include <functional>
 #include <set>
 
 #include "catalogues/catalogue_test.h"
@@ -22,6 +23,8 @@ struct FormCase {
   StringView table;
   /// Columns, and rows.
   StringView columns, rows;
+  /// Statements for the tables that it reads beside its own.
+  StringView others;
   /// What the clerk does: browse, change and save, add, delete, take.
   void (*act)(Work& clerk);
   /// The row that saving now would store, columns parted by "|".
@@ -72,10 +75,7 @@ class Work : public CatalogueTest, public ::testing::WithParamInterface<FormCase
   Work() {
     const FormCase& form = GetParam();
     execute(u"CREATE TABLE " + String(form.table) + u" (" + String(form.columns) + u")");
-    execute(
-        u"CREATE TABLE Vertriebsstati (Status VARCHAR(10) PRIMARY KEY, Bezeichnung VARCHAR(30));"
-        u"INSERT INTO Vertriebsstati VALUES ('10', 'Interesse'), ('20', 'Angebot');"
-        u"CREATE TABLE Adressherkunft (Herkunft VARCHAR(15) PRIMARY KEY, Bezeichnung VARCHAR(50))");
+    execute(form.others);
     reset();
     before = stored();
   }
@@ -147,22 +147,76 @@ TEST_P(Work, LeavesTheHostAliveAndWholeRowsWhereverTheDatabaseFails) {
   EXPECT_EQ(told, mayTell) << "each of them has told of one at least";
 }
 
+TEST_P(Work, GoesOnWithTheNextStatementWhereWritingARowFails) {
+  tolerateEverything();
+  const auto isOf = [this](std::size_t position, Operation kind) {
+    return operations[position].first == kind;
+  };
+  std::size_t count = 0;
+  for (std::size_t failing = 0; failing <= count; ++failing) {
+    reset();
+    operations.clear();
+    show(GetParam().kind, GetParam().param, [&] {
+      press(key::Down);
+      const std::size_t start = operations.size();
+      if (failing > 0) failAt(start + failing);
+      click(u"btnOK");
+      failAt(0);
+      std::size_t end = start;
+      while (!isOf(end, Operation::Requery)) ++end;
+      EXPECT_TRUE(reportedErrors.empty()) << "statement " << failing;
+      EXPECT_EQ(focus(), u"TDBList1");
+      if (failing == 0) count = end - start;
+      const bool fieldFailed = failing > 0 && isOf(start + failing - 1, Operation::Field);
+      if (!fieldFailed) return;
+      EXPECT_TRUE(isOf(end - 2, Operation::Update) && isOf(end - 1, Operation::Close))
+          << "statement " << failing;
+      EXPECT_EQ(end - start, count) << "the other columns are assigned all the same";
+    });
+  }
+  EXPECT_GT(count, 3u);
+}
+
+/// What a clerk does with records that have a name beside their key.
+struct NamedWork {
+  StringView name, newKey;
+  int deleted;
+  std::function<void()> change = [] {};
+  std::function<void()> add = [] {};
+
+  void on(Work& clerk) const {
+    clerk.press(key::Down);
+    clerk.click(name);
+    clerk.type(u"geändert");
+    change();
+    clerk.save();
+    clerk.add(newKey);
+    clerk.type(u"neu");
+    add();
+    clerk.saveByKey();
+    clerk.select(deleted);
+    clerk.click(u"btnDelete");
+    clerk.doubleClick(1);
+  }
+};
+
+void workOnStatuses(Work& clerk) {
+  NamedWork{u"Kurztext", u"40", 2, [&] { clerk.click(u"AutoOverwrite"); }}.on(clerk);
+}
+
+String status(const Work& clerk) {
+  return clerk.text(u"Schluessel") + u"|" + clerk.textOrNull(u"Kurztext") + u"|" +
+         clerk.value(u"AutoOverwrite") + u"|" + clerk.text(u"Gewichtung");
+}
+
 void workOnCategories(Work& clerk) {
-  clerk.press(key::Down);
-  clerk.click(u"Kurztext");
-  clerk.type(u"geändert");
-  clerk.click(u"Status");
-  clerk.save();
-  clerk.add(u"NEU");
-  clerk.type(u"neu");
-  clerk.click(u"HelpDesk");
-  clerk.click(u"Status");
-  clerk.press(key::Tab);
-  clerk.type(u"10");
-  clerk.saveByKey();
-  clerk.select(0);
-  clerk.click(u"btnDelete");
-  clerk.doubleClick(1);
+  const auto chooseAStatus = [&] {
+    clerk.click(u"HelpDesk");
+    clerk.click(u"Status");
+    clerk.press(key::Tab);
+    clerk.type(u"10");
+  };
+  NamedWork{u"Kurztext", u"NEU", 0, [&] { clerk.click(u"Status"); }, chooseAStatus}.on(clerk);
 }
 
 String category(const Work& clerk) {
@@ -172,18 +226,7 @@ String category(const Work& clerk) {
          clerk.value(u"AktLetzterBesuch");
 }
 
-void workOnReasons(Work& clerk) {
-  clerk.press(key::Down);
-  clerk.click(u"Text");
-  clerk.type(u"geändert");
-  clerk.save();
-  clerk.add(u"NEU");
-  clerk.type(u"neu");
-  clerk.saveByKey();
-  clerk.select(0);
-  clerk.click(u"btnDelete");
-  clerk.doubleClick(1);
-}
+void workOnReasons(Work& clerk) { NamedWork{u"Text", u"NEU", 0}.on(clerk); }
 
 String reason(const Work& clerk) {
   const int entry = *clerk.get(u"Anzeigetyp", u"ListIndex").as<std::int32_t>();
@@ -213,6 +256,18 @@ String listValue(const Work& clerk) {
 INSTANTIATE_TEST_SUITE_P(
     Catalogues, Work,
     ::testing::Values(
+        FormCase{"frmVertriebsstati",
+                 21,
+                 {u"10"},
+                 u"Vertriebsstati",
+                 u"Status VARCHAR(10) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, Bezeichnung VARCHAR(30) COLLATE "
+                 u"ZQN_TEXT, AutoOverwrite SMALLINT, Gewichtung DOUBLE",
+                 u"('10', 'Interesse', 0, 10), ('20', 'Angebot', -1, 40), ('30', 'Auftrag', 0, 90)",
+                 u"",
+                 workOnStatuses,
+                 status,
+                 u"20",
+                 {u"10|Interesse|0|10", u"20|geändert|0|40", u"40|neu|0|0"}},
         FormCase{"frmCRMKategorien",
                  25,
                  {u"A"},
@@ -222,6 +277,9 @@ INSTANTIATE_TEST_SUITE_P(
                  u"VARCHAR(15), AktLetzterKontakt SMALLINT, AktLetzterBesuch SMALLINT",
                  u"('A', 'eins', 1, 0, '10', NULL, 1, 0), ('B', 'zwei', 1, 1, '20', NULL, 0, 1), "
                  u"('C', 'drei', 0, 0, NULL, 'M', 0, 0)",
+                 u"CREATE TABLE Vertriebsstati (Status VARCHAR(10) PRIMARY KEY, Bezeichnung VARCHAR(30));"
+                 u"INSERT INTO Vertriebsstati VALUES ('10', 'Interesse'), ('20', 'Angebot');"
+                 u"CREATE TABLE Adressherkunft (Herkunft VARCHAR(15) PRIMARY KEY, Bezeichnung VARCHAR(50))",
                  workOnCategories,
                  category,
                  u"C",
@@ -232,6 +290,7 @@ INSTANTIATE_TEST_SUITE_P(
                  u"SelektionskriterienVertrag",
                  u"Kriterium VARCHAR(30) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY",
                  u"('A'), ('B'), ('C')",
+                 u"",
                  workOnKeys,
                  criterion,
                  u"C",
@@ -243,6 +302,7 @@ INSTANTIATE_TEST_SUITE_P(
                  u"ReferenceType VARCHAR(50) COLLATE ZQN_TEXT NOT NULL, FieldID INTEGER NOT NULL, ListValue "
                  u"VARCHAR(255) COLLATE ZQN_TEXT NOT NULL, PRIMARY KEY (ReferenceType, FieldID, ListValue)",
                  u"('R', 1, 'A'), ('R', 1, 'B'), ('R', 1, 'C')",
+                 u"",
                  workOnKeys,
                  listValue,
                  u"C",
@@ -255,6 +315,7 @@ INSTANTIATE_TEST_SUITE_P(
                  u"GrundVerlorenSchl VARCHAR(15) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, Text VARCHAR(50), "
                  u"Anzeigetyp INTEGER",
                  u"('A', 'eins', 3), ('B', 'zwei', 2), ('C', 'drei', 1)",
+                 u"",
                  workOnReasons,
                  reason,
                  u"C",
@@ -266,6 +327,7 @@ INSTANTIATE_TEST_SUITE_P(
                  u"Keyword VARCHAR(30) COLLATE ZQN_TEXT NOT NULL, Section VARCHAR(50) COLLATE ZQN_TEXT NOT "
                  u"NULL, PRIMARY KEY (Section, Keyword)",
                  u"('A', 'S'), ('B', 'S'), ('C', 'S')",
+                 u"",
                  workOnKeys,
                  keyword,
                  u"C",

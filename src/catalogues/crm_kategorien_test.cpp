@@ -79,6 +79,35 @@ TEST_F(CRMKategorien, AnUnknownKeyGivesAllBoxesOffAndBothKeysDisabled) {
   });
 }
 
+TEST_F(CRMKategorien, AnUnknownKeyThatIsHandedInGivesTheSame) {
+  show(25, {u"NEU"}, [&] { EXPECT_EQ(boxes(), "000000 Null-* Null-*"); });
+}
+
+TEST_F(CRMKategorien, ClearingEmptiesKeysThatWereNeverTickedAndTheDatesToUpdate) {
+  for (const StringView category : {u"LEER", u"ANRUF", u"MESSE"}) {
+    show(25, {Variant(category)}, [&] {
+      press(key::F6);
+      EXPECT_EQ(boxes(), "000000 Null-* Null-*") << toUtf8(category);
+      EXPECT_EQ(text(u"Kurztext"), u"");
+    });
+  }
+}
+
+TEST_F(CRMKategorien, TheKeyIsShownAsItIsStored) {
+  show(25, {u"MESSE"}, [&] {
+    enter(u"anruf");
+    EXPECT_EQ(text(u"Schluessel"), u"ANRUF");
+    EXPECT_EQ(text(u"Kurztext"), u"Telefonat");
+  });
+}
+
+TEST_F(CRMKategorien, TheNameIsSelectedWholeWhenItGetsTheFocus) {
+  show(25, {u"ANRUF"}, [&] {
+    click(u"Kurztext");
+    EXPECT_EQ(number(u"Kurztext", u"SelLength"), 9);
+  });
+}
+
 TEST_F(CRMKategorien, NullReadsAsOff) {
   show(25, {u"MESSE"}, [&] {
     select(2);

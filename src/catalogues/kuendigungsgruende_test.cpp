@@ -90,6 +90,25 @@ TEST_F(Kuendigungsgruende, ANewReasonStartsForCustomersAndContracts) {
   });
 }
 
+TEST_F(Kuendigungsgruende, TheKeyIsShownAsItIsStoredAndItsTextSelectedByAClick) {
+  show(ofContracts, {u"PREIS"}, [&] {
+    enter(u"gerät");
+    EXPECT_EQ(text(u"Schluessel"), u"GERÄT");
+    click(u"Text");
+    EXPECT_EQ(number(u"Text", u"SelLength"), 14);
+  });
+}
+
+TEST_F(Kuendigungsgruende, TabGoesFromTheButtonsToTheDropDown) {
+  show(ofContracts, {u"PREIS"}, [&] {
+    for (const StringView next : {u"Schluessel", u"Text", u"btnOK", u"btnCancel", u"btnNew", u"btnDelete",
+                                  u"Anzeigetyp", u"TDBList1"}) {
+      press(key::Tab);
+      EXPECT_EQ(focus(), String(next));
+    }
+  });
+}
+
 TEST_F(Kuendigungsgruende, AnEmptyKeyStartsSoToo) {
   show(ofContracts, {u""}, [&] {
     EXPECT_EQ(entry(), 2);
@@ -228,6 +247,15 @@ TEST_F(Kuendigungsgruende, WithoutTheRightNothingChanges) {
 }
 
 // ---- failures
+
+TEST_F(Kuendigungsgruende, AListThatCannotBeReadAfterDeletingIsShownAsClosed) {
+  expectError(u"btnDelete_Click", error::ObjectClosed);
+  show(ofCustomers, {u"PREIS"}, [&] {
+    fail(ado::Operation::Open, u"ORDER BY GrundVerlorenSchl", error::ProviderFailure);
+    deleteRow();
+    EXPECT_TRUE(form().Visible());
+  });
+}
 
 TEST_F(Kuendigungsgruende, ANullInTheDatabaseIsPassedOverWhenTheKeyIsLeft) {
   show(ofCustomers, {u"ZZERO"}, [&] {

@@ -51,8 +51,8 @@ TEST_F(SelectionListValues, TheCaptionIsTheCallersUnlessItIsBlank) {
   const std::vector<std::pair<Variant, String>> cases = {
       {u"Werkstoffe", u"Werkstoffe"}, {u" Werk ", u" Werk "}, {u"  ", u"Wertliste"},
       {Variant(), u"Wertliste"},      {Null, u"Wertliste"},   {std::int32_t{7}, u"7"}};
-  for (const auto& [caption, shown] : cases)
-    show(28, {u"", u"Artikel", u"1", caption}, [&] { EXPECT_EQ(form().Caption(), shown); });
+  for (const auto& each : cases)
+    show(28, {u"", u"Artikel", u"1", each.first}, [&] { EXPECT_EQ(form().Caption(), each.second); });
 }
 
 TEST_F(SelectionListValues, AnEmptyKeyMarksTheEmptyValueAndItsButtonsAreReady) {
@@ -69,6 +69,10 @@ TEST_F(SelectionListValues, TheStoredFormOfTheEmptyValueIsShownAsEmpty) {
     EXPECT_EQ(text(u"Schluessel"), u"");
     EXPECT_EQ(number(u"TDBList1", u"Row"), 1);
   });
+}
+
+TEST_F(SelectionListValues, AFieldNumberMayBeATextWithBlanks) {
+  show(28, {u"", u"Artikel", u" 1 ", u""}, [&] { EXPECT_EQ(listRows().size(), 3u); });
 }
 
 TEST_F(SelectionListValues, AFieldNumberThatIsNoneLeavesTheListEmptyAndNothingIsWritten) {
@@ -183,7 +187,12 @@ TEST_F(SelectionListValues, DeletingAsksFirst) {
 // ---- picking
 
 TEST_F(SelectionListValues, ADoubleClickOnTheEmptyLineReturnsAnEmptyText) {
-  EXPECT_EQ(showField(u"Messing", [&] { doubleClick(1); }), Variant(u""));
+  EXPECT_EQ(showField(u"Messing",
+                      [&] {
+                        doubleClick(1);
+                        EXPECT_FALSE(form().Visible());
+                      }),
+            Variant(u""));
   EXPECT_EQ(param.at(0), Variant(u""));
 }
 
@@ -224,12 +233,13 @@ TEST_F(SelectionListValues, HandsTheseStatementsToTheDatabase) {
 // ---- failures
 
 TEST_F(SelectionListValues, SavingPassesOverFailures) {
-  showField(u"Messing", [&] {
-    fail(ado::Operation::Requery, u"ORDER BY ListValue", error::ProviderFailure);
-    fail(ado::Operation::Find, u"ORDER BY ListValue", error::ProviderFailure);
-    click(u"btnOK");
-    EXPECT_EQ(focus(), u"TDBList1") << "the last statement ran";
-  });
+  for (const ado::Operation failing : {ado::Operation::Requery, ado::Operation::Find}) {
+    showField(u"Messing", [&] {
+      fail(failing, u"ORDER BY ListValue", error::ProviderFailure);
+      click(u"btnOK");
+      EXPECT_EQ(focus(), u"TDBList1") << "the last statement ran";
+    });
+  }
 }
 
 TEST_F(SelectionListValues, OpeningPassesOverFailures) {
@@ -237,6 +247,16 @@ TEST_F(SelectionListValues, OpeningPassesOverFailures) {
   showField(u"Messing", [&] {
     EXPECT_THAT(listRows(), IsEmpty());
     EXPECT_EQ(text(u"Schluessel"), u"Messing");
+    EXPECT_TRUE(enabled(u"btnOK"));
+  });
+}
+
+TEST_F(SelectionListValues, WhatIsNoTextIsPassedOverAndTheFormComesUpAllTheSame) {
+  const Variant noText{std::shared_ptr<Object>()};
+  show(28, {noText, u"Artikel", std::int32_t{1}, noText}, [&] {
+    EXPECT_EQ(form().Caption(), u"Wertliste");
+    EXPECT_EQ(text(u"Schluessel"), u"");
+    EXPECT_EQ(listRows().size(), 3u);
     EXPECT_TRUE(enabled(u"btnOK"));
   });
 }

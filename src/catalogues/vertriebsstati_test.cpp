@@ -3,31 +3,14 @@
 // Kind 21 as a clerk works with it, and with it the pattern of all catalogue forms.
 #include "catalogues/vertriebsstati.h"
 
-#include "catalogues/catalogue_test.h"
+#include "catalogues/vertriebsstati_testing.h"
+#include "forms/tdb_list.h"
 
 namespace zqn::testing {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class Vertriebsstati : public CatalogueTest {
- protected:
-  Vertriebsstati() {
-    execute(
-        u"CREATE TABLE Vertriebsstati (Status VARCHAR(10) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, "
-        u"Bezeichnung VARCHAR(30) COLLATE ZQN_TEXT, AutoOverwrite SMALLINT, Gewichtung DOUBLE);"
-        u"INSERT INTO Vertriebsstati VALUES ('-', 'reserviert', 0, 0);"
-        u"INSERT INTO Vertriebsstati VALUES ('10', 'Interesse geweckt', 0, 10);"
-        u"INSERT INTO Vertriebsstati VALUES ('20', 'Angebot abgegeben', -1, 40);"
-        u"INSERT INTO Vertriebsstati VALUES ('90', NULL, NULL, NULL)");
-  }
-
-  std::vector<String> fields() const {
-    return {text(u"Schluessel"), text(u"Kurztext"), text(u"Gewichtung"),
-            CStr(get(u"AutoOverwrite", u"Value"))};
-  }
-};
 
 // ---- opening
 
@@ -63,6 +46,47 @@ TEST_F(Vertriebsstati, AnUnknownKeyShowsClearedFieldsUnderThatKey) {
 
 TEST_F(Vertriebsstati, NullInARowReadsAsEmptyAndZero) {
   show(21, {u"90"}, [&] { EXPECT_THAT(fields(), ElementsAre(u"90", u"", u"0", u"0")); });
+}
+
+TEST_F(Vertriebsstati, TheListIsReadByItsKeysAndCannotBeWrittenThrough) {
+  show(21, {u"20"}, [&] {
+    const ado::Recordset& list = *form().Get<TDBList>(u"TDBList1").DataSource();
+    EXPECT_EQ(list.CursorLocation(), ado::adUseServer);
+    EXPECT_EQ(list.CursorType(), ado::adOpenKeyset);
+    EXPECT_EQ(list.LockType(), ado::adLockReadOnly);
+  });
+}
+
+TEST_F(Vertriebsstati, StoredProgressIsCorrectedAsIfItWereTyped) {
+  execute(
+      u"INSERT INTO Vertriebsstati VALUES ('91', 'zu viel', 0, 150);"
+      u"INSERT INTO Vertriebsstati VALUES ('92', 'gebrochen', 1, -12.5)");
+  show(21, {u"91"}, [&] {
+    EXPECT_EQ(text(u"Gewichtung"), u"100");
+    press(key::Down);
+    EXPECT_EQ(text(u"Gewichtung"), u"12") << "read up to its comma";
+  });
+}
+
+TEST_F(Vertriebsstati, TheKeyIsShownAsItIsStored) {
+  execute(
+      u"INSERT INTO Vertriebsstati VALUES ('Abc', 'klein und groß', 0, 5);"
+      u"INSERT INTO Vertriebsstati VALUES ('x', 'zuletzt', 0, 5)");
+  show(21, {u"x"}, [&] {
+    enter(u"aBC");
+    EXPECT_THAT(fields(), ElementsAre(u"Abc", u"klein und groß", u"5", u"0"));
+  });
+}
+
+TEST_F(Vertriebsstati, NullOpensOnTheEmptyKeyAndComesBack) {
+  EXPECT_EQ(show(21, {Null}, [&] { EXPECT_THAT(fields(), ElementsAre(u"", u"", u"0", u"0")); }),
+            Variant(Null));
+  EXPECT_EQ(param.at(0), Variant(Null));
+}
+
+TEST_F(Vertriebsstati, AKeyThatIsNoTextShowsNoForm) {
+  const std::shared_ptr<Object> noText;
+  EXPECT_EQ(showsNoForm(21, {Variant(noText)}), Variant(noText));
 }
 
 TEST_F(Vertriebsstati, AKeyLongerThanTheFieldIsCut) {
@@ -103,8 +127,11 @@ TEST_F(Vertriebsstati, TypingOnTheListFindsTheRowOfTheKey) {
 
 TEST_F(Vertriebsstati, TheFirstRowLoadsWithOneClickWhenTheDialogOpenedWithoutAKey) {
   show(21, {u""}, [&] {
+    EXPECT_FALSE(enabled(u"btnDelete"));
     select(0);
     EXPECT_EQ(text(u"Schluessel"), u"10");
+    EXPECT_TRUE(enabled(u"btnOK"));
+    EXPECT_TRUE(enabled(u"btnDelete"));
   });
 }
 
@@ -124,6 +151,7 @@ TEST_F(Vertriebsstati, ClosingAfterBrowsingReturnsTheKeyThatCameIn) {
                  [&] {
                    press(key::Down);
                    click(u"btnCancel");
+                   EXPECT_FALSE(form().Visible());
                  }),
             Variant(u"10"));
 }
@@ -139,12 +167,17 @@ TEST_F(Vertriebsstati, BrowsingCostsOneQueryForEachRow) {
 
 // ---- the key field
 
-TEST_F(Vertriebsstati, TypingAKnownKeyLoadsItsRow) {
+TEST_F(Vertriebsstati, TypingAKnownKeyLoadsItsRowAndSavingUpdatesIt) {
   show(21, {u"10"}, [&] {
     enter(u"20");
     EXPECT_THAT(fields(), ElementsAre(u"20", u"Angebot abgegeben", u"40", u"1"));
     EXPECT_EQ(get(u"TDBList1", u"Row"), Variant(std::int32_t{1}));
+    click(u"Kurztext");
+    type(u"verhandelt");
+    click(u"btnOK");
+    EXPECT_THAT(listRows(), ElementsAre(u"10|Interesse geweckt", u"20|verhandelt", u"90|"));
   });
+  EXPECT_THAT(rows(u"SELECT * FROM Vertriebsstati WHERE Status='20'"), ElementsAre(u"20|verhandelt|1|40"));
 }
 
 TEST_F(Vertriebsstati, AKeyAboveTheCurrentRowIsShownThoughTheListStays) {
@@ -183,13 +216,19 @@ TEST_F(Vertriebsstati, AKeyOfBlanksCannotBeSavedOrDeleted) {
   EXPECT_EQ(rows(u"SELECT * FROM Vertriebsstati").size(), 4u);
 }
 
-TEST_F(Vertriebsstati, TheKeyFieldIsSelectedWhenItGetsTheFocus) {
+TEST_F(Vertriebsstati, EachFieldIsSelectedWholeWhenItGetsTheFocus) {
   show(21, {u"20"}, [&] {
-    press(key::Tab);
-    EXPECT_EQ(focus(), u"Schluessel");
-    EXPECT_EQ(get(u"Schluessel", u"SelLength"), Variant(std::int32_t{2}));
-    type(u"1");
-    EXPECT_EQ(text(u"Schluessel"), u"1");
+    for (const StringView field : {u"Schluessel", u"Kurztext", u"Gewichtung"}) {
+      click(field);
+      press(key::End);
+      press(key::Tab);
+      press(key::Tab, shift::Shift);
+      EXPECT_EQ(focus(), String(field));
+      EXPECT_EQ(number(field, u"SelStart"), 0);
+      EXPECT_EQ(number(field, u"SelLength"), static_cast<int>(text(field).size()));
+    }
+    type(u"7");
+    EXPECT_EQ(text(u"Gewichtung"), u"7") << "typing replaces it";
   });
 }
 
@@ -236,6 +275,18 @@ TEST_F(Vertriebsstati, SavingDoesNotTakeTheKey) {
                    click(u"btnOK");
                  }),
             Variant(u"20"));
+}
+
+TEST_F(Vertriebsstati, AFirstRowThatIsNotStoredLeavesNothingToSearch) {
+  execute(u"DELETE FROM Vertriebsstati");
+  fail(ado::Operation::Update, u"Vertriebsstati", error::IntegrityViolation);
+  expectError(u"btnOK_Click", error::NoCurrentRecord);
+  show(21, {u""}, [&] {
+    enter(u"10");
+    operations.clear();
+    click(u"btnOK");
+    EXPECT_EQ(operations.back().first, ado::Operation::Requery);
+  });
 }
 
 TEST_F(Vertriebsstati, WithoutTheRightSavingOnlySaysSo) {
@@ -341,110 +392,6 @@ TEST_F(Vertriebsstati, ARefusedDeleteIsShownAndTheFormStays) {
     EXPECT_TRUE(form().Visible());
     EXPECT_EQ(listRows().size(), 3u);
   });
-}
-
-// ---- keys
-
-TEST_F(Vertriebsstati, FunctionKeysWorkOnlyWithoutShiftKeys) {
-  show(21, {u"10"}, [&] {
-    for (const int held : {shift::Shift, shift::Ctrl, shift::Alt}) {
-      press(key::F6, held);
-      EXPECT_EQ(text(u"Schluessel"), u"10");
-      press(key::F10, held);
-      EXPECT_TRUE(form().Visible());
-    }
-    press(key::F6);
-    EXPECT_EQ(text(u"Schluessel"), u"");
-    EXPECT_EQ(focus(), u"Schluessel");
-    EXPECT_FALSE(enabled(u"btnOK"));
-    press(key::F10);
-  });
-}
-
-TEST_F(Vertriebsstati, F9PicksOnTheListAndSavesElsewhere) {
-  EXPECT_EQ(show(21, {u"10"},
-                 [&] {
-                   press(key::Tab);
-                   press(key::F9);
-                   EXPECT_EQ(focus(), u"TDBList1") << "saved, and back on the list";
-                   press(key::Down);
-                   press(key::F9);
-                 }),
-            Variant(u"20"));
-}
-
-TEST_F(Vertriebsstati, EscapeClosesAndReturnsTheKeyThatCameIn) {
-  EXPECT_EQ(show(21, {u"10"},
-                 [&] {
-                   click(u"Kurztext");
-                   type(u"verworfen");
-                   press(key::Escape);
-                 }),
-            Variant(u"10"));
-  EXPECT_THAT(rows(u"SELECT Bezeichnung FROM Vertriebsstati WHERE Status='10'"),
-              ElementsAre(u"Interesse geweckt"));
-}
-
-TEST_F(Vertriebsstati, EnterWalksThroughTheFieldsInTheTabOrder) {
-  show(21, {u"10"}, [&] {
-    for (const StringView next : {u"Schluessel", u"Kurztext", u"Gewichtung", u"AutoOverwrite", u"btnOK"}) {
-      press(key::Enter);
-      EXPECT_EQ(focus(), String(next));
-    }
-  });
-}
-
-TEST_F(Vertriebsstati, TabRunsThroughAllControlsAndBack) {
-  show(21, {u"10"}, [&] {
-    const std::vector<StringView> order = {u"Schluessel",    u"Kurztext",  u"Gewichtung",
-                                           u"AutoOverwrite", u"btnOK",     u"btnCancel",
-                                           u"btnNew",        u"btnDelete", u"TDBList1"};
-    for (const StringView next : order) {
-      press(key::Tab);
-      EXPECT_EQ(focus(), String(next));
-    }
-    press(key::Tab, shift::Shift);
-    EXPECT_EQ(focus(), u"btnDelete");
-  });
-}
-
-// ---- two clerks
-
-TEST_F(Vertriebsstati, TheRowIsReadAfreshBeforeItIsWritten) {
-  show(21, {u"10"}, [&] {
-    somebodyElse(u"UPDATE Vertriebsstati SET Bezeichnung='fremd', Gewichtung=77 WHERE Status='10'");
-    click(u"Kurztext");
-    type(u"meins");
-    click(u"btnOK");
-  });
-  EXPECT_THAT(rows(u"SELECT Bezeichnung, Gewichtung FROM Vertriebsstati WHERE Status='10'"),
-              ElementsAre(u"meins|10"));
-}
-
-TEST_F(Vertriebsstati, ARowThatSomebodyDeletedShowsClearedFields) {
-  show(21, {u"10"}, [&] {
-    somebodyElse(u"DELETE FROM Vertriebsstati WHERE Status='20'");
-    press(key::Down);
-    EXPECT_EQ(text(u"Schluessel"), u"10") << "the texts of a row that is gone are empty: nothing to load";
-    EXPECT_EQ(listRows()[1], u"|");
-  });
-}
-
-TEST_F(Vertriebsstati, ReadingARowThatFailsInTheListIsShown) {
-  expectError(u"TDBList1_RowColChange", error::ProviderFailure);
-  show(21, {u"10"}, [&] {
-    fail(ado::Operation::Open, u"WHERE Status ='20'", error::ProviderFailure);
-    press(key::Down);
-    EXPECT_EQ(text(u"Schluessel"), u"20");
-    EXPECT_EQ(text(u"Kurztext"), u"Interesse geweckt");
-  });
-}
-
-// ---- life
-
-TEST_F(Vertriebsstati, OpenedAndClosedTwoHundredTimesLeavesNothingOpen) {
-  for (int i = 0; i < 200; ++i) show(21, {u"10"});
-  EXPECT_EQ(connection->openRecordsets(), 0u);
 }
 
 }  // namespace

@@ -25,6 +25,8 @@ TEST_F(VTStatusGrund, OpensEmptyWithTheFocusInTheReason) {
     EXPECT_EQ(form().Caption(), u"Vertriebsstatus ändern");
     EXPECT_EQ(text(u"txtGrund"), u"") << "what is handed in is not shown";
     EXPECT_EQ(focus(), u"txtGrund");
+    EXPECT_EQ(get(u"txtGrund", u"MultiLine"), Variant(true));
+    EXPECT_EQ(get(u"txtGrund", u"MaxLength"), Variant(std::int32_t{0}));
     EXPECT_EQ(get(u"lblInfo", u"Caption"),
               Variant(u"Es wurde der Vertriebsstatus und damit auch der Pipelinestatus geändert. Geben Sie, "
                       u"bitte den Grund zum Wechsel ein und bestätigen Sie mit OK. Wenn Sie den "
@@ -46,6 +48,7 @@ TEST_F(VTStatusGrund, FourCharactersAreRefusedFiveBlanksAccepted) {
               for (int i = 0; i < 4; ++i) press(key::Backspace);
               type(u"     ");
               click(u"OKButton");
+              EXPECT_FALSE(form().Visible());
             }),
             Variant(u"     "));
   EXPECT_EQ(param.at(0), Variant(u"     "));
@@ -60,6 +63,7 @@ TEST_F(VTStatusGrund, LineBreaksCountAndComeBackUnchanged) {
               press(key::Enter);
               EXPECT_EQ(focus(), u"txtGrund") << "Enter is a new line, not the next field";
               press(key::F9);
+              EXPECT_FALSE(form().Visible());
             }),
             Variant(u"a\r\nb\r\n"));
 }
@@ -68,10 +72,15 @@ TEST_F(VTStatusGrund, CancellingReturnsAnEmptyTextWhateverWasTyped) {
   EXPECT_EQ(ask([&] {
               type(u"Ein guter Grund");
               click(u"CancelButton");
+              EXPECT_FALSE(form().Visible());
             }),
             Variant(u""));
   EXPECT_EQ(param.at(0), Variant(u""));
-  EXPECT_EQ(ask([&] { press(key::F10); }), Variant(u""));
+  EXPECT_EQ(ask([&] {
+              press(key::F10);
+              EXPECT_FALSE(form().Visible());
+            }),
+            Variant(u""));
 }
 
 TEST_F(VTStatusGrund, TheCloseBoxOnlyTriesToConfirm) {
@@ -86,6 +95,7 @@ TEST_F(VTStatusGrund, TheCloseBoxOnlyTriesToConfirm) {
               EXPECT_TRUE(form().Visible());
               EXPECT_EQ(text(u"txtGrund"), u"Grund");
               form().closeBox();
+              EXPECT_FALSE(form().Visible());
             }),
             Variant(u"Grund"));
 }
@@ -112,6 +122,7 @@ TEST_F(VTStatusGrund, EscapeAndKeysWithShiftDoNothing) {
               }
               EXPECT_TRUE(form().Visible());
               press(key::F10);
+              EXPECT_FALSE(form().Visible());
             }),
             Variant(u""));
 }
@@ -138,8 +149,19 @@ TEST_F(VTStatusGrund, MultiselectChangesNothing) {
   EXPECT_EQ(ask([&] {
               type(u"Grund");
               press(key::F9);
+              EXPECT_FALSE(form().Visible());
             }),
             Variant(u"Grund"));
+}
+
+TEST_F(VTStatusGrund, TabRunsThroughTheButtonsAndTheReason) {
+  ask([&] {
+    for (const StringView next : {u"OKButton", u"CancelButton", u"txtGrund"}) {
+      press(key::Tab);
+      EXPECT_EQ(focus(), String(next));
+    }
+    click(u"CancelButton");
+  });
 }
 
 TEST_F(VTStatusGrund, EachCallBeginsAnew) {

@@ -121,6 +121,8 @@ std::optional<Variant> zqCombo::read(StringView typed) const {
   return std::nullopt;
 }
 
+String zqCombo::pastedAs(StringView text) const { return withBreaks(text, u" "); }
+
 StringView zqCombo::completionOf(StringView front) const {
   needEntries();
   for (const String Entry::*part : {&Entry::line, &Entry::text}) {

@@ -70,7 +70,8 @@ class zqCombo : public ValueEntry, public DropDown {
   /// Opens the list of a field without an editor; otherwise a click sets the caret.
   void clicked() override;
   void focusLeft() override;
-  String pastedAs(StringView text) const override { return TextEntry::pastedAs(text); }
+  /// Blanks around it stay: a key, or a text, may have them.
+  String pastedAs(StringView text) const override;
 
  protected:
   bool mayOpen() override;

@@ -75,14 +75,8 @@ String folded(StringView name) {
 class TablesOnServer {
  public:
   explicit TablesOnServer(const ServerCatalogue& catalogue) {
-    // PostgreSQL does not find a name with capitals unless it stands in quotes, which the dialogs do not
-    // write.
-    const bool exact = catalogue.dialect == Dialect::PostgreSql;
-    for (const ServerColumn& column : catalogue.columns) {
-      tables_[exact ? column.table : folded(column.table)][exact ? column.name : folded(column.name)] =
-          &column;
-      if (exact && column.table != folded(column.table)) outOfReach_[folded(column.table)] = column.table;
-    }
+    for (const ServerColumn& column : catalogue.columns)
+      tables_[folded(column.table)][folded(column.name)] = &column;
   }
 
   /// Columns by their folded names; nullptr when a dialog does not find the table.
@@ -90,15 +84,9 @@ class TablesOnServer {
     const auto found = tables_.find(folded(name));
     return found == tables_.end() ? nullptr : &found->second;
   }
-  /// What the server calls a table whose name differs in case alone; empty when there is none.
-  String otherSpelling(StringView name) const {
-    const auto found = outOfReach_.find(folded(name));
-    return found == outOfReach_.end() ? String() : found->second;
-  }
 
  private:
   std::map<String, std::map<String, const ServerColumn*>> tables_;
-  std::map<String, String> outOfReach_;
 };
 
 bool holdsTexts(const String& type) {
@@ -140,13 +128,6 @@ std::string rightCollation(Dialect dialect) {
 }
 
 void addName(std::string& list, StringView name) { list += (list.empty() ? "" : ", ") + toUtf8(name); }
-
-std::string missingTable(const Table& table, const String& otherSpelling) {
-  std::string text = "table " + toUtf8(table.name) + " is missing";
-  if (!otherSpelling.empty())
-    text += ": the server tells it apart from '" + toUtf8(otherSpelling) + "', which it has";
-  return text + "; 'zqn-dialog init' makes it in a database without tables of the system";
-}
 
 void addColumnFindings(const Table& table, const std::map<String, const ServerColumn*>& found,
                        Dialect dialect, std::vector<std::string>& findings) {
@@ -218,7 +199,9 @@ std::vector<std::string> findings(const ServerCatalogue& catalogue) {
     if (const auto* columns = present.find(table.name)) {
       addColumnFindings(table, *columns, catalogue.dialect, findings);
     } else {
-      findings.push_back(missingTable(table, present.otherSpelling(table.name)));
+      findings.push_back(
+          "table " + toUtf8(table.name) +
+          " is missing; 'zqn-dialog init' makes it in a database without tables of the system");
     }
   }
   return findings;

@@ -126,7 +126,7 @@ void frmAufteilungSNCH::ShowData() {
     step([&] { setRows(2); });
     lStartCol = -1;
     step([&] { InitForm(); });
-    step([&] { InitRow(bottomRow(), true); });
+    step([&] { InitRow(bottomRow()); });
     step([&] { MSHFlexGrid1.Col(lStartCol >= 1 ? lStartCol : aCols.FirstEditCol()); });
     step([&] { MSHFlexGrid1.Row(bottomRow()); });
     lEditRow = MSHFlexGrid1.Row();
@@ -159,7 +159,7 @@ void frmAufteilungSNCH::InitForm() {
   step([&] { setRows(table.count + 2); });
   for (int i = 0; i < table.count; ++i) {
     step([&] { MSHFlexGrid1.Row(i + 1); });
-    step([&] { InitRow(i + 1, true); });
+    step([&] { InitRow(i + 1); });
     const SplitCells cells = cellsOf(table.rows[static_cast<std::size_t>(i)], kind_);
     for (std::size_t j = 0; j < cells.size(); ++j) {
       const int col = static_cast<int>(j) + 1;
@@ -194,16 +194,14 @@ void frmAufteilungSNCH::layOut() {
 
 // ---- rows
 
-void frmAufteilungSNCH::InitRow(int row, bool fill) {
+void frmAufteilungSNCH::InitRow(int row) {
   const int Col = MSHFlexGrid1.Col();
   const int Row = MSHFlexGrid1.Row();
   const Held held(bLockCell);
   ResumeNext step;
   step([&] { MSHFlexGrid1.Row(row); });
-  if (fill) {
-    step([&] { MSHFlexGrid1.Col(markColumn); });
-    step([&] { UpdateMarks(); });
-  }
+  step([&] { MSHFlexGrid1.Col(markColumn); });
+  step([&] { UpdateMarks(); });
   for (int col = SplitColumns::First; col <= SplitColumns::Last; ++col) {
     step([&] { RecalcTotals(); });
     step([&] { MSHFlexGrid1.Col(col); });
@@ -211,7 +209,7 @@ void frmAufteilungSNCH::InitRow(int row, bool fill) {
       MSHFlexGrid1.CellBackColor(aCols(col).Editable ? colour::WindowBackground : colour::ButtonFace);
     });
     step([&] { MSHFlexGrid1.CellAlignment(aCols(col).Alignment); });
-    if (fill) step([&] { setCell(row, col, aCols(col).Default); });
+    step([&] { setCell(row, col, aCols(col).Default); });
   }
   step([&] { MSHFlexGrid1.Col(Col); });
   step([&] { MSHFlexGrid1.Row(Row); });

@@ -55,7 +55,8 @@ class frmAufteilungSNCH final : public Form {
 
   void InitForm();
   void layOut();
-  void InitRow(int row, bool fill);
+  /// Colours, alignment and default texts of a row.
+  void InitRow(int row);
   void SaveRow();
   void RestoreRow();
   void UpdateMarks();

@@ -96,11 +96,62 @@ TEST_F(SplitCheck, OutOfRowModeTheEditorComesBack) {
     EXPECT_EQ(at(), "1,3");
     EXPECT_TRUE(editor().Visible());
     EXPECT_EQ(focus(), u"txtEdit");
+    type(u"L-9");
+    press(key::F9);
+    EXPECT_FALSE(form().Visible());
+  });
+  EXPECT_EQ(param.elements()[0], Variant(u"1|\"Stk\"|\"L-9\"|\"\"|\"\"")) << "it writes into that cell";
+}
+
+TEST_F(SplitCheck, OutOfRowModeTheEditorComesBackAlsoToAnEmptyCell) {
+  split(3, u"1|\"Stk\"|\"\"", 1.0, [&] {
+    clickCell(1, 0);
+    EXPECT_FALSE(editor().Visible());
+    EXPECT_EQ(editor().Text(), u"");
+    expectMissing(u"keine Chargennummer");
+    press(key::F9);
+    EXPECT_TRUE(editor().Visible());
+    EXPECT_EQ(focus(), u"txtEdit");
   });
 }
 
 TEST_F(SplitCheck, TheBottomRowIsNeverLookedAt) {
-  EXPECT_EQ(split(1, u"", std::int32_t{0}, [&] { press(key::F9); }), Variant(u""));
+  EXPECT_EQ(split(1, u"", std::int32_t{0},
+                  [&] {
+                    press(key::F9);
+                    EXPECT_FALSE(form().Visible());
+                  }),
+            Variant(u""));
+}
+
+TEST_F(SplitCheck, StopsAtTheFirstRowThatFails) {
+  split(1, u"1|\"Stk\"|\"L-1\"\r\n1|\"Stk\"|\"\"\r\n0|\"Stk\"|\"\"", 2.0, [&] {
+    expectMissing(u"keine Chargennummer");
+    press(key::F9);
+    EXPECT_EQ(at(), "2,3");
+  });
+}
+
+TEST_F(SplitCheck, SerialNumbersNeedNoQuantityNorBatchNorDate) {
+  split(
+      2, u"0|\"Stk\"|||\"S0\"", std::int32_t{0},
+      [&] {
+        press(key::F9);
+        EXPECT_FALSE(form().Visible());
+      },
+      true);
+  EXPECT_EQ(param.elements()[0], Variant(u""));
+}
+
+TEST_F(SplitCheck, BothKindsNeedTheDateBeforeTheSerialNumber) {
+  split(
+      3, u"1|\"Stk\"|\"L-1\"", 1.0,
+      [&] {
+        expectMissing(u"kein Verfalldatum");
+        press(key::F9);
+        EXPECT_EQ(at(), "1,4");
+      },
+      true);
 }
 
 // ---- the difference
@@ -108,14 +159,27 @@ TEST_F(SplitCheck, TheBottomRowIsNeverLookedAt) {
 TEST_F(SplitCheck, ADifferenceIsAskedForAndEitherAnswerCounts) {
   const Variant result = split(1, u"2|\"Stk\"|\"L-1\"", 5.0, [&] {
     expectDifference(MsgBoxResult::No);
-    press(key::F9);
+    click(u"btnOK");
     EXPECT_TRUE(form().Visible());
+    EXPECT_EQ(focus(), u"txtEdit");
     expectDifference(MsgBoxResult::Yes);
     press(key::F9);
     EXPECT_FALSE(form().Visible());
   });
   EXPECT_EQ(result, Variant(u"2|\"Stk\"|\"L-1\"|\"\"|\"\""));
   EXPECT_EQ(param.elements()[1], Variant(2.0)) << "what was really divided";
+}
+
+TEST_F(SplitCheck, AfterNoTheCallersValuesAreStillThere) {
+  const Variant result = split(1, twoBatches, 9.0, [&] {
+    clickCell(1, 0);
+    expectDifference(MsgBoxResult::No);
+    click(u"btnOK");
+    EXPECT_EQ(focus(), u"MSHFlexGrid1") << "rows are still taken";
+    click(u"btnCancel");
+  });
+  EXPECT_EQ(result, Variant(twoBatches));
+  EXPECT_EQ(param.elements()[1], Variant(9.0));
 }
 
 TEST_F(SplitCheck, NoRowsAtAllAreADifference) {
@@ -203,6 +267,7 @@ TEST_F(SplitResult, OfAbbrechenIsWhatCameIn) {
     clickCell(1, 1);
     typeAnd(u"7", key::Enter);
     click(u"btnCancel");
+    EXPECT_FALSE(form().Visible());
   });
   EXPECT_EQ(result, Variant(twoBatches));
   EXPECT_EQ(param.elements()[1], Variant(u"9"));

@@ -155,7 +155,7 @@ void frmAufteilungSNCH::goOn() {
   if (furtherRow) addRow();
   MSHFlexGrid1.Col(aCols.FirstEditCol());
   MSHFlexGrid1.Row(MSHFlexGrid1.Row() + 1);
-  if (furtherRow) InitRow(MSHFlexGrid1.Row(), true);
+  if (furtherRow) InitRow(MSHFlexGrid1.Row());
   noteCell();
 }
 
@@ -178,7 +178,7 @@ void frmAufteilungSNCH::downPressed(int& KeyCode) {
   if (furtherRow && !IsRowComplete()) return placeAndSwallow(KeyCode);
   if (furtherRow) addRow();
   MSHFlexGrid1.Row(MSHFlexGrid1.Row() + 1);
-  if (furtherRow) InitRow(MSHFlexGrid1.Row(), true);
+  if (furtherRow) InitRow(MSHFlexGrid1.Row());
   noteCell();
   placeAndSwallow(KeyCode);
 }
@@ -204,7 +204,7 @@ void frmAufteilungSNCH::typed() {
   if (MSHFlexGrid1.Row() == bottomRow()) {
     bNewRow = true;
     addRow();
-    InitRow(MSHFlexGrid1.Row() + 1, true);
+    InitRow(MSHFlexGrid1.Row() + 1);
   }
   MarkEdited();
 }

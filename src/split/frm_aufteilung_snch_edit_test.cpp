@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Keys, mouse and row mode of the quantity split.
+// The cell editor of the quantity split: where it lies, what its keys do, what is pasted.
 #include "split/split_testing.h"
 
 namespace zqn::testing {
@@ -12,10 +12,7 @@ using ::testing::SizeIs;
 using SplitEditor = SplitTest;
 using SplitKeys = SplitTest;
 using SplitUndo = SplitTest;
-using SplitMouse = SplitTest;
-using SplitRowMode = SplitTest;
 using SplitPaste = SplitTest;
-using SplitScroll = SplitTest;
 
 // ---- the editor
 
@@ -50,6 +47,17 @@ TEST_F(SplitEditor, RepairsDatesAndReadsNumbers) {
   });
 }
 
+TEST_F(SplitEditor, ComesBackOverItsCellWhenItsTextChangesWhileItIsHidden) {
+  split(3, twoBatches, 5.0, [&] {
+    clickCell(1, 3);
+    clickCell(2, 0);
+    EXPECT_FALSE(editor().Visible());
+    editor().Text(u"neu");
+    EXPECT_TRUE(editor().Visible());
+    EXPECT_EQ(editor().Top(), grid().Top() + grid().CellTop() + 15);
+  });
+}
+
 TEST_F(SplitEditor, TakesNoAmpersandAndNoOpenParenthesis) {
   split(1, u"", 5.0, [&] {
     type(u"A&(B)");
@@ -76,6 +84,9 @@ TEST_F(SplitKeys, TypingInTheBottomRowAddsOneAndMarksIt) {
     EXPECT_EQ(grid().Rows(), 3);
     EXPECT_EQ(marks(), "picEdit picNew");
     EXPECT_EQ(grid().cell(1, 0).pictureAlignment, cell_alignment::CenterCenter);
+    EXPECT_EQ(grid().cell(2, 2).backColor, colour::ButtonFace) << "the unit of the new row";
+    EXPECT_EQ(grid().cell(2, 1).alignment, cell_alignment::RightCenter);
+    EXPECT_EQ(grid().cell(2, 3).alignment, cell_alignment::LeftCenter);
     type(u"B");
     EXPECT_EQ(grid().Rows(), 3);
     press(key::Down);
@@ -191,6 +202,61 @@ TEST_F(SplitKeys, DownOnACompleteBottomRowAddsOne) {
   });
 }
 
+TEST_F(SplitKeys, ThatMoveAreSwallowedAndTheTextIsSelectedAnew) {
+  struct Press {
+    int row, col, code, shift;
+  };
+  const std::vector<Press> moves = {
+      {1, 1, key::Enter, 0},           // to the next column
+      {1, 4, key::Enter, 0},           // to the next row
+      {3, 4, key::Enter, 0},           // held on the bottom row
+      {1, 1, key::Tab, 0},             //
+      {1, 4, key::Tab, 0},             //
+      {3, 4, key::Tab, 0},             //
+      {2, 3, key::Tab, shift::Shift},  //
+      {2, 1, key::Tab, shift::Shift},  //
+      {1, 1, key::Tab, shift::Shift},  // nothing stands in front
+      {1, 3, key::Down, 0},            //
+      {3, 3, key::Down, 0},            // held on the bottom row
+      {2, 3, key::Up, 0},              //
+      {1, 3, key::Up, 0},              // nothing stands above
+  };
+  split(1, twoBatches, 5.0, [&] {
+    for (const Press& move : moves) {
+      clickCell(move.row, move.col);
+      press(key::End);
+      int code = move.code;
+      editor().KeyDown.raise(code, move.shift);
+      SCOPED_TRACE("key " + std::to_string(move.code) + " in " + std::to_string(move.row) + "," +
+                   std::to_string(move.col));
+      EXPECT_EQ(code, 0);
+      EXPECT_EQ(editor().SelStart(), 0);
+      EXPECT_EQ(editor().SelLength(), static_cast<int>(editor().Text().size()));
+    }
+    for (const int code : {int{key::F2}, int{key::Left}, int{key::Delete}, 93}) {
+      int passed = code;
+      editor().KeyDown.raise(passed, 0);
+      EXPECT_EQ(passed, code) << "goes on into the box";
+    }
+    int tab = key::Tab;
+    editor().KeyDown.raise(tab, shift::Ctrl);
+    EXPECT_EQ(tab, key::Tab);
+  });
+}
+
+TEST_F(SplitKeys, ThatMoveAreNoCharactersEither) {
+  split(1, twoBatches, 5.0, [&] {
+    for (const int code : {13, 9, 38, 40, 27}) {
+      int swallowed = code;
+      editor().KeyPress.raise(swallowed);
+      EXPECT_EQ(swallowed, 0) << code;
+    }
+    int letter = u'a';
+    editor().KeyPress.raise(letter);
+    EXPECT_EQ(letter, u'a');
+  });
+}
+
 TEST_F(SplitKeys, FunctionKeysAndShortcutsAreNoTyping) {
   split(1, u"", 5.0, [&] {
     press(key::F2);
@@ -207,13 +273,21 @@ TEST_F(SplitKeys, EscClosesTheFormUnchanged) {
   const Variant result = split(1, twoBatches, 9.0, [&] {
     type(u"A");
     press(key::Escape);
+    EXPECT_FALSE(form().Visible());
   });
   EXPECT_EQ(result, Variant(twoBatches));
   EXPECT_EQ(param.elements()[1], Variant(9.0));
 }
 
 TEST_F(SplitKeys, F10ClosesAndF9TakesOverOnRelease) {
-  EXPECT_EQ(split(2, twoSerials, 2.0, [&] { press(key::F10); }), Variant(twoSerials));
+  EXPECT_EQ(split(2, twoSerials, 2.0,
+                  [&] {
+                    form().keyPressed(KeyStroke::ofCode(key::F10));
+                    EXPECT_TRUE(form().Visible());
+                    form().keyReleased(key::F10, shift::Shift);
+                    EXPECT_FALSE(form().Visible()) << "whatever the shift keys";
+                  }),
+            Variant(twoSerials));
   split(2, twoSerials, 2.0, [&] {
     form().keyPressed(KeyStroke::ofCode(key::F9));
     EXPECT_TRUE(form().Visible());
@@ -265,148 +339,6 @@ TEST_F(SplitUndo, EndsWithTheRow) {
   });
 }
 
-// ---- mouse
-
-TEST_F(SplitMouse, CommitsTheOpenCellAndMovesTheEditor) {
-  split(1, twoBatches, 5.0, [&] {
-    clickCell(1, 3);
-    type(u"neu");
-    clickCell(2, 4);
-    EXPECT_EQ(grid().TextMatrix(1, 3), u"neu");
-    EXPECT_EQ(at(), "2,4");
-    EXPECT_EQ(focus(), u"txtEdit");
-    EXPECT_EQ(marks(), "- picCurrent picNew");
-  });
-}
-
-TEST_F(SplitMouse, OnAReadOnlyCellLeavesTheEditorWhereItWas) {
-  split(2, twoSerials, 2.0, [&] {
-    clickCell(1, 5);
-    type(u"S9");
-    clickCell(2, 1);
-    EXPECT_EQ(at(), "1,5");
-    EXPECT_TRUE(editor().Visible());
-    EXPECT_EQ(editor().Text(), u"S9");
-    EXPECT_EQ(focus(), u"txtEdit");
-    clickCell(2, 2);
-    EXPECT_EQ(at(), "1,5");
-  });
-}
-
-TEST_F(SplitMouse, OnTheHeadingGoesToTheFirstRow) {
-  split(1, twoBatches, 5.0, [&] {
-    clickCell(0, 4);
-    EXPECT_EQ(at(), "1,4");
-    EXPECT_EQ(grid().RowSel(), 1);
-    clickCell(0, 0);
-    EXPECT_TRUE(isRowMode());
-    EXPECT_EQ(grid().Row(), 1);
-  });
-}
-
-TEST_F(SplitMouse, BesideTheCellsChangesNothing) {
-  split(1, twoBatches, 5.0, [&] {
-    clickCell(1, 3);
-    type(u"neu");
-    clickCell(-1, 3);
-    EXPECT_EQ(at(), "1,3");
-    EXPECT_EQ(editor().Text(), u"neu");
-    EXPECT_EQ(focus(), u"txtEdit");
-  });
-}
-
-// ---- row mode
-
-TEST_F(SplitRowMode, BeginsWithAPressInTheFirstColumn) {
-  for (const int kind : {1, 3}) {
-    split(kind, twoBatches, 5.0, [&] {
-      clickCell(2, 3);
-      type(u"neu");
-      clickCell(1, 0);
-      EXPECT_TRUE(isRowMode());
-      EXPECT_FALSE(editor().Visible());
-      EXPECT_EQ(focus(), u"MSHFlexGrid1");
-      EXPECT_EQ(grid().TextMatrix(2, 3), u"neu") << "the open cell is committed first, kind " << kind;
-      EXPECT_EQ(at(), "1,1");
-      EXPECT_EQ(grid().ColSel(), 5);
-      EXPECT_EQ(marks().substr(0, 11), "picCurrenti");
-    });
-  }
-}
-
-TEST_F(SplitRowMode, DragsOverRows) {
-  split(1, twoBatches, 5.0, [&] {
-    takeRows(1, 2);
-    EXPECT_EQ(grid().Row(), 1);
-    EXPECT_EQ(grid().RowSel(), 2);
-    EXPECT_EQ(marks(), "picCurrenti - picNew");
-    takeRows(1, 3);
-    EXPECT_EQ(marks(), "picCurrenti - picNewi");
-  });
-}
-
-TEST_F(SplitRowMode, EndsWithAPressInAnotherColumn) {
-  split(1, twoBatches, 5.0, [&] {
-    clickCell(1, 0);
-    clickCell(2, 3);
-    EXPECT_FALSE(isRowMode());
-    EXPECT_EQ(at(), "2,3");
-    EXPECT_TRUE(editor().Visible());
-    EXPECT_EQ(editor().Text(), u"L-2");
-    EXPECT_EQ(focus(), u"txtEdit");
-  });
-}
-
-TEST_F(SplitRowMode, AReadOnlyCellLeadsToTheOneOfItsRowThatCanBeEdited) {
-  split(2, twoSerials, 2.0, [&] {
-    clickCell(1, 0);
-    clickCell(2, 1);
-    EXPECT_FALSE(isRowMode());
-    EXPECT_EQ(at(), "2,5");
-    EXPECT_EQ(focus(), u"txtEdit");
-  });
-}
-
-TEST_F(SplitRowMode, DeleteAsksAndTakesTheRowsAway) {
-  split(1, twoBatches, 10.0, [&] {
-    clickCell(1, 0);
-    expectDeleteQuestion(u"1 Datensatz", MsgBoxResult::No);
-    press(key::Delete);
-    EXPECT_EQ(grid().Rows(), 4);
-    expectDeleteQuestion(u"1 Datensatz", MsgBoxResult::Yes);
-    press(key::Delete);
-    EXPECT_THAT(gridRows(), ElementsAre(u"3,000|Stk|L-2||", u"7,000|Stk|||"));
-    EXPECT_EQ(total(), u"3,000");
-    EXPECT_EQ(marks(), "picCurrent picNew");
-    EXPECT_EQ(focus(), u"MSHFlexGrid1");
-  });
-}
-
-TEST_F(SplitRowMode, DeleteSparesTheBottomRow) {
-  split(1, twoBatches, 10.0, [&] {
-    clickCell(3, 0);
-    press(key::Delete);
-    EXPECT_EQ(grid().Rows(), 4) << "nothing is asked for the bottom row alone";
-    takeRows(1, 3);
-    expectDeleteQuestion(u"2 Datensätze", MsgBoxResult::Yes);
-    press(key::Delete);
-    EXPECT_THAT(gridRows(), ElementsAre(u"10,000|Stk|||"));
-    press(key::Delete);
-    clickCell(1, 3);
-    type(u"weiter");
-    EXPECT_THAT(gridRows(), SizeIs(2));
-  });
-}
-
-TEST_F(SplitRowMode, DeleteInTheEditorIsAnOrdinaryKey) {
-  split(1, twoBatches, 10.0, [&] {
-    clickCell(1, 3);
-    press(key::Delete);
-    EXPECT_EQ(editor().Text(), u"");
-    EXPECT_EQ(grid().Rows(), 4);
-  });
-}
-
 // ---- paste
 
 TEST_F(SplitPaste, LinesFillCellAfterCellAsIfTyped) {
@@ -427,6 +359,11 @@ TEST_F(SplitPaste, ASingleTextGoesInAndCountsAsTyped) {
     editor().userPasted(u"!");
     EXPECT_EQ(editor().Text(), u"S1 und S2!") << "by the menu, too";
   });
+  split(2, u"", 2.0, [&] {
+    editor().userPasted(u"S1");
+    EXPECT_EQ(grid().Rows(), 3);
+    EXPECT_EQ(marks(), "picEdit picNew");
+  });
 }
 
 TEST_F(SplitPaste, AScannersSuffixLeadsToTheNextCell) {
@@ -440,46 +377,6 @@ TEST_F(SplitPaste, AScannersSuffixLeadsToTheNextCell) {
     paste(u"S1\nS2\tS3");
     EXPECT_EQ(grid().TextMatrix(2, 5), u"S2");
     EXPECT_EQ(editor().Text(), u"S3");
-  });
-}
-
-// ---- scrolling
-
-TEST_F(SplitScroll, TheEditorFollowsItsRowAndHidesOutOfSight) {
-  String text;
-  for (int i = 0; i < 100; ++i) text += u"1|\"Stk\"|\"L\"\r\n";
-  split(1, text, 200.0, [&] {
-    EXPECT_TRUE(grid().RowIsVisible(101)) << "the bottom row, where the cursor stands, is in sight";
-    const int top = editor().Top();
-    grid().userScrolled(grid().TopRow() - 2, 1);
-    EXPECT_FALSE(editor().Visible()) << "below the lower edge";
-    grid().userScrolled(grid().TopRow() + 2, 1);
-    EXPECT_TRUE(editor().Visible());
-    EXPECT_EQ(editor().Top(), top);
-    EXPECT_EQ(focus(), u"txtEdit") << "whoever scrolls back can type on";
-    clickCell(95, 3);
-    grid().userScrolled(grid().TopRow() - 3, 1);
-    EXPECT_EQ(editor().Top(), grid().Top() + grid().CellTop() + 15);
-    grid().userScrolled(1, 1);
-    EXPECT_FALSE(editor().Visible());
-    clickCell(2, 3);
-    EXPECT_TRUE(editor().Visible());
-    clickCell(2, 0);
-    grid().userScrolled(10, 1);
-    EXPECT_FALSE(editor().Visible()) << "in row mode there is none";
-  });
-}
-
-TEST_F(SplitScroll, KeysBeyondTheEdgeScrollAlong) {
-  String text;
-  for (int i = 0; i < 100; ++i) text += u"1|\"Stk\"|\"L\"\r\n";
-  split(1, text, 200.0, [&] {
-    clickCell(1, 3);
-    for (int i = 0; i < 30; ++i) press(key::Down);
-    EXPECT_EQ(at(), "31,3");
-    EXPECT_TRUE(grid().RowIsVisible(31));
-    EXPECT_TRUE(editor().Visible());
-    EXPECT_EQ(editor().Top(), grid().Top() + grid().CellTop() + 15);
   });
 }
 

@@ -30,7 +30,13 @@ TEST_F(SplitOpens, ShowsTheRowsOfTheTextAndOneMore) {
     EXPECT_EQ(at(), "3,3");
     EXPECT_EQ(marks(), "- - picCurrent");
     EXPECT_EQ(total(), u"5,000");
-    EXPECT_EQ(grid().TextMatrix(0, 4), u"Verfalldatum");
+    for (const auto& [col, heading] : std::vector<std::pair<int, String>>{
+             {0, u""}, {1, u"Menge"}, {2, u"ME"}, {3, u"Chargen-Nr."}, {4, u"Verfalldatum"}, {5, u"S/N"}})
+      EXPECT_EQ(grid().TextMatrix(0, col), heading);
+    EXPECT_EQ(grid().ColWidth(0), 250);
+    EXPECT_EQ(grid().cell(1, 1).alignment, cell_alignment::RightCenter);
+    for (const int col : {2, 3, 4, 5}) EXPECT_EQ(grid().cell(1, col).alignment, cell_alignment::LeftCenter);
+    EXPECT_EQ(grid().cell(3, 0).pictureAlignment, cell_alignment::CenterCenter);
     EXPECT_EQ(grid().cell(0, 1).alignment, 7);
     EXPECT_EQ(grid().cell(0, 2).alignment, cell_alignment::General);
   });
@@ -63,8 +69,41 @@ TEST_F(SplitOpens, AnUnknownKindHasNoCaptionAndEditsNothing) {
       EXPECT_THAT(gridRows(), SizeIs(3));
       EXPECT_EQ(at(), "3,1");
       EXPECT_EQ(grid().ColWidth(3), FlexGrid::defaultColWidth);
+      EXPECT_EQ(editor().Text(), u"1,000") << "the text of the cell at the cursor";
+      type(u"9");
+      press(key::Up);
+      EXPECT_EQ(grid().TextMatrix(3, 1), u"1,000") << "nothing of it goes into the cell";
     });
   }
+}
+
+TEST_F(SplitOpens, OnlyTheEditorIsReachedByTab) {
+  split(1, twoBatches, 5.0, [&] {
+    EXPECT_EQ(get(u"txtEdit", u"TabStop"), Variant(true));
+    for (const StringView control : {u"MSHFlexGrid1", u"btnOK", u"btnCancel"})
+      EXPECT_EQ(get(control, u"TabStop"), Variant(false));
+    for (const StringView mark :
+         {u"picCurrent", u"picEdit", u"picNew", u"picCurrenti", u"picEditi", u"picNewi"})
+      EXPECT_EQ(get(mark, u"Visible"), Variant(false));
+  });
+}
+
+TEST_F(SplitOpens, WithTheTotalInBoldBesideItsTarget) {
+  split(1, twoBatches, 5.0, [&] {
+    EXPECT_EQ(form().control(u"lblGmenge").design().other.Alignment, Alignment::Right);
+    for (const StringView label : {u"lblGmenge", u"lblAufteilungstext"})
+      EXPECT_TRUE(form().control(label).design().other.Bold);
+  });
+}
+
+TEST_F(SplitOpens, WhatIsNoTextReadsAsNothing) {
+  const Variant noText{std::shared_ptr<Object>()};
+  show(34, {noText, noText, noText, std::int32_t{1}, false}, [&] {
+    EXPECT_EQ(form().Caption(), u"Chargenaufteilung");
+    EXPECT_THAT(gridRows(), ElementsAre(u"0,000||||"));
+    EXPECT_EQ(at(), "1,3");
+    EXPECT_EQ(*get(u"lblAufteilungstext", u"Caption").as<String>(), u"");
+  });
 }
 
 TEST_F(SplitOpens, WithTheTextOfTheFirstCellSelected) {
@@ -87,12 +126,23 @@ TEST_F(SplitOpens, AHoleInTheTextIsAnEmptyRowAndTheLastLineIsNotReached) {
 }
 
 TEST_F(SplitOpens, AnyBytesAsText) {
-  for (const char* bytes : {"\x01\xff\xfe|\"\"\"|", "\"", "|||||||||", "\r\n\r\n\r\n", "9e999|x",
-                            "&HFFFFFFFFFF", "1|\"\n\"|\"\r\"", "€5|(5)|5-", "\t"}) {
-    split(1, fromUtf8(bytes), 5.0, [&] { EXPECT_GE(grid().Rows(), 2); });
-  }
-  for (const Variant& text : {Variant(), Variant(Null), Variant(5.5), Variant(true), Variant(Missing)}) {
-    show(34, {text, 5.0, u"Stk", std::int32_t{1}, false}, [&] { EXPECT_GE(grid().Rows(), 2); });
+  const std::vector<std::pair<const char*, std::vector<String>>> cases = {
+      {"\x01\xff\xfe|\"\"\"|", {u"0,000|||||"}},
+      {"\"", {u"0,000||||"}},
+      {"|||||||||", {u"0,000||||"}},
+      {"\r\n\r\n\r\n", {}},
+      {"9e999|x", {u"0,000|x|||"}},
+      {"&HFFFFFFFFFF", {u"0,000||||"}},
+      {"1|\"\n\"|\"\r\"", {u"1,000|\n|\r||"}},
+      {"€5|(5)|5-", {u"0,000|0|5||"}},
+      {"\t", {u"0,000||||"}},
+  };
+  for (const auto& each : cases) {
+    split(1, fromUtf8(each.first), std::int32_t{0}, [&] {
+      auto withBottomRow = each.second;
+      withBottomRow.push_back(u"0,000|Stk|||");
+      EXPECT_EQ(gridRows(), withBottomRow) << each.first;
+    });
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <random>
+#include <set>
 
 #include "runtime/testing.h"
 #include "split/split_columns.h"
@@ -115,15 +116,20 @@ TEST(SplitTotal, CountsQuantitiesOfAnySize) {
   EXPECT_EQ(total.without(3), 9'000'000'001.0);
 }
 
-TEST(SplitMarks, AreToldApartByName) {
+TEST(SplitMarks, AreToldApartByNameAndByShape) {
   using namespace split_marks;
-  EXPECT_EQ(String(current.name), u"picCurrent");
-  EXPECT_EQ(String(freshi.name), u"picNewi");
-  for (const Picture* each : {&current, &currenti, &edit, &editi, &fresh, &freshi}) {
-    EXPECT_EQ(each->width, 14);
-    EXPECT_EQ(each->height, 14);
-    EXPECT_FALSE(each->shapes.empty());
+  const std::vector<std::pair<const Picture*, StringView>> named = {
+      {&current, u"picCurrent"}, {&currenti, u"picCurrenti"}, {&edit, u"picEdit"},
+      {&editi, u"picEditi"},     {&fresh, u"picNew"},         {&freshi, u"picNewi"}};
+  std::set<std::pair<std::size_t, const PicturePoint*>> looks;
+  for (const auto& [mark, name] : named) {
+    EXPECT_EQ(String(mark->name), String(name));
+    EXPECT_EQ(mark->width, 14);
+    EXPECT_EQ(mark->height, 14);
+    const auto& last = mark->shapes.back();
+    looks.insert({mark->shapes.size(), last.outline.data()});
   }
+  EXPECT_EQ(looks.size(), 6u);
 }
 
 }  // namespace

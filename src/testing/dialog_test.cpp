@@ -63,6 +63,8 @@ DialogTest::~DialogTest() {
   EXPECT_TRUE(boxes_.empty()) << "a message box was expected and did not come: "
                               << toUtf8(boxes_.front().box.text);
   EXPECT_TRUE(errors_.empty()) << "an error was expected and did not come: " << toUtf8(errors_.front().first);
+  for (const Fault& fault : faults_)
+    EXPECT_TRUE(fault.met) << "no operation has met the failure for it: " << toUtf8(fault.match);
   desktop.removeListener(this);
   if (connection->State() != ado::adStateClosed) connection->Close();
   second_->Close();
@@ -106,6 +108,7 @@ void DialogTest::Before(ado::Operation operation, StringView statement, StringVi
         InStr(statement, fault.match) != String::npos || InStr(criterion, fault.match) != String::npos;
     if (fault.operation != operation || fault.times == 0 || !matches) continue;
     --fault.times;
+    fault.met = true;
     throw RuntimeError(fault.number, u"injected", u"test");
   }
 }
@@ -115,13 +118,28 @@ void DialogTest::Before(ado::Operation operation, StringView statement, StringVi
 Variant DialogTest::show(std::int32_t kind, VariantArray handedIn, const std::function<void()>& acts,
                          Through through) {
   param = std::move(handedIn);
-  acts_ = acts;
-  return through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
+  Variant returned;
+  during(
+      [&] {
+        returned = through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
+      },
+      acts);
+  return returned;
+}
+
+Variant DialogTest::showsNoForm(std::int32_t kind, VariantArray handedIn) {
+  param = std::move(handedIn);
+  acts_ = [] { ADD_FAILURE() << "a form came up"; };
+  Variant returned = dialog.Show(kind, param);
+  acts_ = nullptr;
+  return returned;
 }
 
 void DialogTest::during(const std::function<void()>& shows, const std::function<void()>& acts) {
   acts_ = acts;
   shows();
+  // What a test expects while the form is open must have been looked at.
+  if (std::exchange(acts_, nullptr) && !tolerant_) ADD_FAILURE() << "no form has waited for the clerk";
 }
 
 void DialogTest::idle() {

@@ -63,7 +63,8 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
   /// The rows of a query, read on the second connection: one text a row, "|" between columns, Null as "NULL".
   std::vector<String> rows(StringView query);
 
-  /// The next `times` operations of this kind whose statement holds `match` fail with this number.
+  /// The next `times` operations of this kind whose statement holds `match` fail with this number. One at
+  /// least must come, or the test fails.
   void fail(ado::Operation operation, StringView match, std::int32_t number, int times = 1);
   /// The operation number `position`, counted from 1, fails, whatever it is; 0 for none.
   void failAt(std::size_t position) { failingPosition_ = position; }
@@ -74,9 +75,12 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
 
   /// The form that serves the kind, or the generic form in any case.
   enum class Through { Show, GenericForm };
-  /// Shows a dialog; `acts` runs when the form waits for the person. Returns what Show returned.
+  /// Shows a dialog; `acts` runs when the form waits for the person, and one that never runs fails the test.
+  /// Returns what Show returned.
   Variant show(std::int32_t kind, VariantArray param, const std::function<void()>& acts = {},
                Through through = Through::Show);
+  /// The same for a dialog whose form must not come up.
+  Variant showsNoForm(std::int32_t kind, VariantArray param);
   /// The same for whatever `shows` a form.
   void during(const std::function<void()>& shows, const std::function<void()>& acts);
   /// Param as Show left it.
@@ -124,6 +128,7 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
     String match;
     std::int32_t number;
     int times;
+    bool met = false;
   };
 
   void messageBoxOpened(const MessageBox& box) override;

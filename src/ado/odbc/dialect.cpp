@@ -11,21 +11,22 @@ namespace zqn::ado::odbc {
 namespace {
 
 Dialect mariaDb(StringView product) {
-  return {.product = product,
-          // Rows found, not rows changed, as the count of an UPDATE.
-          .connection = {{u"OPTION", u"2"}, {u"CHARSET", u"utf8mb4"}},
-          .start = {u"SET SESSION sql_mode='ANSI_QUOTES,NO_BACKSLASH_ESCAPES,STRICT_ALL_TABLES,"
-                    u"NO_ENGINE_SUBSTITUTION'",
-                    u"SET SESSION innodb_lock_wait_timeout=5"},
-          .exactTableNames = true,
-          .tinyIsBoolean = true,
-          .utf8Texts = true,
-          .exactBefore = u"CONVERT(",
-          .exactBehind = u" USING utf8mb4) COLLATE utf8mb4_nopad_bin",
-          .defaultValues = u"() VALUES ()",
-          .lastNumber = u"SELECT LAST_INSERT_ID()",
-          .snapshot = {u"SET TRANSACTION ISOLATION LEVEL REPEATABLE READ",
-                       u"START TRANSACTION WITH CONSISTENT SNAPSHOT, READ ONLY"}};
+  return {
+      .product = product,
+      // Rows found, not rows changed, as the count of an UPDATE.
+      .connection = {{u"OPTION", u"2"}, {u"CHARSET", u"utf8mb4"}},
+      .start = {u"SET SESSION sql_mode='ANSI_QUOTES,NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT,STRICT_ALL_TABLES,"
+                u"NO_ENGINE_SUBSTITUTION'",
+                u"SET SESSION innodb_lock_wait_timeout=5"},
+      .exactTableNames = true,
+      .tinyIsBoolean = true,
+      .utf8Texts = true,
+      .exactBefore = u"CONVERT(",
+      .exactBehind = u" USING utf8mb4) COLLATE utf8mb4_nopad_bin",
+      .defaultValues = u"() VALUES ()",
+      .lastNumber = u"SELECT LAST_INSERT_ID()",
+      .snapshot = {u"SET TRANSACTION ISOLATION LEVEL REPEATABLE READ",
+                   u"START TRANSACTION WITH CONSISTENT SNAPSHOT, READ ONLY"}};
 }
 
 const std::array<Dialect, 5>& dialects() {

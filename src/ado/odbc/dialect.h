@@ -18,7 +18,8 @@ struct Dialect {
   /// Run on each new connection.
   std::vector<StringView> start = {};
 
-  /// Names without quotes are stored in lower case.
+  /// Names without quotes mean those in lower case. So names get quotes, in the spelling of the tables or of
+  /// the statement itself.
   bool lowerCaseNames = false;
   /// Names of tables may distinguish case, however they are written.
   bool exactTableNames = false;

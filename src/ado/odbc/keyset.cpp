@@ -52,12 +52,7 @@ OdbcKeyset::OdbcKeyset(std::shared_ptr<Session> session, KeyedSelect select,
       select_(std::move(select)),
       columns_(std::move(columns)),
       keyColumns_(select_.positions(*columns_)),
-      keys_(static_cast<int>(keyColumns_.size())) {
-  std::vector<String> hidden;
-  for (const Column& column : *columns_)
-    if (column.hidden) hidden.push_back(sql::quoted(column.baseColumn));
-  rowText_ = session_->translated(select_.oneRow(hidden)).text;
-}
+      keys_(static_cast<int>(keyColumns_.size())) {}
 
 OdbcKeyset::~OdbcKeyset() { end(); }
 
@@ -181,6 +176,12 @@ void OdbcKeyset::written(RowHandle row, const std::vector<Variant>& values) {
 }
 
 bool OdbcKeyset::readRow(RowHandle row, RowStore& rows) {
+  if (rowText_.empty()) {
+    std::vector<String> hidden;
+    for (const Column& column : *columns_)
+      if (column.hidden) hidden.push_back(sql::quoted(column.baseColumn));
+    rowText_ = session_->translated(select_.oneRow(hidden)).text;
+  }
   Query& query = session_->kept(rowText_);
   query.open(keys_.key(row));
   const int before = rows.rows();

@@ -39,7 +39,7 @@ class OdbcKeyset : public Keyset {
   KeyedSelect select_;
   std::shared_ptr<const Columns> columns_;
   std::vector<int> keyColumns_;  // where each column of the key stands among them
-  String rowText_;
+  String rowText_;               // made when a row is first read
   KeyTable keys_;
 
   bool begun_ = false;

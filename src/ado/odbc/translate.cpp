@@ -7,6 +7,7 @@
 
 #include "ado/odbc/catalogue.h"
 #include "ado/sql_tokens.h"
+#include "runtime/locale.h"
 
 namespace zqn::ado::odbc {
 
@@ -53,6 +54,22 @@ Effect effectOf(const Token& first) {
   return isOneOf(first, schema) ? Effect::Schema : Effect::None;
 }
 
+bool isKeyword(const Token& token) {
+  constexpr std::array<StringView, 36> words = {
+      u"ALL",    u"AND",  u"AS",       u"ASC",    u"BETWEEN", u"BY",     u"CASE",  u"COLLATE", u"DEFAULT",
+      u"DELETE", u"DESC", u"DISTINCT", u"ELSE",   u"END",     u"EXISTS", u"FALSE", u"FROM",    u"GROUP",
+      u"HAVING", u"IN",   u"INSERT",   u"INTO",   u"IS",      u"JOIN",   u"LIKE",  u"NOT",     u"NULL",
+      u"ON",     u"OR",   u"ORDER",    u"SELECT", u"SET",     u"THEN",   u"TRUE",  u"WHEN",    u"WHERE"};
+  return isOneOf(token, words);
+}
+
+String lowerCase(StringView name) {
+  String lower(name);
+  for (char16_t& unit : lower)
+    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
+  return lower;
+}
+
 bool isName(const Token& token) { return token.kind == Kind::Word || token.kind == Kind::Name; }
 
 bool isBeyondAscii(StringView text) {
@@ -67,7 +84,7 @@ class Translator {
   Translation run() {
     const Effect effect = effectOf(tokens_.front());
     if (effect == Effect::Begin && tokens_.size() == 1) return {String(dialect_.begin), effect};
-    findTables();
+    findNames();
     conditions_ = !tokens_.front().is(u"UPDATE");
     for (std::size_t i = 0; i < tokens_.size(); ++i) {
       const Token& token = tokens_[i];
@@ -99,12 +116,15 @@ class Translator {
     return i < tokens_.size() ? tokens_[i] : none;
   }
 
-  void findTables() {
+  void findNames() {
     constexpr std::array<StringView, 4> before = {u"FROM", u"JOIN", u"INTO", u"UPDATE"};
     constexpr std::array<StringView, 2> behind = {u"AS", u"SELECT"};
     for (std::size_t i = 0; i + 1 < tokens_.size(); ++i) {
       if (isOneOf(tokens_[i], before) && isName(tokens_[i + 1]) && !isOneOf(tokens_[i + 1], behind))
         tables_.push_back(i + 1);
+      // Inside parentheses it may be the type of a CAST.
+      if (tokens_[i].is(u"AS") && tokens_[i].depth == 0 && isName(tokens_[i + 1]))
+        aliases_.push_back(tokens_[i + 1].unquoted());
     }
   }
 
@@ -198,13 +218,28 @@ class Translator {
       next_ = i + 2;
     } else if (dialect_.noTruthWords && (token.is(u"TRUE") || token.is(u"FALSE"))) {
       replace(i, i, token.is(u"TRUE") ? u"1" : u"0");
+    } else if (dialect_.lowerCaseNames && token.kind == Kind::Word && !isKeyword(token) &&
+               (table || !at(i + 1).isSymbol(u"("))) {
+      const String name = stored(token, table);
+      if (known(token, table) && name != lowerCase(token.text)) replace(i, i, sql::quoted(name));
     }
   }
 
-  /// The name in quotes as the server stores it.
+  /// The statement or the database knows it as a name.
+  bool known(const Token& token, bool isTable) {
+    return isTable ? lookup_(token.text) != nullptr : alias(token.text) || column(token);
+  }
+  const String* alias(StringView name) const {
+    const auto found = std::ranges::find_if(
+        aliases_, [&](const String& one) { return compareIgnoringCase(one, name) == 0; });
+    return found == aliases_.end() ? nullptr : &*found;
+  }
+
+  /// The name as the server stores it, or as the statement itself gives it.
   String stored(const Token& token, bool isTable) {
     const String name = token.unquoted();
     if (!dialect_.lowerCaseNames && !(isTable && dialect_.exactTableNames)) return name;
+    if (const String* given = alias(name)) return *given;
     if (isTable) {
       const TableInfo* info = lookup_(name);
       return info ? info->name : name;
@@ -230,6 +265,7 @@ class Translator {
   const TableLookup& lookup_;
   std::vector<Token> tokens_;
   std::vector<std::size_t> tables_;  // tokens that name one
+  std::vector<String> aliases_;
   String text_;
   std::size_t copied_ = 0;
   std::size_t next_ = 0;     // the first token that is not written yet

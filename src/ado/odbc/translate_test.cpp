@@ -62,6 +62,27 @@ TEST(Translation, NamesInQuotesAreTheStoredOnes) {
   EXPECT_EQ(sqlServer(u"SELECT `a\"b` FROM T"), u"SELECT \"a\"\"b\" FROM T");
 }
 
+TEST(Translation, NamesKeepTheirCapitalsWhereTheServerWouldDropThem) {
+  const auto spelled = [](StringView statement) {
+    return translate(statement, dialectOf(u"PostgreSQL"),
+                     [](StringView name) {
+                       return compareIgnoringCase(name, u"Vertriebsstati") == 0 ? &Plain : nullptr;
+                     })
+        .text;
+  };
+  EXPECT_EQ(
+      spelled(u"SELECT status, Bezeichnung AS Text FROM vertriebsstati Where Status<>'-' ORDER BY STATUS"),
+      u"SELECT \"Status\", \"Bezeichnung\" AS \"Text\" FROM \"Vertriebsstati\" Where \"Status\"<>'-' ORDER "
+      u"BY "
+      u"\"Status\"");
+  EXPECT_EQ(spelled(u"SELECT v.Status AS Schluessel FROM Vertriebsstati AS v ORDER BY schluessel"),
+            u"SELECT v.\"Status\" AS \"Schluessel\" FROM \"Vertriebsstati\" AS v ORDER BY \"Schluessel\"");
+  EXPECT_EQ(spelled(u"INSERT INTO Vertriebsstati (Status) VALUES (lower('X'))"),
+            u"INSERT INTO \"Vertriebsstati\" (\"Status\") VALUES (lower('X'))");
+  EXPECT_EQ(spelled(u"SELECT CAST(Gewichtung AS Numeric) FROM Vertriebsstati"),
+            u"SELECT CAST(\"Gewichtung\" AS Numeric) FROM \"Vertriebsstati\"");
+}
+
 TEST(Translation, YesAndNoAreWhatTheColumnKnows) {
   EXPECT_EQ(postgres(u"SELECT * FROM Vertriebsstati WHERE Historie=-1 AND Historie<>0 AND Gewichtung=-1"),
             u"SELECT * FROM Vertriebsstati WHERE Historie=true AND Historie<>false AND Gewichtung=-1");

@@ -22,15 +22,15 @@ enum class Dialect { Sqlite, PostgreSql, MariaDb, SqlServer };
 std::vector<String> preparations(Dialect dialect);
 
 /// CREATE TABLE, then one CREATE INDEX for each indexed column; to be run in this order, one by one. Names
-/// are unquoted, as the dialogs write them, so that a server folds them as it folds those of the dialogs. On
-/// SQLite each text column has the collation ZQN_TEXT, which the connection must know by then.
+/// keep their spelling: PostgreSQL has them in quotes, elsewhere they need none. On SQLite each text column
+/// has the collation ZQN_TEXT, which the connection must know by then.
 std::vector<String> createStatements(const Table& table, Dialect dialect);
 
 /// The type of the column as its CREATE TABLE says it, with length and collation.
 String columnType(const Column& column, Dialect dialect);
 
-/// INSERT with a `?` for each value of a Row, in its order. The columns are named, so a Serial gets its
-/// number by itself.
-String insertStatement(const Table& table, Dialect dialect);
+/// INSERT with a `?` for each value of a Row, in its order, for so many rows. The columns are named, so a
+/// Serial gets its number by itself.
+String insertStatement(const Table& table, Dialect dialect, std::size_t rows = 1);
 
 }  // namespace zqn::host

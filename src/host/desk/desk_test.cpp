@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -8,6 +10,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "desktop/headless/headless_desktop.h"
 #include "frontend/kinds.h"
@@ -215,6 +218,23 @@ TEST_F(Desk, WritesTheSameCallForAProgramAndAShell) {
   named<QPushButton>(desk, "Shell kopieren").click();
   EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
             "zqn-dialog show 21 --db sqlite:" + file() + " -- '2 0'");
+}
+
+TEST_F(Desk, OffersTheImages) {
+  DeskWindow desk(options());
+  QAction* images = nullptr;
+  for (QAction* action : desk.findChildren<QAction*>())
+    if (action->text() == "&Bilder…") images = action;
+  ASSERT_NE(images, nullptr);
+  QString title;
+  QTimer::singleShot(0, [&] {
+    QWidget* window = QApplication::activeModalWidget();
+    if (window == nullptr) return;
+    title = window->windowTitle();
+    window->close();
+  });
+  images->trigger();
+  EXPECT_EQ(title, "Bilder");
 }
 
 TEST_F(Desk, NamesItsDatabaseAndItsUser) {

@@ -86,6 +86,21 @@ TEST(DialogTitles, AreThoseOfAllKindsOnce) {
   for (const KindInfo& kind : dialogKinds()) EXPECT_EQ(kinds.at(kind.number - 1u), kind.number);
 }
 
+TEST(DialogTitles, SayWhatGoesInAndWhatComesOut) {
+  EXPECT_THAT(paramNames(1), ElementsAre(u"Schlüssel"));
+  EXPECT_EQ(resultName(1), u"Schlüssel");
+  EXPECT_THAT(paramNames(27), ElementsAre(u"Herkunft"));
+  EXPECT_EQ(paramNames(28).size(), 4u);
+  EXPECT_THAT(paramNames(29), ElementsAre(u"Beliebig"));
+  EXPECT_EQ(resultName(29), u"Angebotsnummer, -1 für ein neues Angebot, Null nach Abbruch");
+  EXPECT_THAT(paramNames(30), ElementsAre(u"Angebotsnummer"));
+  EXPECT_EQ(resultName(30), u"Angebotsnummer");
+  EXPECT_THAT(paramNames(31), ElementsAre(u"Belegart"));
+  EXPECT_EQ(resultName(31), u"ob gespeichert wurde");
+  EXPECT_EQ(paramNames(34).size(), 5u);
+  EXPECT_THAT(paramNames(35), ElementsAre(u"Schlagwort", u"Abschnitt"));
+}
+
 TEST(DialogTitles, OfOneSubjectStandTogether) {
   std::vector<String> subjects;
   for (const DialogTitle& title : dialogTitles())

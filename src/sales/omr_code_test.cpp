@@ -85,7 +85,16 @@ TEST_F(OmrSettings, WithoutACodeTheFocusStaysInTheList) {
 
 TEST_F(OmrSettings, WithoutAProfileTheRootIsSearchedAndNothingIsSaid) {
   ObjectFactory::current().withdraw(u"zqWSPro.WSProfile");
-  show(31, {u"AN"}, [&] { EXPECT_GE(number(u"cboLayout", u"ListCount"), 2); });
+  // Not the folder that the process stands in.
+  layout("Blau.omr", "Description=Blaues Papier\r\n");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder);
+  show(31, {u"AN"}, [&] {
+    const auto& layouts = form().Get<ComboBox>(u"cboLayout");
+    ASSERT_GE(layouts.ListCount(), 2);
+    for (int i = 0; i < layouts.ListCount(); ++i) EXPECT_NE(layouts.List(i), u"Blaues Papier");
+  });
+  std::filesystem::current_path(before);
 }
 
 TEST_F(OmrSettings, WithoutASessionNothingIsReadOrSaved) {

@@ -281,6 +281,12 @@ TEST_F(OfferTemplates, AMissingOrUnknownNumberIsRefused) {
                      EXPECT_EQ(focus(), u"Angebotsnummer");
                      EXPECT_TRUE(form().Visible());
                    }
+                   form().Get<TextBox>(u"Angebotsnummer").Text(u"7777");
+                   expectBox(u"Das angegebene Angebot existiert nicht!", u"Angebot nicht vorhanden",
+                             msgbox::Exclamation);
+                   press(key::Enter);
+                   EXPECT_EQ(get(u"Angebotsnummer", u"SelLength"), Variant(std::int32_t{4}))
+                       << "selected, though the focus has been there all the time";
                  }),
             Variant(Null));
 }
@@ -335,6 +341,8 @@ TEST_F(OfferTemplates, TheRightButtonOpensTheMenuOnItsRow) {
     desktop.whenIdle([&] {
       if (desktop.openPopupMenu() != nullptr) {
         opened = true;
+        EXPECT_EQ(focus(), u"MSFlexGrid1");
+        EXPECT_TRUE(desktop.openPopupMenu()->items().at(0)->Enabled());
         EXPECT_EQ(desktop.openPopupMenu()->Name(), u"mnuPopup");
         EXPECT_TRUE(desktop.take(&form().Get<Menu>(u"mnuDelete")));
       } else if (desktop.openMessageBox() != nullptr) {
@@ -344,7 +352,10 @@ TEST_F(OfferTemplates, TheRightButtonOpensTheMenuOnItsRow) {
         form().closeBox();
       }
     });
-    clickRow(2, 2);
+    // A press of the right button by itself does not move the focus.
+    EXPECT_EQ(focus(), u"optAuswahl(1)");
+    grid().userPressed({2, 0}, 2, 0);
+    grid().userReleased({2, 0}, 2, 0);
     EXPECT_TRUE(opened);
   });
   EXPECT_THAT(named(), ElementsAre(u"400|   ", u"500|Baustelle"));
@@ -359,6 +370,21 @@ TEST_F(OfferTemplates, TheRightButtonBelowTheRowsOpensNothing) {
     });
     clickRow(-1, 2);
     EXPECT_EQ(grid().Row(), 1);
+  });
+}
+
+TEST_F(OfferTemplates, TheListIsHiddenWhileItIsFilledAndCanBeUsedAfterwards) {
+  show(29, {u""}, [&] {
+    clickRow(1);
+    EXPECT_EQ(focus(), u"MSFlexGrid1");
+    expectQuestion(u"Baustelle", u"500", MsgBoxResult::Yes);
+    press(key::Escape);
+    EXPECT_EQ(focus(), u"btnOK") << "the focus leaves what is hidden";
+    EXPECT_TRUE(grid().Visible());
+    grid().Enabled(false);
+    expectQuestion(u"Angebot 400", u"400", MsgBoxResult::Yes);
+    click(u"btnDelete");
+    EXPECT_TRUE(grid().Enabled());
   });
 }
 

@@ -199,6 +199,27 @@ TEST_F(OmrSettings, FlagsAndPagesAreComparedSeparately) {
   });
 }
 
+TEST_F(OmrSettings, PagesAgreeInAnyCase) {
+  twoLayouts();
+  for (const StringView kind : {u"AN", u"AB"}) keep(u"OMRLayout" + String(kind), u"Blau");
+  keep(u"OMROption0PageAN", u"EOC");
+  keep(u"OMROption0PageAB", u"eoc");
+  show(31, {u""}, [&] {
+    selectDocuments({0, 1});
+    EXPECT_EQ(option(0), "0 Kopie [Seite 1|Seite 2|Letzte Seite]Letzte Seite");
+  });
+}
+
+TEST_F(OmrSettings, TheSameLayoutAgainLeavesTheOptions) {
+  twoLayouts();
+  show(31, {u"RG"}, [&] {
+    choose(u"cboLayout", 2);
+    choose(u"cboOption(0)", 1);
+    form().Get<ComboBox>(u"cboLayout").Click.raise();
+    EXPECT_EQ(option(0), "1 Kopie [Seite 1|Seite 2|Letzte Seite]Seite 2");
+  });
+}
+
 TEST_F(OmrSettings, ALayoutWhoseFileIsGoneShowsNoRowAndIsSavedBack) {
   keep(u"OMRLayoutRG", u"Verloren");
   keep(u"OMROption0RG", u"1");

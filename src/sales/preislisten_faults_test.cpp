@@ -104,6 +104,16 @@ TEST_F(Preislisten, AFieldThatCannotBeReadIsPassedOver) {
   });
 }
 
+TEST_F(Preislisten, NothingOfTheFormerListStaysWhereNoFieldCanBeRead) {
+  show(16, {u"B"}, [&] {
+    fail(ado::Operation::Field, u"WHERE Preisliste ='K'", error::ProviderFailure, 7);
+    select(3);
+    EXPECT_TRUE(value(u"cboPreisliste").isNull());
+    EXPECT_EQ(text(u"txtKundennummer"), u"");
+    EXPECT_EQ(text(u"txtKunBez"), u"");
+  });
+}
+
 TEST_F(Preislisten, AFlagThatCannotBeReadCountsAsThePromotion) {
   execute(u"UPDATE Preislistenkopf SET GlobalePreisliste='x' WHERE Preisliste='A'");
   show(16, {u"A"}, [&] {
@@ -129,6 +139,8 @@ TEST_F(Preislisten, AListThatCannotBeFilledShowsTheRecordAllTheSame) {
     EXPECT_TRUE(listRows().empty());
     EXPECT_EQ(text(u"Langtext"), u"Aktion");
   });
+  // A key that is no text cannot be assigned.
+  show(16, {Variant(std::make_shared<Object>())}, [&] { EXPECT_EQ(text(u"Schluessel"), u""); });
 }
 
 // ---- saving
@@ -155,7 +167,9 @@ TEST_F(Preislisten, TheSystemRowIsSavedAndTheSearchForItIsAnError) {
     enter(u"-");
     type(u"Umbenannt");
     expectError(u"btnOK_Click", error::NoCurrentRecord);
+    form().control(u"txtKunBez").Enabled(true);
     click(u"btnOK");
+    EXPECT_FALSE(enabled(u"txtKunBez")) << "writing sets what can be entered";
     EXPECT_EQ(listRows().size(), 4u);
   });
   EXPECT_EQ(row(u"-"), u"Umbenannt|Falsch|NULL|99999999999999|NULL|NULL|NULL");

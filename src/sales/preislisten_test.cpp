@@ -90,6 +90,16 @@ TEST_F(Preislisten, TheFieldOfTheCustomerLooksDisabledWithoutThePromotion) {
   });
 }
 
+TEST_F(Preislisten, NeuForgetsTheCustomerOfTheFormerList) {
+  show(16, {u"B"}, [&] {
+    press(key::F6);
+    EXPECT_EQ(text(u"txtKundennummer"), u"");
+    EXPECT_EQ(text(u"txtKunBez"), u"");
+    EXPECT_TRUE(value(u"cboPreisliste").isNull());
+    EXPECT_TRUE(option(0));
+  });
+}
+
 TEST_F(Preislisten, NeuKeepsTheDatesOfTheFormerList) {
   show(16, {u"A"}, [&] {
     click(u"btnNew");
@@ -98,6 +108,9 @@ TEST_F(Preislisten, NeuKeepsTheDatesOfTheFormerList) {
     EXPECT_EQ(value(u"txtDatumVon"), Variant(u"20260301000000"));
     EXPECT_FALSE(enabled(u"txtDatumVon"));
     EXPECT_FALSE(enabled(u"btnOK"));
+    select(2);
+    EXPECT_TRUE(value(u"txtDatumVon").isNull()) << "a list without the promotion has none";
+    EXPECT_TRUE(value(u"txtDatumBis").isNull());
   });
 }
 

@@ -90,6 +90,19 @@ TEST_F(Zahlungsarten, TheTickOfTransferComesFromTheCodeAndFromNothingElse) {
   });
 }
 
+TEST_F(Zahlungsarten, BlanksAroundTheHyphenAndBlankTermsDoNotCount) {
+  execute(
+      u"UPDATE Zahlungsarten SET ZahlungsartFibu=' - ', DefaultZahlungsbedSchl='  ', OhneDruckSkonto=1 WHERE "
+      u"Zahlungsart='LAS'");
+  show(1, {u"LAS"}, [&] {
+    EXPECT_EQ(number(u"chkOhneFibu"), 1);
+    EXPECT_EQ(text(u"ZahlungsartFibu"), u"");
+    EXPECT_EQ(number(u"chkDefaultZahlungsbedSchl"), 0);
+    EXPECT_TRUE(terms().isNull());
+    EXPECT_EQ(number(u"chkOhneDruckSkonto"), 1) << "every number but 0";
+  });
+}
+
 TEST_F(Zahlungsarten, TheAccountingCodeOffersOneEntry) {
   show(1, {u"LAS"}, [&] {
     EXPECT_EQ(get(u"ZahlungsartFibu", u"ListCount"), Variant(std::int32_t{1}));
@@ -357,6 +370,12 @@ TEST_F(Zahlungsarten, AFailureWhileFillingIsPassedOver) {
   show(1, {u"LAS"}, [&] {
     EXPECT_TRUE(form().Visible());
     EXPECT_EQ(text(u"txtKurztext"), u"Lastschrift");
+  });
+  // A key that is no text cannot be assigned.
+  show(1, {Variant(std::make_shared<Object>())}, [&] {
+    EXPECT_TRUE(form().Visible());
+    EXPECT_EQ(text(u"Schluessel"), u"");
+    EXPECT_FALSE(form().control(u"tglDruckAF").Visible());
   });
 }
 

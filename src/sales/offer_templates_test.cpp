@@ -365,8 +365,9 @@ TEST_F(OfferTemplates, TheRightButtonBelowTheRowsOpensNothing) {
   show(29, {u""}, [&] {
     clickRow(1);
     desktop.whenIdle([&] {
-      EXPECT_EQ(desktop.openPopupMenu(), nullptr);
-      form().closeBox();
+      if (desktop.openPopupMenu() == nullptr) return form().closeBox();
+      ADD_FAILURE() << "a menu has opened";
+      desktop.take(nullptr);
     });
     clickRow(-1, 2);
     EXPECT_EQ(grid().Row(), 1);

@@ -124,13 +124,19 @@ std::vector<String> DialogTest::statements() {
 Variant DialogTest::show(std::int32_t kind, VariantArray handedIn, const std::function<void()>& acts,
                          Through through) {
   param = std::move(handedIn);
-  acts_ = acts;
-  return through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
+  Variant returned;
+  during(
+      [&] {
+        returned = through == Through::Show ? dialog.Show(kind, param) : dialog.ShowGeneric(kind, param);
+      },
+      acts);
+  return returned;
 }
 
 void DialogTest::during(const std::function<void()>& shows, const std::function<void()>& acts) {
   acts_ = acts;
   shows();
+  if (std::exchange(acts_, nullptr)) ADD_FAILURE() << "no form has waited for the clerk";
 }
 
 void DialogTest::idle() {

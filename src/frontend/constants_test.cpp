@@ -8,6 +8,7 @@
 
 #include "desktop/headless/headless_desktop.h"
 #include "forms/image_list.h"
+#include "frontend/images.h"
 #include "runtime/testing.h"
 
 namespace zqn::testing {
@@ -47,12 +48,67 @@ TEST(Constants, HaveAnImageOfSixteenBySixteenForEachNumber) {
   }
 }
 
-TEST(Constants, GiveEachImageItsName) {
-  EXPECT_EQ(StringView(Constants::GetImage(zqImgInteressentenstamm).name), u"zqImgInteressentenstamm");
-  EXPECT_EQ(StringView(Constants::GetImage(zqImgPhone).name), u"zqImgPhone");
-  EXPECT_EQ(StringView(Constants::GetImage(zqImgFavorites).name), u"zqImgFavorites");
-  EXPECT_EQ(StringView(Constants::GetImage(zqImgArrowDown).name), u"zqImgArrowDown");
-  EXPECT_EQ(StringView(Constants::GetImage(zqImgCategory).name), u"zqImgCategory");
+/// In the order of their numbers.
+constexpr const char16_t* imageNames[] = {u"zqImgInteressentenstamm",
+                                          u"zqImgInteressentenAnsprechpartnerM",
+                                          u"zqImgInteressentenAnsprechpartnerF",
+                                          u"zqImgKundenstamm",
+                                          u"zqImgKundenAnsprechpartnerM",
+                                          u"zqImgKundenAnsprechpartnerF",
+                                          u"zqImgLieferantenstamm",
+                                          u"zqImgLieferantenAnsprechpartnerM",
+                                          u"zqImgLieferantenAnsprechpartnerF",
+                                          u"zqImgPrivatadresseM",
+                                          u"zqImgPrivatadresseF",
+                                          u"zqImgPersonalstammM",
+                                          u"zqImgPersonalstammF",
+                                          u"zqImgZusatzadressen",
+                                          u"zqImgPhone",
+                                          u"zqImgPhoneGrey",
+                                          u"zqImgFax",
+                                          u"zqImgFaxGrey",
+                                          u"zqImgMobilePhone",
+                                          u"zqImgMobilePhoneGrey",
+                                          u"zqImgEMail",
+                                          u"zqImgEMailGrey",
+                                          u"zqImgHomepage",
+                                          u"zqImgHomepageGrey",
+                                          u"zqImgAddressbook",
+                                          u"zqImgSearchContact",
+                                          u"zqImgFavorites",
+                                          u"zqImgHyperlinkCursor",
+                                          u"zqImgInteressentenAnsprechpartnerMFavorite",
+                                          u"zqImgInteressentenAnsprechpartnerFFavorite",
+                                          u"zqImgKundenAnsprechpartnerMFavorite",
+                                          u"zqImgKundenAnsprechpartnerFFavorite",
+                                          u"zqImgLieferantenAnsprechpartnerMFavorite",
+                                          u"zqImgLieferantenAnsprechpartnerFFavorite",
+                                          u"zqImgBirthdaycake",
+                                          u"zqImgBirthdaycakeGrey",
+                                          u"zqImgHome",
+                                          u"zqImgHomeGrey",
+                                          u"zqImgArrowUp",
+                                          u"zqImgArrowDown",
+                                          u"zqImgDetails",
+                                          u"zqImgContractFolder",
+                                          u"zqImgContractNode1",
+                                          u"zqImgContractNode2",
+                                          u"zqImgSearch",
+                                          u"zqImgSearchCategory",
+                                          u"zqImgCategory"};
+
+TEST(Constants, GiveEachImageTheNameOfItsNumber) {
+  ASSERT_EQ(std::size(imageNames), 47u);
+  for (int number = 1; number <= 47; ++number)
+    EXPECT_EQ(StringView(Constants::GetImage(zqImageConstants(number)).name), imageNames[number - 1])
+        << number;
+}
+
+TEST(Constants, KeepTheImagesInAFormThatIsNeverSeen) {
+  EXPECT_EQ(Images::instance().Name(), u"Images");
+  EXPECT_EQ(Images::instance().ImageList1.Count(), 47);
+  EXPECT_EQ(&Images::instance().ImageList1.ListImages(zqImgPhone), &Constants::GetImage(zqImgPhone));
+  EXPECT_FALSE(Images::instance().Visible());
 }
 
 TEST(Constants, FailWithTheListsErrorOutsideTheImages) {

@@ -360,5 +360,12 @@ TEST(Enumerations, NameTheKindsAsTheDialogsDo) {
   }
 }
 
+TEST(Kinds, NameTheTablesOfTheirDropDownsToo) {
+  EXPECT_EQ(StringView(findKind(1)->tables), u"Zahlungsarten,Textbausteine,Zahlungsbedingungen");
+  EXPECT_EQ(StringView(findKind(2)->tables), u"ZahlungsartenEK,Textbausteine,Zahlungsbedingungen");
+  EXPECT_EQ(StringView(findKind(16)->tables), u"Preislistenkopf,Staffelpreise,Kundenstamm");
+  EXPECT_EQ(StringView(findKind(25)->tables), u"Kontaktgruppen,Vertriebsstati,Adressherkunft");
+}
+
 }  // namespace
 }  // namespace zqn::testing

@@ -9,8 +9,8 @@ using enum KindServer;
 
 // clang-format off
 constexpr KindInfo kinds[] = {
-    {1, u"zqnCommonDialogZahlungsarten", Dedicated, u"frmZahlungsarten", u"clsZahlungsart", u"Zahlungsarten,Textbausteine"},
-    {2, u"zqnCommonDialogZahlungsartenEK", Dedicated, u"frmZahlungsarten", u"clsZahlungsartEk", u"ZahlungsartenEK,Textbausteine"},
+    {1, u"zqnCommonDialogZahlungsarten", Dedicated, u"frmZahlungsarten", u"clsZahlungsart", u"Zahlungsarten,Textbausteine,Zahlungsbedingungen"},
+    {2, u"zqnCommonDialogZahlungsartenEK", Dedicated, u"frmZahlungsarten", u"clsZahlungsartEk", u"ZahlungsartenEK,Textbausteine,Zahlungsbedingungen"},
     {3, u"zqnCommonDialogZahlungsbedingungen", Generic, u"frmDialog", u"clsZahlungsbedingungen", u"Zahlungsbedingungen"},
     {4, u"zqnCommonDialogVersandarten", Generic, u"frmDialog", u"clsVersandarten", u"Versandtexte,Versandformulare,Textbausteine"},
     {5, u"zqnCommonDialogKundengruppen", Generic, u"frmDialog", u"clsKundengruppen", u"Kundengruppen"},

@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: MIT
 //
-// How the sales dialogs ask the host's information dialog for a record:
+// How the sales dialogs ask the host's information dialog for a record, statement by statement, so that each
+// dialog has its own error mode:
 //
-//     const Variant number = askAuskunft(Session, u"AUSK_Kundenauskunft", u"Kundenauskunft",
-//     u"Kundennummer");
+//     const Ref<AuskunftObject> auskunft = createAuskunft();
+//     addTake(*auskunft);
+//     auskunft->Show(Session, u"AUSK_Kundenauskunft", u"Kundenauskunft");
+//     if (hasTaken(*auskunft)) use(auskunft->ResultDataItems(u"Kundennummer"));
 #pragma once
 
-#include "contract/session.h"
-#include "runtime/variant.h"
+#include "contract/auskunft.h"
 
 namespace zqn {
 
-/// The item of the row that a person took over, Empty when none was. Error 429 when the host has no
-/// information dialog; any other error of that dialog goes through.
-Variant askAuskunft(const Ref<Session>& session, StringView name, StringView title, StringView item);
+/// A new information dialog. Error 429 when the host has none.
+Ref<AuskunftObject> createAuskunft();
+/// A person shall be able to take the row that is shown over.
+void addTake(AuskunftObject& auskunft);
+/// A row was taken over. The dialog's own errors go through.
+bool hasTaken(const AuskunftObject& auskunft);
 
 }  // namespace zqn

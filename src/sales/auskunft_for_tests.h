@@ -32,12 +32,15 @@ class OfferedAuskunft {
   std::int32_t fails = 0;
   /// "AUSK_Kundenauskunft|Kundenauskunft|Take Über&nehmen 0 0111", one for each time it was asked.
   std::vector<String> asked;
+  /// What it was handed last.
+  Ref<zqn::Session> session;
 
  private:
   class Answering : public AuskunftObject {
    public:
     explicit Answering(OfferedAuskunft& owner) : owner_(owner) {}
-    void Show(const Ref<Session>&, StringView Name, StringView Title) override {
+    void Show(const Ref<zqn::Session>& Session, StringView Name, StringView Title) override {
+      owner_.session = Session;
       String line = String(Name) + u"|" + String(Title);
       for (const AuskunftItem& each : PopupItems.items()) {
         line +=

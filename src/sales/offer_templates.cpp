@@ -45,6 +45,21 @@ constexpr FormDesign form{u"frmOfferTemplates", u"Angebot erstellen", 5265, 5895
 
 constexpr std::uint32_t darkBlue = 0x00800000;
 
+/// What the list calls the current offer.
+String nameOf(ado::Recordset& rs) {
+  String name = concatenate(rs.Fields(u"Vorlage").Value());
+  return Trim(name).empty() ? u"Angebot " + concatenate(rs.Fields(u"Angebotsnummer").Value()) : name;
+}
+
+/// The number that a text begins with, as whole as the numbers of offers are; one beyond 32 bits stays as it
+/// is.
+double numberIn(StringView text) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const double number = Val(text);
+  const bool fits = number >= Limits::min() && number <= Limits::max();
+  return fits ? CLng(Variant(number)) : number;
+}
+
 }  // namespace
 
 frmOfferTemplates::frmOfferTemplates() : Form(plan::form) {
@@ -94,18 +109,15 @@ void frmOfferTemplates::LoadTemplates() {
     rs.Open(u"Select Angebotsnummer, Vorlage From Angebotskopf Where Vorlage>'' Order by Vorlage", Connection,
             ado::adOpenKeyset, ado::adLockReadOnly);
   });
+  // The row whose reading fails is the last one: it stands there as far as it could be read.
   while (step.Number() == 0 && !rs.IsEOF()) {
-    step([&] {
-      const std::int32_t number = CLng(rs.Fields(u"Angebotsnummer").Value());
-      String name = concatenate(rs.Fields(u"Vorlage").Value());
-      if (Trim(name).empty()) name = u"Angebot " + CStr(number);
-      MSFlexGrid1.Rows(MSFlexGrid1.Rows() + 1);
-      MSFlexGrid1.Row(MSFlexGrid1.Rows() - 1);
-      aNummern.push_back(number);
-      MSFlexGrid1.Text(name);
-      MSFlexGrid1.CellAlignment(cell_alignment::LeftCenter);
-      rs.MoveNext();
-    });
+    step([&] { MSFlexGrid1.Rows(MSFlexGrid1.Rows() + 1); });
+    step([&] { MSFlexGrid1.Row(MSFlexGrid1.Rows() - 1); });
+    aNummern.push_back(0);
+    step([&] { aNummern.back() = CLng(rs.Fields(u"Angebotsnummer").Value()); });
+    step([&] { MSFlexGrid1.Text(nameOf(rs)); });
+    step([&] { MSFlexGrid1.CellAlignment(cell_alignment::LeftCenter); });
+    step([&] { rs.MoveNext(); });
   }
   if (MSFlexGrid1.Rows() > 0) {
     step([&] { MSFlexGrid1.Row(1); });
@@ -210,7 +222,7 @@ void frmOfferTemplates::Angebotsnummer_GotFocus() {
 
 double frmOfferTemplates::settleNumber() {
   ResumeNext step;
-  const double number = Val(Angebotsnummer.Text());
+  const double number = numberIn(Angebotsnummer.Text());
   step([&] { Angebotsnummer.Text(number == 0 ? String() : CStr(number)); });
   return number;
 }
@@ -227,7 +239,10 @@ bool frmOfferTemplates::OfferExists(std::int32_t number) {
 }
 
 String frmOfferTemplates::AskOffer() {
-  return concatenate(askAuskunft(Session, u"AUSK_Angebotsauskunft", u"Angebotsauskunft", u"Belegnummer"));
+  const Ref<AuskunftObject> auskunft = createAuskunft();
+  addTake(*auskunft);
+  auskunft->Show(Session, u"AUSK_Angebotsauskunft", u"Angebotsauskunft");
+  return hasTaken(*auskunft) ? concatenate(auskunft->ResultDataItems(u"Belegnummer")) : String();
 }
 
 void frmOfferTemplates::btnAngebotsAuskunft_Click() {

@@ -94,12 +94,74 @@ TEST_F(OfferTemplates, AFailedQueryGivesAnEmptyList) {
   });
 }
 
-TEST_F(OfferTemplates, ARowThatCannotBeReadEndsTheListAndKeepsTheRowsSoFar) {
+TEST_F(OfferTemplates, ARowWithoutAReadableNumberEndsTheListAndCannotBeChosen) {
   // Beyond 32 bits no offer has a number.
-  execute(u"UPDATE Angebotskopf SET Angebotsnummer=99999999999 WHERE Angebotsnummer=200");
+  execute(
+      u"UPDATE Angebotskopf SET Angebotsnummer=99999999999 WHERE Angebotsnummer=500;"
+      u"INSERT INTO Angebotskopf VALUES (600, 'Zuletzt')");
+  EXPECT_EQ(show(29, {u""},
+                 [&] {
+                   EXPECT_THAT(templates(), ElementsAre(u"Angebot 400", u"Baustelle"));
+                   EXPECT_TRUE(optionEnabled(1));
+                   clickRow(1);
+                   click(u"btnDelete");
+                   EXPECT_EQ(templates().size(), 2u) << "no question is asked";
+                   expectBox(u"Sie müssen eine Vorlage ausgewählen!", u"Vorlage", msgbox::Exclamation);
+                   click(u"btnOK");
+                   EXPECT_EQ(focus(), u"MSFlexGrid1");
+                   EXPECT_TRUE(form().Visible());
+                 }),
+            Variant(Null));
+}
+
+TEST_F(OfferTemplates, ARowWithoutAReadableNameEndsTheListAndCanBeChosen) {
+  show(29, {u""}, [] {});
+  // Three fields of the first row, whose name is blank; then number and name of the second one.
+  std::size_t position = 0;
+  for (int fields = 0; fields < 5; ++position)
+    fields += operations.at(position).first == ado::Operation::Field;
+  operations.clear();
+  failAt(position);
+  EXPECT_EQ(show(29, {u""},
+                 [&] {
+                   EXPECT_THAT(templates(), ElementsAre(u"Angebot 400", u""));
+                   clickRow(1);
+                   click(u"btnOK");
+                 }),
+            Variant(std::int32_t{500}));
+}
+
+TEST_F(OfferTemplates, TheOneColumnIsAsWideAsTheListAndStandsToTheLeft) {
   show(29, {u""}, [&] {
-    EXPECT_THAT(templates(), ElementsAre(u"Angebot 400", u"Baustelle"));
-    EXPECT_TRUE(optionEnabled(1));
+    EXPECT_EQ(grid().Cols(), 1);
+    EXPECT_EQ(grid().ColWidth(0), grid().Width());
+    for (int row = 0; row < 3; ++row) {
+      grid().Row(row);
+      EXPECT_EQ(grid().CellAlignment(), 1);
+    }
+  });
+}
+
+TEST_F(OfferTemplates, AreReadByOneStatement) {
+  show(29, {u""}, [&] {
+    EXPECT_THAT(
+        statements(),
+        ElementsAre(u"Select Angebotsnummer, Vorlage From Angebotskopf Where Vorlage>'' Order by Vorlage"));
+    form().control(u"Angebotsnummer").SetFocus();
+    type(u"100");
+    click(u"btnOK");
+    EXPECT_THAT(statements(),
+                ElementsAre(u"Select Angebotsnummer from Angebotskopf Where Angebotsnummer=100"));
+  });
+  show(29, {u""}, [&] {
+    clickRow(1);
+    statements();
+    expectQuestion(u"Baustelle", u"500", MsgBoxResult::Yes);
+    click(u"btnDelete");
+    EXPECT_THAT(
+        statements(),
+        ElementsAre(u"Select Vorlage from Angebotskopf Where Angebotsnummer=500",
+                    u"Select Angebotsnummer, Vorlage From Angebotskopf Where Vorlage>'' Order by Vorlage"));
   });
 }
 
@@ -139,6 +201,28 @@ TEST_F(OfferTemplates, AClickChoosesTemplatesAndTheListIsATabStop) {
             Variant(std::int32_t{500}));
 }
 
+TEST_F(OfferTemplates, ChosenFromAnEmptyListOkMakesANewOffer) {
+  execute(u"UPDATE Angebotskopf SET Vorlage=NULL");
+  EXPECT_EQ(show(29, {u""},
+                 [&] {
+                   clickRow(-1);
+                   EXPECT_TRUE(option(1));
+                   EXPECT_FALSE(enabled(u"btnDelete"));
+                   click(u"btnOK");
+                 }),
+            Variant(std::int32_t{-1}));
+}
+
+TEST_F(OfferTemplates, NeedNoRightToChangeCatalogues) {
+  session->SaveSetting(u"ZQNComDlg", u"AdminsOnly", u"1", Missing, zqnSaveAsGlobalSetting);
+  show(29, {u""}, [&] {
+    clickRow(1);
+    expectQuestion(u"Baustelle", u"500", MsgBoxResult::Yes);
+    click(u"btnDelete");
+  });
+  EXPECT_THAT(named(), ElementsAre(u"200|Wartung", u"400|   "));
+}
+
 TEST_F(OfferTemplates, EachOptionMovesTheTabStops) {
   show(29, {u""}, [&] {
     click(u"optAuswahl(2)");
@@ -164,7 +248,14 @@ TEST_F(OfferTemplates, CopyTakesANumberThatExists) {
 
 TEST_F(OfferTemplates, TheNumberKeepsItsDigitsAlone) {
   show(29, {u""}, [&] {
-    for (const auto& [typed, left] : {std::pair{u"12a", u"12"}, {u"abc", u""}, {u" 7", u"7"}, {u"0", u""}}) {
+    for (const auto& [typed, left] : {std::pair{u"12a", u"12"},
+                                      {u"abc", u""},
+                                      {u" 7", u"7"},
+                                      {u"0", u""},
+                                      {u"17.6", u"18"},
+                                      {u"0.4", u""},
+                                      {u"1e2", u"100"},
+                                      {u"99999999999", u"99999999999"}}) {
       form().control(u"Angebotsnummer").SetFocus();
       form().Get<TextBox>(u"Angebotsnummer").Text(u"");
       type(typed);
@@ -190,6 +281,12 @@ TEST_F(OfferTemplates, AMissingOrUnknownNumberIsRefused) {
                      EXPECT_EQ(focus(), u"Angebotsnummer");
                      EXPECT_TRUE(form().Visible());
                    }
+                   form().Get<TextBox>(u"Angebotsnummer").Text(u"7777");
+                   expectBox(u"Das angegebene Angebot existiert nicht!", u"Angebot nicht vorhanden",
+                             msgbox::Exclamation);
+                   press(key::Enter);
+                   EXPECT_EQ(get(u"Angebotsnummer", u"SelLength"), Variant(std::int32_t{4}))
+                       << "selected, though the focus has been there all the time";
                  }),
             Variant(Null));
 }
@@ -244,6 +341,8 @@ TEST_F(OfferTemplates, TheRightButtonOpensTheMenuOnItsRow) {
     desktop.whenIdle([&] {
       if (desktop.openPopupMenu() != nullptr) {
         opened = true;
+        EXPECT_EQ(focus(), u"MSFlexGrid1");
+        EXPECT_TRUE(desktop.openPopupMenu()->items().at(0)->Enabled());
         EXPECT_EQ(desktop.openPopupMenu()->Name(), u"mnuPopup");
         EXPECT_TRUE(desktop.take(&form().Get<Menu>(u"mnuDelete")));
       } else if (desktop.openMessageBox() != nullptr) {
@@ -253,10 +352,51 @@ TEST_F(OfferTemplates, TheRightButtonOpensTheMenuOnItsRow) {
         form().closeBox();
       }
     });
-    clickRow(2, 2);
+    // A press of the right button by itself does not move the focus.
+    EXPECT_EQ(focus(), u"optAuswahl(1)");
+    grid().userPressed({2, 0}, 2, 0);
+    grid().userReleased({2, 0}, 2, 0);
     EXPECT_TRUE(opened);
   });
   EXPECT_THAT(named(), ElementsAre(u"400|   ", u"500|Baustelle"));
+}
+
+TEST_F(OfferTemplates, TheRightButtonBelowTheRowsOpensNothing) {
+  show(29, {u""}, [&] {
+    clickRow(1);
+    desktop.whenIdle([&] {
+      if (desktop.openPopupMenu() == nullptr) return form().closeBox();
+      ADD_FAILURE() << "a menu has opened";
+      desktop.take(nullptr);
+    });
+    clickRow(-1, 2);
+    EXPECT_EQ(grid().Row(), 1);
+  });
+}
+
+TEST_F(OfferTemplates, TheListIsHiddenWhileItIsFilledAndCanBeUsedAfterwards) {
+  show(29, {u""}, [&] {
+    clickRow(1);
+    EXPECT_EQ(focus(), u"MSFlexGrid1");
+    expectQuestion(u"Baustelle", u"500", MsgBoxResult::Yes);
+    press(key::Escape);
+    EXPECT_EQ(focus(), u"btnOK") << "the focus leaves what is hidden";
+    EXPECT_TRUE(grid().Visible());
+    grid().Enabled(false);
+    expectQuestion(u"Angebot 400", u"400", MsgBoxResult::Yes);
+    click(u"btnDelete");
+    EXPECT_TRUE(grid().Enabled());
+  });
+}
+
+TEST_F(OfferTemplates, AnOfferThatIsGoneLeavesTheListWithoutAWord) {
+  show(29, {u""}, [&] {
+    clickRow(1);
+    somebodyElse(u"DELETE FROM Angebotskopf WHERE Angebotsnummer=500");
+    expectQuestion(u"Baustelle", u"500", MsgBoxResult::Yes);
+    click(u"btnDelete");
+    EXPECT_THAT(templates(), ElementsAre(u"Angebot 400", u"Wartung"));
+  });
 }
 
 TEST_F(OfferTemplates, ARemovalThatFailsIsPassedOver) {
@@ -282,8 +422,11 @@ TEST_F(OfferTemplates, TheOfferInformationGivesTheNumber) {
                    EXPECT_EQ(text(u"Angebotsnummer"), u"100");
                    EXPECT_EQ(focus(), u"Angebotsnummer");
                    EXPECT_EQ(get(u"Angebotsnummer", u"SelLength"), Variant(std::int32_t{3}));
+                   press(key::F4, shift::Shift);
+                   EXPECT_EQ(auskunft.asked.size(), 1u) << "F4 alone asks";
                    auskunft.result = 0;
                    press(key::F4);
+                   EXPECT_EQ(auskunft.asked.size(), 2u);
                    EXPECT_EQ(text(u"Angebotsnummer"), u"100") << "nothing taken";
                    click(u"btnOK");
                  }),

@@ -4,6 +4,7 @@
 #include "forms/message_box.h"
 #include "runtime/convert.h"
 #include "sales/ask_auskunft.h"
+#include "sales/pictures.h"
 
 namespace zqn {
 
@@ -55,6 +56,7 @@ constexpr StringView openEnd = u"99999999999999";
 frmPreislisten::frmPreislisten() : CatalogueForm(plan::form, {u"Preislistenkopf", u"Preisliste"}) {
   for (TextBox* each : {&Schluessel, &Langtext, &txtKundennummer}) each->ForeColor(darkBlue);
   txtKunBez.BackColor(colour::ButtonFace);
+  btnKundenauskunft.Picture(&pictures::magnifier);
   Langtext.GotFocus = [this] { SelectActiveText(); };
   chkGlobalePreisliste.Click = [this] { UpdateEnabled(); };
   txtDatumVon.ValueChange = [this] { UpdateEnabled(); };
@@ -276,10 +278,13 @@ void frmPreislisten::btnKundenauskunft_Click() {
   ResumeNext step;
   step([&] { txtKundennummer.SetFocus(); });
   step([&] { optGueltigFuer(OneCustomer).Value(true); });
-  Variant number;
-  step([&] { number = askAuskunft(Session, u"AUSK_Kundenauskunft", u"Kundenauskunft", u"Kundennummer"); });
-  if (number.isEmpty()) return;
-  step([&] { txtKundennummer.Text(concatenate(number)); });
+  Ref<AuskunftObject> auskunft;
+  step([&] { auskunft = createAuskunft(); });
+  if (auskunft.isNothing()) return;
+  step([&] { addTake(*auskunft); });
+  step([&] { auskunft->Show(Session, u"AUSK_Kundenauskunft", u"Kundenauskunft"); });
+  if (!step.test([&] { return hasTaken(*auskunft); })) return;
+  step([&] { txtKundennummer.Text(concatenate(auskunft->ResultDataItems(u"Kundennummer"))); });
   step([&] { txtKundennummer_LostFocus(); });
 }
 

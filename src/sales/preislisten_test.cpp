@@ -3,72 +3,12 @@
 // The heads of the price lists: validity, for whom they hold, the customer behind a number.
 #include "sales/preislisten.h"
 
-#include "sales/auskunft_for_tests.h"
-#include "testing/dialog_test.h"
+#include "sales/preislisten_testing.h"
 
 namespace zqn::testing {
 namespace {
 
 using ::testing::ElementsAre;
-
-class Preislisten : public DialogTest {
- protected:
-  Preislisten() {
-    execute(
-        u"CREATE TABLE Preislistenkopf (Preisliste VARCHAR(5) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, "
-        u"Langtext "
-        u"VARCHAR(30) COLLATE ZQN_TEXT, GlobalePreisliste BOOLEAN, GültigVon VARCHAR(14) COLLATE ZQN_TEXT, "
-        u"GültigBis "
-        u"VARCHAR(14) COLLATE ZQN_TEXT, FuerPreisliste VARCHAR(5) COLLATE ZQN_TEXT, FuerKunde VARCHAR(10) "
-        u"COLLATE "
-        u"ZQN_TEXT, Währung VARCHAR(10) COLLATE ZQN_TEXT);"
-        u"CREATE TABLE Staffelpreise (Preisliste VARCHAR(5) COLLATE ZQN_TEXT, Preis DOUBLE);"
-        u"CREATE TABLE Kundenstamm (Kundennummer VARCHAR(10) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, Bez1 "
-        u"VARCHAR(50) "
-        u"COLLATE ZQN_TEXT);"
-        u"INSERT INTO Preislistenkopf VALUES ('-', 'System', 0, NULL, NULL, NULL, NULL, NULL);"
-        u"INSERT INTO Preislistenkopf VALUES ('A', 'Aktion', 1, '20260301000000', '20260531000000', NULL, "
-        u"NULL, 'EUR');"
-        u"INSERT INTO Preislistenkopf VALUES ('B', 'Beides', 1, '00000000000000', '99991231999999', 'A', "
-        u"'10001', 'EUR');"
-        u"INSERT INTO Preislistenkopf VALUES ('H', 'Handwerk', 0, '20260101000000', '20261231000000', 'A', "
-        u"'10001', 'CHF');"
-        u"INSERT INTO Preislistenkopf VALUES ('K', NULL, 1, NULL, '99999999999999', 'H', NULL, 'EUR');"
-        u"INSERT INTO Staffelpreise VALUES ('A', 10);"
-        u"INSERT INTO Staffelpreise VALUES ('A', 9);"
-        u"INSERT INTO Staffelpreise VALUES ('H', 8);"
-        u"INSERT INTO Kundenstamm VALUES ('10001', 'Werft Nordhafen');"
-        u"INSERT INTO Kundenstamm VALUES ('10002', 'Krause')");
-  }
-
-  bool option(int index) const {
-    return *get(u"optGueltigFuer(" + String(1, static_cast<char16_t>(u'0' + index)) + u")", u"Value")
-                .as<bool>();
-  }
-  Variant value(StringView control) const { return get(control, u"Value"); }
-  String row(StringView key) {
-    return rows(
-               u"SELECT Langtext, GlobalePreisliste, GültigVon, GültigBis, FuerPreisliste, FuerKunde, "
-               u"Währung FROM "
-               u"Preislistenkopf WHERE Preisliste='" +
-               String(key) + u"'")
-        .at(0);
-  }
-  /// "Neu", the key, and on to the name.
-  void enter(StringView key) {
-    click(u"btnNew");
-    type(key);
-    press(key::Tab);
-  }
-  void expectDeleteQuestion(StringView key, MsgBoxResult answer) {
-    expectBox(u"Möchten Sie die Preisliste '" + String(key) + u"' wirklich löschen?", u"Abfrage",
-              msgbox::YesNo | msgbox::Question, answer);
-  }
-  void expectUnknownCustomer(StringView number) {
-    expectBox(u"Kundenstammsatz '" + String(number) + u"' nicht angelegt.", u"Ungültige Kundennummer",
-              msgbox::Exclamation);
-  }
-};
 
 // ---- opening and reading
 
@@ -150,6 +90,16 @@ TEST_F(Preislisten, TheFieldOfTheCustomerLooksDisabledWithoutThePromotion) {
   });
 }
 
+TEST_F(Preislisten, NeuForgetsTheCustomerOfTheFormerList) {
+  show(16, {u"B"}, [&] {
+    press(key::F6);
+    EXPECT_EQ(text(u"txtKundennummer"), u"");
+    EXPECT_EQ(text(u"txtKunBez"), u"");
+    EXPECT_TRUE(value(u"cboPreisliste").isNull());
+    EXPECT_TRUE(option(0));
+  });
+}
+
 TEST_F(Preislisten, NeuKeepsTheDatesOfTheFormerList) {
   show(16, {u"A"}, [&] {
     click(u"btnNew");
@@ -158,6 +108,9 @@ TEST_F(Preislisten, NeuKeepsTheDatesOfTheFormerList) {
     EXPECT_EQ(value(u"txtDatumVon"), Variant(u"20260301000000"));
     EXPECT_FALSE(enabled(u"txtDatumVon"));
     EXPECT_FALSE(enabled(u"btnOK"));
+    select(2);
+    EXPECT_TRUE(value(u"txtDatumVon").isNull()) << "a list without the promotion has none";
+    EXPECT_TRUE(value(u"txtDatumBis").isNull());
   });
 }
 
@@ -269,12 +222,39 @@ TEST_F(Preislisten, TheOptionCountsWhenThePromotionIsTakenBack) {
     click(u"btnOK");
   });
   EXPECT_EQ(row(u"B"), u"Beides|Falsch|NULL|99999999999999|NULL|10001|EUR");
+  show(16, {u"K"}, [&] {
+    click(u"chkGlobalePreisliste");
+    EXPECT_TRUE(option(1));
+    EXPECT_FALSE(enabled(u"optGueltigFuer(1)"));
+    click(u"btnOK");
+  });
+  EXPECT_EQ(row(u"K"), u"NULL|Falsch|NULL|99999999999999|H|NULL|EUR");
+}
+
+TEST_F(Preislisten, AnEndWithoutAStartIsStored) {
+  show(16, {u"A"}, [&] {
+    form().control(u"txtDatumVon").SetFocus();
+    press(key::F3);
+    click(u"btnOK");
+  });
+  EXPECT_EQ(row(u"A"), u"Aktion|Wahr|NULL|20260531000000|NULL|NULL|EUR");
+}
+
+TEST_F(Preislisten, AnEndOnTheDayOfTheStartIsAllowed) {
+  show(16, {u"A"}, [&] {
+    form().control(u"txtDatumVon").SetFocus();
+    type(u"31.05.2026");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(row(u"A"), u"Aktion|Wahr|20260531000000|20260531000000|NULL|NULL|EUR");
 }
 
 TEST_F(Preislisten, ABlankKeyIsNotSaved) {
   show(16, {u""}, [&] {
     form().control(u"Schluessel").SetFocus();
     type(u"  ");
+    EXPECT_FALSE(enabled(u"btnOK"));
+    EXPECT_FALSE(enabled(u"btnDelete"));
     press(key::F9);
   });
   EXPECT_EQ(rows(u"SELECT COUNT(*) FROM Preislistenkopf"), std::vector<String>{u"5"});
@@ -346,47 +326,6 @@ TEST_F(Preislisten, ANumberWithAnApostropheBelongsToNobody) {
     expectUnknownCustomer(u"1'1");
     press(key::Tab);
     EXPECT_EQ(text(u"txtKundennummer"), u"");
-  });
-}
-
-// ---- the customer information
-
-TEST_F(Preislisten, TheCustomerInformationGivesTheNumber) {
-  OfferedAuskunft auskunft;
-  auskunft.result = 1;
-  auskunft.items[u"Kundennummer"] = u"10001";
-  show(16, {u"A"}, [&] {
-    click(u"btnKundenauskunft");
-    EXPECT_EQ(text(u"txtKundennummer"), u"10001");
-    EXPECT_EQ(text(u"txtKunBez"), u"Werft Nordhafen");
-    EXPECT_EQ(focus(), u"txtKundennummer");
-    EXPECT_TRUE(option(2));
-  });
-  EXPECT_THAT(auskunft.asked, ElementsAre(u"AUSK_Kundenauskunft|Kundenauskunft|Take Über&nehmen 0 0111"));
-}
-
-TEST_F(Preislisten, F4AsksTooAndAnUnknownAnswerIsRefused) {
-  OfferedAuskunft auskunft;
-  auskunft.result = 1;
-  auskunft.items[u"Kundennummer"] = u"88";
-  show(16, {u"A"}, [&] {
-    form().control(u"txtKundennummer").SetFocus();
-    expectUnknownCustomer(u"88");
-    press(key::F4);
-    EXPECT_EQ(text(u"txtKundennummer"), u"");
-  });
-}
-
-TEST_F(Preislisten, NothingTakenMissingOrFailingChangesNothing) {
-  show(16, {u"B"}, [&] {
-    click(u"btnKundenauskunft");
-    EXPECT_EQ(text(u"txtKundennummer"), u"10001") << "missing";
-    OfferedAuskunft auskunft;
-    click(u"btnKundenauskunft");
-    EXPECT_EQ(text(u"txtKundennummer"), u"10001") << "nothing taken";
-    auskunft.fails = error::ProviderFailure;
-    click(u"btnKundenauskunft");
-    EXPECT_EQ(text(u"txtKundennummer"), u"10001") << "failing";
   });
 }
 

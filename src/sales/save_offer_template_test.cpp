@@ -8,6 +8,8 @@
 namespace zqn::testing {
 namespace {
 
+using ::testing::ElementsAre;
+
 class SaveOfferTemplate : public DialogTest {
  protected:
   SaveOfferTemplate() {
@@ -22,8 +24,6 @@ class SaveOfferTemplate : public DialogTest {
     return rows(u"SELECT Angebotsnummer, Vorlage FROM Angebotskopf ORDER BY 1");
   }
 };
-
-using ::testing::ElementsAre;
 
 TEST_F(SaveOfferTemplate, ProposesANameAndStoresWhatIsEntered) {
   EXPECT_EQ(show(30, {std::int32_t{100}},
@@ -54,7 +54,40 @@ TEST_F(SaveOfferTemplate, WithoutANumberSaysSoAndShowsNoForm) {
        {Variant(std::int32_t{0}), Variant(Null), Variant(u""), Variant(u"abc"), Variant()}) {
     expectBox(u"Keine Angebotsnummer angegeben.", u"Keine Angebotsnummer", msgbox::Exclamation);
     EXPECT_EQ(showsNoForm(30, {number}), number);
+    EXPECT_TRUE(statements().empty()) << "nothing is read for a form";
   }
+}
+
+TEST_F(SaveOfferTemplate, ANameThatCannotBeReadGivesWayToTheNumber) {
+  for (const ado::Operation operation : {ado::Operation::Open, ado::Operation::Field}) {
+    fail(operation, u"Angebotskopf", error::ProviderFailure);
+    show(30, {std::int32_t{200}}, [&] {
+      EXPECT_EQ(text(u"VorlagenName"), u"Angebot 200");
+      EXPECT_TRUE(enabled(u"btnOK"));
+    });
+  }
+}
+
+TEST_F(SaveOfferTemplate, ANameOfBlanksIsProposedAnew) {
+  execute(u"UPDATE Angebotskopf SET Vorlage='   ' WHERE Angebotsnummer=200");
+  show(30, {std::int32_t{200}}, [&] { EXPECT_EQ(text(u"VorlagenName"), u"Angebot 200"); });
+}
+
+TEST_F(SaveOfferTemplate, StoresTheNameAsItStands) {
+  show(30, {std::int32_t{100}}, [&] {
+    EXPECT_EQ(statements().at(0), u"Select Vorlage from Angebotskopf Where Angebotsnummer=100");
+    type(u"  Rand ");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(statements().at(0), u"Select Vorlage from Angebotskopf Where Angebotsnummer=100");
+  EXPECT_EQ(rows(u"SELECT '[' || Vorlage || ']' FROM Angebotskopf WHERE Angebotsnummer=100"),
+            std::vector<String>{u"[  Rand ]"});
+}
+
+TEST_F(SaveOfferTemplate, NeedsNoRightToChangeCatalogues) {
+  session->SaveSetting(u"ZQNComDlg", u"AdminsOnly", u"1", Missing, zqnSaveAsGlobalSetting);
+  show(30, {std::int32_t{100}}, [&] { click(u"btnOK"); });
+  EXPECT_THAT(offers(), ElementsAre(u"100|Angebot 100", u"200|Wartung"));
 }
 
 TEST_F(SaveOfferTemplate, ABlankNameCannotBeSaved) {
@@ -89,7 +122,10 @@ TEST_F(SaveOfferTemplate, EscAndAbbrechenLeaveTheOfferAlone) {
 
 TEST_F(SaveOfferTemplate, AFailedSaveIsToldWithNumberAndWordsAndTheFormStays) {
   const std::pair<ado::Operation, std::int32_t> failures[] = {
-      {ado::Operation::Open, error::CommandText}, {ado::Operation::Update, error::ProviderFailure}};
+      {ado::Operation::Open, error::CommandText},
+      {ado::Operation::Field, error::ItemNotFound},
+      {ado::Operation::Update, error::ProviderFailure},
+      {ado::Operation::Close, error::ProviderFailure}};
   show(30, {std::int32_t{100}}, [&] {
     for (const auto& [operation, number] : failures) {
       fail(operation, u"Angebotskopf", number);

@@ -3,89 +3,12 @@
 // The payment types of both sides with their text blocks.
 #include "sales/zahlungsarten.h"
 
-#include "testing/dialog_test.h"
+#include "sales/zahlungsarten_testing.h"
 
 namespace zqn::testing {
 namespace {
 
 using ::testing::ElementsAre;
-
-class Zahlungsarten : public DialogTest {
- protected:
-  Zahlungsarten() {
-    for (const StringView table : {u"Zahlungsarten", u"ZahlungsartenEK"})
-      execute(u"CREATE TABLE " + String(table) +
-              u" (Zahlungsart VARCHAR(15) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, Kurztext VARCHAR(30) "
-              u"COLLATE ZQN_TEXT, "
-              u"OhneFibu BOOLEAN, ZahlungsartFibu VARCHAR(10) COLLATE ZQN_TEXT, DefaultZahlungsbedSchl "
-              u"VARCHAR(3) COLLATE "
-              u"ZQN_TEXT, OhneDruckSkonto INTEGER)");
-    execute(
-        u"CREATE TABLE Textbausteine (Textart VARCHAR(3) COLLATE ZQN_TEXT NOT NULL, TextNummer VARCHAR(15) "
-        u"COLLATE "
-        u"ZQN_TEXT NOT NULL, ZusatztextNummer VARCHAR(3) COLLATE ZQN_TEXT NOT NULL, SprachKZ VARCHAR(3) "
-        u"COLLATE ZQN_TEXT "
-        u"NOT NULL, Kurztext VARCHAR(50) COLLATE ZQN_TEXT, Langtext TEXT COLLATE ZQN_TEXT, WoDrucken "
-        u"VARCHAR(8) COLLATE "
-        u"ZQN_TEXT, Schriftart VARCHAR(50) COLLATE ZQN_TEXT, Schriftgröße INTEGER, Schriftstil VARCHAR(10) "
-        u"COLLATE ZQN_TEXT, "
-        u"PRIMARY KEY (Textart, TextNummer, ZusatztextNummer, SprachKZ));"
-        u"CREATE TABLE Zahlungsbedingungen (ZahlBedSchl VARCHAR(3) COLLATE ZQN_TEXT NOT NULL PRIMARY KEY, "
-        u"Kurztext "
-        u"VARCHAR(100) COLLATE ZQN_TEXT);"
-        u"INSERT INTO Zahlungsbedingungen VALUES ('14', '14 Tage netto.');"
-        u"INSERT INTO Zahlungsarten VALUES ('-', 'System', 0, NULL, NULL, 0);"
-        u"INSERT INTO Zahlungsarten VALUES ('BAR', 'Barzahlung', 1, '-', NULL, -1);"
-        u"INSERT INTO Zahlungsarten VALUES ('LAS', 'Lastschrift', 0, 'E', '14', 0);"
-        u"INSERT INTO Zahlungsarten VALUES ('UEB', 'Überweisung', 0, NULL, NULL, NULL);"
-        u"INSERT INTO ZahlungsartenEK VALUES ('SCH', 'Scheck', 0, 'S', NULL, 0);"
-        u"INSERT INTO Textbausteine VALUES ('ZAA', 'LAS', '000', 'ÿÿÿ', 'Lastschrift', 'Wir buchen ab.', "
-        u"'N-LR----', "
-        u"'Times', 12, 'B---');"
-        u"INSERT INTO Textbausteine VALUES ('ZAA', 'LAS', '000', 'E', 'Debit', 'We debit.', 'N-------', "
-        u"'Arial', 10, '---L');"
-        u"INSERT INTO Textbausteine VALUES ('ZAA', 'BAR', '000', 'ÿÿÿ', 'Bar', '', '---R----', 'Arial', 10, "
-        u"'---L');"
-        u"INSERT INTO Textbausteine VALUES ('EZA', 'SCH', '000', 'ÿÿÿ', 'Scheck', 'Per Scheck.', 'N----AE-', "
-        u"'Arial', 10, "
-        u"'---L')");
-  }
-
-  /// Captions of the toggles that are down, those that are hidden in brackets.
-  std::string toggles() const {
-    std::string names;
-    for (const StringView each : {u"AN", u"AB", u"LS", u"RG", u"GS", u"AF", u"BS", u"LM"}) {
-      const auto& toggle = form().Get<ToggleButton>(u"tglDruck" + String(each));
-      if (!toggle.Value()) continue;
-      names += (names.empty() ? "" : " ") + (toggle.Visible() ? toUtf8(each) : "(" + toUtf8(each) + ")");
-    }
-    return names;
-  }
-  int number(StringView control) const { return *get(control, u"Value").as<std::int32_t>(); }
-  Variant terms() const { return get(u"DefaultZahlungsbedSchl", u"Value"); }
-  String row(StringView table, StringView key) {
-    const std::vector<String> found = rows(
-        u"SELECT Kurztext, CAST(OhneFibu AS INTEGER), ZahlungsartFibu, DefaultZahlungsbedSchl, "
-        u"OhneDruckSkonto FROM " +
-        String(table) + u" WHERE Zahlungsart='" + String(key) + u"'");
-    return found.empty() ? String(u"(fehlt)") : found.front();
-  }
-  std::vector<String> blocks(StringView key) {
-    return rows(
-        u"SELECT Textart, ZusatztextNummer, SprachKZ, Kurztext, Langtext, WoDrucken, Schriftart, "
-        u"Schriftgröße, "
-        u"Schriftstil FROM Textbausteine WHERE TextNummer='" +
-        String(key) + u"' ORDER BY 1, 2, 3");
-  }
-  void enter(StringView key) {
-    click(u"btnNew");
-    type(key);
-    press(key::Tab);
-  }
-  void expectDeleteQuestion() {
-    expectBox(u"Datensatz löschen?", u"Abfrage", msgbox::YesNo | msgbox::Question, MsgBoxResult::Yes);
-  }
-};
 
 // ---- reading
 
@@ -141,6 +64,108 @@ TEST_F(Zahlungsarten, AnUnknownKeyIsPrintedEverywhereButOnCreditNotes) {
   show(2, {u"NEU"}, [&] { EXPECT_EQ(toggles(), "(AN) (AB) (LS) (RG) AF BS LM"); });
 }
 
+TEST_F(Zahlungsarten, AnUnknownKeyEmptiesAllFields) {
+  show(1, {u"LAS"}, [&] {
+    click(u"chkOhneDruckSkonto");
+    click(u"chkOhneFibu");
+    form().control(u"Schluessel").SetFocus();
+    type(u"NEU");
+    press(key::Tab);
+    for (const StringView field : {u"txtKurztext", u"ZahlungsartFibu", u"txtLangtext"})
+      EXPECT_EQ(text(field), u"") << toUtf8(field);
+    for (const StringView box : {u"chkDefaultZahlungsbedSchl", u"chkOhneDruckSkonto", u"chkOhneFibu"})
+      EXPECT_EQ(number(box), 0) << toUtf8(box);
+    EXPECT_TRUE(terms().isNull());
+    EXPECT_EQ(get(u"DefaultZahlungsbedSchl", u"EntryEnabled"), Variant(false));
+    EXPECT_TRUE(enabled(u"ZahlungsartFibu"));
+    EXPECT_EQ(text(u"Schluessel"), u"NEU");
+  });
+}
+
+TEST_F(Zahlungsarten, TheTickOfTransferComesFromTheCodeAndFromNothingElse) {
+  execute(u"UPDATE Zahlungsarten SET OhneFibu=1 WHERE Zahlungsart='LAS'");
+  show(1, {u"LAS"}, [&] {
+    EXPECT_EQ(number(u"chkOhneFibu"), 0);
+    EXPECT_EQ(text(u"ZahlungsartFibu"), u"E");
+  });
+}
+
+TEST_F(Zahlungsarten, BlanksAroundTheHyphenAndBlankTermsDoNotCount) {
+  execute(
+      u"UPDATE Zahlungsarten SET ZahlungsartFibu=' - ', DefaultZahlungsbedSchl='  ', OhneDruckSkonto=1 WHERE "
+      u"Zahlungsart='LAS'");
+  show(1, {u"LAS"}, [&] {
+    EXPECT_EQ(number(u"chkOhneFibu"), 1);
+    EXPECT_EQ(text(u"ZahlungsartFibu"), u"");
+    EXPECT_EQ(number(u"chkDefaultZahlungsbedSchl"), 0);
+    EXPECT_TRUE(terms().isNull());
+    EXPECT_EQ(number(u"chkOhneDruckSkonto"), 1) << "every number but 0";
+  });
+}
+
+TEST_F(Zahlungsarten, TheAccountingCodeOffersOneEntry) {
+  show(1, {u"LAS"}, [&] {
+    EXPECT_EQ(get(u"ZahlungsartFibu", u"ListCount"), Variant(std::int32_t{1}));
+    EXPECT_EQ(get(u"ZahlungsartFibu", u"List(0)"), Variant(u"E"));
+  });
+}
+
+TEST_F(Zahlungsarten, TheTermsOfferTheKeysOfTheirCatalogue) {
+  show(1, {u"LAS"}, [&] {
+    auto& combo = form().Get<zqCombo>(u"DefaultZahlungsbedSchl");
+    combo.readEntries();
+    ASSERT_EQ(combo.ListCount(), 1);
+    EXPECT_EQ(combo.keyOf(0), u"14");
+  });
+}
+
+TEST_F(Zahlungsarten, TickingTheTermsOpensTheirCombo) {
+  show(1, {u"UEB"}, [&] {
+    form().Get<zqCombo>(u"DefaultZahlungsbedSchl").readEntries();
+    EXPECT_FALSE(form().control(u"DefaultZahlungsbedSchl").isUsable());
+    click(u"chkDefaultZahlungsbedSchl");
+    EXPECT_TRUE(form().control(u"DefaultZahlungsbedSchl").isUsable());
+    form().control(u"DefaultZahlungsbedSchl").SetFocus();
+    type(u"14");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(row(u"Zahlungsarten", u"UEB"), u"Überweisung|0|NULL|14|0");
+}
+
+TEST_F(Zahlungsarten, AFieldThatGetsTheFocusIsSelected) {
+  show(1, {u"LAS"}, [&] {
+    form().control(u"txtKurztext").SetFocus();
+    EXPECT_EQ(get(u"txtKurztext", u"SelLength"), Variant(std::int32_t{11}));
+    form().control(u"Schluessel").SetFocus();
+    EXPECT_EQ(get(u"Schluessel", u"SelLength"), Variant(std::int32_t{3}));
+  });
+}
+
+TEST_F(Zahlungsarten, ARecordThatCannotBeReadLeavesTheFieldsAndTheButtonsFollowTheKey) {
+  show(1, {u""}, [&] {
+    EXPECT_FALSE(enabled(u"btnOK"));
+    fail(ado::Operation::Open, u"WHERE Zahlungsart ='UEB'", error::ProviderFailure);
+    form().control(u"Schluessel").SetFocus();
+    type(u"UEB");
+    press(key::Tab);
+    EXPECT_EQ(text(u"txtKurztext"), u"");
+    EXPECT_TRUE(enabled(u"btnOK"));
+    EXPECT_TRUE(enabled(u"btnDelete"));
+    fail(ado::Operation::Open, u"WHERE Zahlungsart ='BAR'", error::ProviderFailure);
+    expectError(u"TDBList1_RowColChange", error::ProviderFailure);
+    select(0);
+  });
+}
+
+TEST_F(Zahlungsarten, ATextBlockThatCannotBeReadCountsAsNone) {
+  fail(ado::Operation::Open, u"FROM Textbausteine", error::ProviderFailure, 2);
+  show(1, {u"LAS"}, [&] {
+    EXPECT_EQ(text(u"txtKurztext"), u"Lastschrift");
+    EXPECT_EQ(text(u"txtLangtext"), u"");
+    EXPECT_EQ(toggles(), "");
+  });
+}
+
 TEST_F(Zahlungsarten, ARowWithoutATextBlockShowsNoMarks) {
   show(1, {u"UEB"}, [&] {
     EXPECT_EQ(toggles(), "");
@@ -183,6 +208,40 @@ TEST_F(Zahlungsarten, ANewOneIsStoredWithItsTextBlock) {
   });
   EXPECT_EQ(row(u"Zahlungsarten", u"neu"), u"Neue Art|0|NULL|NULL|0");
   EXPECT_THAT(blocks(u"neu"), ElementsAre(u"ZAA|000|ÿÿÿ|  Neue Art |Zahlbar sofort.|NBLRG---|Arial|10|---L"));
+}
+
+TEST_F(Zahlungsarten, AKeyIsStoredAsItWasTypedAndAnEmptyTextAsAText) {
+  show(2, {u""}, [&] {
+    enter(u" q");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(rows(u"SELECT '[' || Zahlungsart || ']', Kurztext FROM ZahlungsartenEK WHERE Zahlungsart=' q'"),
+            std::vector<String>{u"[ q]|NULL"});
+  EXPECT_THAT(blocks(u" q"), ElementsAre(u"EZA|000|ÿÿÿ|||-----AEM|Arial|10|---L"));
+}
+
+TEST_F(Zahlungsarten, RowAndTextAreWrittenOneAfterTheOther) {
+  for (const auto& [kind, name, table, textKind] :
+       {std::tuple{1, u"LAS", u"Zahlungsarten", u"ZAA"}, {2, u"SCH", u"ZahlungsartenEK", u"EZA"}}) {
+    show(kind, {name}, [&, key = String(name), from = String(table), block = String(textKind)] {
+      const String rest =
+          block + u"' AND TextNummer ='" + key + u"' AND ZusatztextNummer ='000' AND SprachKZ ='ÿÿÿ'";
+      statements();
+      click(u"btnOK");
+      std::vector<String> all = statements();
+      all.resize(2);
+      EXPECT_THAT(all, ElementsAre(u"SELECT * FROM " + from + u" WHERE Zahlungsart ='" + key + u"'",
+                                   u"Select * From Textbausteine Where Textart ='" + rest));
+      expectDeleteQuestion();
+      click(u"btnDelete");
+      all = statements();
+      all.resize(3);
+      EXPECT_THAT(all, ElementsAre(u"DELETE FROM " + from + u" WHERE Zahlungsart ='" + key + u"'",
+                                   u"DELETE FROM Textbausteine Where Textart ='" + rest,
+                                   u"SELECT Zahlungsart, Kurztext FROM " + from +
+                                       u" Where Zahlungsart<>'-' ORDER BY Zahlungsart"));
+    });
+  }
 }
 
 TEST_F(Zahlungsarten, ThePurchaseSideStoresItsOwnMarks) {
@@ -242,13 +301,17 @@ TEST_F(Zahlungsarten, ARowThatCannotBeSavedIsPassedOverAndItsTextIsWritten) {
 
 // ---- deleting and picking
 
-TEST_F(Zahlungsarten, DeletingLeavesTextsOfOtherLanguages) {
+TEST_F(Zahlungsarten, DeletingLeavesTextsOfOtherLanguagesAndFurtherTexts) {
+  execute(
+      u"INSERT INTO Textbausteine VALUES ('ZAA', 'LAS', '001', 'ÿÿÿ', 'Zweiter', 'Mehr.', '', 'Arial', 10, "
+      u"'---L')");
   show(1, {u"LAS"}, [&] {
     expectDeleteQuestion();
     click(u"btnDelete");
     EXPECT_THAT(listRows(), ElementsAre(u"BAR|Barzahlung", u"UEB|Überweisung"));
   });
-  EXPECT_THAT(blocks(u"LAS"), ElementsAre(u"ZAA|000|E|Debit|We debit.|N-------|Arial|10|---L"));
+  EXPECT_THAT(blocks(u"LAS"), ElementsAre(u"ZAA|000|E|Debit|We debit.|N-------|Arial|10|---L",
+                                          u"ZAA|001|ÿÿÿ|Zweiter|Mehr.||Arial|10|---L"));
 }
 
 TEST_F(Zahlungsarten, AFailingSecondStatementLeavesTheTextAndIsShown) {
@@ -274,11 +337,45 @@ TEST_F(Zahlungsarten, ADoubleClickPicksAndMultiselectStaysQuiet) {
             Variant(u"BAR"));
 }
 
+TEST_F(Zahlungsarten, TheFormItselfTellsOfAPickWithMultiselect) {
+  std::vector<Variant> told;
+  frmZahlungsarten sales;
+  sales.Connection = connection;
+  sales.Multiselect = true;
+  sales.DblClick = [&](const Variant& key) { told.push_back(key); };
+  during([&] { sales.ShowData(); },
+         [&] {
+           doubleClick(2);
+           press(key::F9);
+         });
+  EXPECT_THAT(told, ElementsAre(Variant(u"UEB"), Variant(u"UEB")));
+}
+
+TEST_F(Zahlungsarten, EnterMovesOnAndF9PicksInTheList) {
+  EXPECT_EQ(show(1, {u"BAR"},
+                 [&] {
+                   select(1);
+                   press(key::Enter);
+                   EXPECT_EQ(focus(), u"Schluessel");
+                   press(key::F6);
+                   EXPECT_EQ(text(u"Schluessel"), u"");
+                   select(2);
+                   press(key::F9);
+                 }),
+            Variant(u"UEB"));
+}
+
 TEST_F(Zahlungsarten, AFailureWhileFillingIsPassedOver) {
   fail(ado::Operation::Open, u"ORDER BY Zahlungsart", error::ProviderFailure);
   show(1, {u"LAS"}, [&] {
     EXPECT_TRUE(form().Visible());
     EXPECT_EQ(text(u"txtKurztext"), u"Lastschrift");
+  });
+  // A key that is no text cannot be assigned.
+  show(1, {Variant(std::make_shared<Object>())}, [&] {
+    EXPECT_TRUE(form().Visible());
+    EXPECT_EQ(text(u"Schluessel"), u"");
+    EXPECT_FALSE(form().control(u"tglDruckAF").Visible());
   });
 }
 
@@ -286,36 +383,13 @@ TEST_F(Zahlungsarten, WithoutTheRightNothingIsSaved) {
   session->SaveSetting(u"ZQNComDlg", u"AdminsOnly", u"1", Missing, zqnSaveAsGlobalSetting);
   expectBox(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.",
             u"TALVEX Software", msgbox::Information);
-  show(2, {u"SCH"}, [&] { click(u"btnOK"); });
-}
-
-// ---- the generic form reads and writes the same rows
-
-TEST_F(Zahlungsarten, BothFormsReadEachOthersRows) {
-  show(1, {u""}, [&] {
-    enter(u"GEM");
-    type(u"Gemeinsam");
-    form().control(u"txtLangtext").SetFocus();
-    type(u"Aus dem einen Dialog.");
+  expectBox(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.",
+            u"TALVEX Software", msgbox::Information);
+  show(2, {u"SCH"}, [&] {
     click(u"btnOK");
+    click(u"btnDelete");
   });
-  param = {u"GEM"};
-  desktop.whenIdle([&] {
-    EXPECT_EQ(text(u"txtKeyText"), u"Gemeinsam");
-    EXPECT_EQ(text(u"txtLangtext"), u"Aus dem einen Dialog.");
-    form().Get<TextBox>(u"txtLangtext").Text(u"Aus dem anderen.");
-    click(u"cmdOK");
-    form().closeBox();
-  });
-  dialog.ShowGeneric(1, param);
-  ORBDialog again;
-  again.Session(Ref<Session>(session));
-  desktop.whenIdle([&] {
-    EXPECT_EQ(text(u"txtLangtext"), u"Aus dem anderen.");
-    EXPECT_EQ(text(u"txtKurztext"), u"Gemeinsam");
-    form().closeBox();
-  });
-  again.Show(1, param);
+  EXPECT_EQ(row(u"ZahlungsartenEK", u"SCH"), u"Scheck|0|S|NULL|0");
 }
 
 }  // namespace

@@ -113,6 +113,15 @@ void DialogTest::Before(ado::Operation operation, StringView statement, StringVi
   }
 }
 
+std::vector<String> DialogTest::statements() {
+  std::vector<String> texts;
+  for (const auto& [operation, statement] : operations) {
+    if (operation == ado::Operation::Open || operation == ado::Operation::Execute) texts.push_back(statement);
+  }
+  operations.clear();
+  return texts;
+}
+
 // ---- the dialog
 
 Variant DialogTest::show(std::int32_t kind, VariantArray handedIn, const std::function<void()>& acts,

@@ -70,6 +70,8 @@ class DialogTest : public ::testing::Test, private DesktopListener, private ado:
   void failAt(std::size_t position) { failingPosition_ = position; }
   /// Operations that have run so far.
   std::vector<std::pair<ado::Operation, String>> operations;
+  /// The statements of those that opened a recordset or were executed. Forgets all operations.
+  std::vector<String> statements();
 
   // ---- the dialog
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt/command_button.h"
 
-#include <QPainter>
-
 #include "desktop/qt/picture_box.h"
 #include "desktop/qt/text.h"
 
@@ -26,15 +24,8 @@ void CommandButton::drawPictureOfModel() {
   if (drawn_ == model_.Picture()) return;
   drawn_ = model_.Picture();
   if (drawn_ == nullptr) return setIcon({});
-  const QSize size = sizeOf(*drawn_, *this);
-  QPixmap pixels(size * devicePixelRatioF());
-  pixels.setDevicePixelRatio(devicePixelRatioF());
-  pixels.fill(Qt::transparent);
-  QPainter painter(&pixels);
-  drawPicture(painter, {}, *drawn_, *this);
-  painter.end();
-  setIconSize(size);
-  setIcon(QIcon(pixels));
+  setIconSize(sizeOf(*drawn_, *this));
+  setIcon(QIcon(pixelsOf(*drawn_, *this)));
 }
 
 void CommandButton::compare(Differences& found) const {

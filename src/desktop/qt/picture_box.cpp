@@ -40,6 +40,15 @@ void drawPicture(QPainter& painter, QPoint place, const zqn::Picture& picture, c
   painter.restore();
 }
 
+QPixmap pixelsOf(const zqn::Picture& picture, const QWidget& widget) {
+  QPixmap pixels(sizeOf(picture, widget) * widget.devicePixelRatioF());
+  pixels.setDevicePixelRatio(widget.devicePixelRatioF());
+  pixels.fill(Qt::transparent);
+  QPainter painter(&pixels);
+  drawPicture(painter, {}, picture, widget);
+  return pixels;
+}
+
 PictureBox::PictureBox(zqn::PictureBox& model, QWidget* parent)
     : QLabel(parent),
       ControlWidget(model, *this, {QPalette::Window, QPalette::WindowText, colour::ButtonFace}),
@@ -49,15 +58,9 @@ void PictureBox::draw() {
   drawn_ = model_.Picture();
   if (drawn_ == nullptr) {
     clear();
-    return;
+  } else {
+    setPixmap(pixelsOf(*drawn_, *this));
   }
-  QPixmap pixels(sizeOf(*drawn_, *this) * devicePixelRatioF());
-  pixels.setDevicePixelRatio(devicePixelRatioF());
-  pixels.fill(Qt::transparent);
-  QPainter painter(&pixels);
-  drawPicture(painter, {}, *drawn_, *this);
-  painter.end();
-  setPixmap(pixels);
 }
 
 void PictureBox::compare(Differences& found) const {

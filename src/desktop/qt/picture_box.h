@@ -16,6 +16,8 @@ namespace zqn::qt {
 QSize sizeOf(const zqn::Picture& picture, const QPaintDevice& device);
 /// Draws the picture with its upper left corner here.
 void drawPicture(QPainter& painter, QPoint place, const zqn::Picture& picture, const QWidget& widget);
+/// The picture in as many pixels as the widget's screen has for it; transparent where nothing is drawn.
+QPixmap pixelsOf(const zqn::Picture& picture, const QWidget& widget);
 
 class PictureBox : public QLabel, public ControlWidget {
  public:

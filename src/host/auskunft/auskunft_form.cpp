@@ -21,15 +21,15 @@ using enum ControlKind;
 // clang-format off
 constexpr ControlDesign roster[] = {
     {u"lblSuche",   Label,         u"Suche nach Nummer oder Name:",  120,  150, 2500, 255},
-    {u"txtSuche",   TextBox,       u"",                             2700,  120, 4620, 285},
-    {u"TDBList1",   TDBList,       u"",                              120,  540, 7200, 3600},
+    {u"txtSuche",   TextBox,       u"",                             2700,  120, 8580, 285},
+    {u"TDBList1",   TDBList,       u"",                              120,  540, 11160, 3600},
     {u"lblTreffer", Label,         u"",                              120, 4290, 3000, 255},
-    {u"btnTake",    CommandButton, u"Über&nehmen",                  4785, 4260, 1215, 315, {.Default = true}},
-    {u"btnCancel",  CommandButton, u"Schließen",                    6105, 4260, 1215, 315, {.Cancel = true}},
+    {u"btnTake",    CommandButton, u"Über&nehmen",                  8745, 4260, 1215, 315, {.Default = true}},
+    {u"btnCancel",  CommandButton, u"Schließen",                   10065, 4260, 1215, 315, {.Cancel = true}},
 };
 // clang-format on
 
-constexpr FormDesign form{u"frmAuskunft", u"Auskunft", 7440, 4695, roster};
+constexpr FormDesign form{u"frmAuskunft", u"Auskunft", 11400, 4695, roster};
 
 }  // namespace plan
 
@@ -39,6 +39,7 @@ const std::array<std::pair<StringView, AuskunftSubject>, 2>& subjects() {
         {.select = u"SELECT Kundennummer, Bez1 AS Name, Bez2 AS Zusatz, PLZ, Ort FROM Kundenstamm",
          .number = u"Kundennummer",
          .names = {u"Bez1", u"Bez2", u"Ort"},
+         .widths = {1350, 4350, 2100, 900, 1800},
          .item = u"Kundennummer"}},
        {u"AUSK_Angebotsauskunft",
         {.select = u"SELECT Angebotskopf.Angebotsnummer AS Belegnummer, Betreff, Kundenstamm.Bez1 AS Kunde, "
@@ -46,6 +47,7 @@ const std::array<std::pair<StringView, AuskunftSubject>, 2>& subjects() {
                    u"Kundenstamm.Kundennummer=Angebotskopf.Kundennummer",
          .number = u"Angebotsnummer",
          .names = {u"Betreff", u"Bez1", u"Vorlage"},
+         .widths = {1200, 2520, 3075, 3900},
          .item = u"Belegnummer"}}}};
   return all;
 }
@@ -110,10 +112,22 @@ void frmAuskunft::search() {
   found_ = Ref<ado::Recordset>::make();
   step([&] { found_->CursorLocation(ado::adUseServer); });
   step([&] { found_->Open(statement(), connection_, ado::adOpenKeyset, ado::adLockReadOnly); });
-  step([&] { TDBList1.DataSource(found_); });
+  show();
   const bool some = found_->State() != ado::adStateClosed && found_->RecordCount() > 0;
   lblTreffer.Caption(some ? CStr(found_->RecordCount()) + u" gefunden" : String(u"nichts gefunden"));
   btnTake.Enabled(some);
+}
+
+/// Shows what was found in the columns as a person left them.
+void frmAuskunft::show() {
+  ResumeNext step;
+  const bool hasColumns = TDBList1.columnCount() > 0;
+  TDBList1.HoldFields();
+  step([&] { TDBList1.DataSource(found_); });
+  step([&] { TDBList1.ReBind(); });
+  if (hasColumns) return;
+  for (int i = 0; i < TDBList1.columnCount(); ++i)
+    TDBList1.Columns(i).Width(subject_.widths.at(static_cast<std::size_t>(i)));
 }
 
 void frmAuskunft::takeMarked() {

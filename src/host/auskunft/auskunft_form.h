@@ -3,7 +3,7 @@
 // The information dialog for a person: finds customers or offers as one types, by the front of their number
 // or by any part of their name, and takes the marked one over by Enter, a double click or the button.
 //
-//     frmAuskunft form(customers(), connection);
+//     frmAuskunft form(*auskunftSubject(u"AUSK_Kundenauskunft"), connection);
 //     form.Show();
 //     if (form.taken()) use(form.value());
 #pragma once
@@ -27,6 +27,8 @@ struct AuskunftSubject {
   /// The column of the number, and those that are searched for a part of the name.
   StringView number;
   std::vector<StringView> names;
+  /// Of the columns, in twips; the last one reaches to the edge of the list.
+  std::vector<int> widths;
   /// The name under which the number is given back.
   StringView item;
 };
@@ -46,6 +48,7 @@ class frmAuskunft final : public Form {
 
  private:
   void search();
+  void show();
   void takeMarked();
   ado::sql::Text statement() const;
 

@@ -35,7 +35,7 @@ class AuskunftTest : public ::testing::Test {
   }
   ~AuskunftTest() override {
     ObjectFactory::current().withdraw(u"Kalmera.AuskunftObject");
-    connection_->Close();
+    if (connection_->State() != ado::adStateClosed) connection_->Close();
     std::filesystem::remove_all(folder_);
   }
 
@@ -71,11 +71,11 @@ class AuskunftTest : public ::testing::Test {
 
   headless::HeadlessDesktop desktop;
   Desktop::Scope scope{desktop};
+  Ref<ado::Connection> connection_;
 
  private:
   std::filesystem::path folder_ =
       std::filesystem::temp_directory_path() / ("zqn-auskunft-" + std::to_string(std::random_device()()));
-  Ref<ado::Connection> connection_;
 };
 
 TEST_F(AuskunftTest, FindsCustomersByTheFrontOfTheNumberAndByAnyPartOfTheName) {
@@ -107,6 +107,31 @@ TEST_F(AuskunftTest, EnterTakesTheMarkedRow) {
   EXPECT_EQ(errorNumberOf([&] { return auskunft->ResultDataItems(u"Belegnummer"); }), error::ItemNotFound);
 }
 
+TEST_F(AuskunftTest, ADoubleClickTakesTheRow) {
+  const auto auskunft = askCustomers([&] { list().userDoubleClick(0); });
+  EXPECT_EQ(auskunft->Result(), 1);
+  EXPECT_EQ(auskunft->ResultDataItems(u"Kundennummer"), Variant(u"10001"));
+}
+
+TEST_F(AuskunftTest, ANumberCountsFromItsFront) {
+  askCustomers([&] {
+    type(u"0001");
+    EXPECT_THAT(numbers(), ElementsAre());
+    EXPECT_EQ(form().control(u"lblTreffer").content(), u"nichts gefunden");
+    form().Get<TextBox>(u"txtSuche").Text(u"10001");
+    EXPECT_EQ(form().control(u"lblTreffer").content(), u"1 gefunden");
+  });
+}
+
+TEST_F(AuskunftTest, ASearchThatFailsFindsNothing) {
+  askCustomers([&] {
+    connection_->Close();
+    type(u"1");
+    EXPECT_THAT(numbers(), ElementsAre());
+    EXPECT_FALSE(form().control(u"btnTake").Enabled());
+  });
+}
+
 TEST_F(AuskunftTest, OffersAreFoundByTheirCustomerAndGiveTheirNumber) {
   const auto auskunft = ask(u"AUSK_Angebotsauskunft", u"Angebotsauskunft", [&] {
     type(u"chemie");
@@ -127,8 +152,12 @@ TEST_F(AuskunftTest, SignsOfPatternsAndApostrophesStandForAnyCharacter) {
   askCustomers([&] {
     type(u"Alpen'lick");
     EXPECT_THAT(numbers(), ElementsAre(u"10014"));
-    form().Get<TextBox>(u"txtSuche").Text(u"%");
-    EXPECT_FALSE(numbers().empty());
+    for (const StringView sign : {u"%", u"_", u"*", u"[", u"?", u"'"}) {
+      form().Get<TextBox>(u"txtSuche").Text(String(sign) + u"0001");
+      EXPECT_THAT(numbers(), ElementsAre(u"10001")) << toUtf8(sign);
+      form().Get<TextBox>(u"txtSuche").Text(String(sign) + u"7");
+      EXPECT_THAT(numbers(), ElementsAre()) << toUtf8(sign) << " stands for one character, and for no more";
+    }
   });
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -8,6 +10,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "desktop/headless/headless_desktop.h"
 #include "frontend/kinds.h"
@@ -81,6 +84,21 @@ TEST(DialogTitles, AreThoseOfAllKindsOnce) {
   std::ranges::sort(kinds);
   ASSERT_EQ(kinds.size(), dialogKinds().size());
   for (const KindInfo& kind : dialogKinds()) EXPECT_EQ(kinds.at(kind.number - 1u), kind.number);
+}
+
+TEST(DialogTitles, SayWhatGoesInAndWhatComesOut) {
+  EXPECT_THAT(paramNames(1), ElementsAre(u"Schlüssel"));
+  EXPECT_EQ(resultName(1), u"Schlüssel");
+  EXPECT_THAT(paramNames(27), ElementsAre(u"Herkunft"));
+  EXPECT_EQ(paramNames(28).size(), 4u);
+  EXPECT_THAT(paramNames(29), ElementsAre(u"Beliebig"));
+  EXPECT_EQ(resultName(29), u"Angebotsnummer, -1 für ein neues Angebot, Null nach Abbruch");
+  EXPECT_THAT(paramNames(30), ElementsAre(u"Angebotsnummer"));
+  EXPECT_EQ(resultName(30), u"Angebotsnummer");
+  EXPECT_THAT(paramNames(31), ElementsAre(u"Belegart"));
+  EXPECT_EQ(resultName(31), u"ob gespeichert wurde");
+  EXPECT_EQ(paramNames(34).size(), 5u);
+  EXPECT_THAT(paramNames(35), ElementsAre(u"Schlagwort", u"Abschnitt"));
 }
 
 TEST(DialogTitles, OfOneSubjectStandTogether) {
@@ -215,6 +233,23 @@ TEST_F(Desk, WritesTheSameCallForAProgramAndAShell) {
   named<QPushButton>(desk, "Shell kopieren").click();
   EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
             "zqn-dialog show 21 --db sqlite:" + file() + " -- '2 0'");
+}
+
+TEST_F(Desk, OffersTheImages) {
+  DeskWindow desk(options());
+  QAction* images = nullptr;
+  for (QAction* action : desk.findChildren<QAction*>())
+    if (action->text() == "&Bilder…") images = action;
+  ASSERT_NE(images, nullptr);
+  QString title;
+  QTimer::singleShot(0, [&] {
+    QWidget* window = QApplication::activeModalWidget();
+    if (window == nullptr) return;
+    title = window->windowTitle();
+    window->close();
+  });
+  images->trigger();
+  EXPECT_EQ(title, "Bilder");
 }
 
 TEST_F(Desk, NamesItsDatabaseAndItsUser) {

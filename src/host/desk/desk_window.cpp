@@ -22,6 +22,7 @@
 #include "host/database.h"
 #include "host/desk/call_lines.h"
 #include "host/desk/dialog_titles.h"
+#include "host/desk/images_window.h"
 #include "host/desk/settings_dialog.h"
 #include "host/show_command.h"
 
@@ -177,6 +178,7 @@ void DeskWindow::makeActions() {
   add(view, "Aufrufe &leeren", QKeySequence("Ctrl+L"), [this] {
     if (!showing_) log_->clear();
   });
+  add(view, "&Bilder…", QKeySequence("Ctrl+I"), [this] { ImagesWindow(this).exec(); });
 }
 
 void DeskWindow::showDetails(const DialogTitle* dialog) {

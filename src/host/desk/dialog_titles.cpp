@@ -61,6 +61,12 @@ std::vector<StringView> paramNames(std::int32_t kind) {
       return {u"Schlagwort", u"Abschnitt"};
     case 27:
       return {u"Herkunft"};
+    case 29:
+      return {u"Beliebig"};
+    case 30:
+      return {u"Angebotsnummer"};
+    case 31:
+      return {u"Belegart"};
     case 36:
       return {u"Grund"};
     default:
@@ -74,6 +80,10 @@ StringView resultName(std::int32_t kind) {
       return u"Schlüssel des Buchungskreises";
     case 28:
       return u"Wert";
+    case 29:
+      return u"Angebotsnummer, -1 für ein neues Angebot, Null nach Abbruch";
+    case 30:
+      return u"Angebotsnummer";
     case 31:
       return u"ob gespeichert wurde";
     case 34:

@@ -26,7 +26,9 @@ class AuskunftWindow : public ::testing::TestWithParam<const char16_t*> {
     connection = openDatabase(file());
   }
   ~AuskunftWindow() override { connection->Close(); }
-  std::string file() const { return folder.filePath("waren.sqlite").toStdString(); }
+  DatabaseAddress file() const {
+    return DatabaseAddress::ofFile(folder.filePath("waren.sqlite").toStdString());
+  }
   QTableView& list() {
     return dynamic_cast<QTableView&>(*person.desktop.widgetOf(form->control(u"TDBList1")));
   }

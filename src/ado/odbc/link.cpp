@@ -8,6 +8,13 @@
 #include "ado/odbc/wide.h"
 #include "runtime/locale.h"
 
+#ifdef ZQN_SANITIZE
+/// The driver of PostgreSQL keeps some memory for the life of the process.
+extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
+  return "leak:psqlodbcw.so\n";
+}
+#endif
+
 namespace zqn::ado::odbc {
 
 namespace {

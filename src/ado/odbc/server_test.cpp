@@ -70,6 +70,14 @@ TEST_F(Server, DropIsToldOnceAndTheNextStatementConnectsAgain) {
   EXPECT_EQ(value(u"SELECT Zahl FROM Stamm WHERE Schluessel='a'"), u"2");
 }
 
+TEST_F(Server, StatementWithAValueRunsAgainAfterADrop) {
+  const sql::Text statement = u"DELETE FROM Stamm WHERE Schluessel=" + sql::value(u"b");
+  drop();
+  EXPECT_TRUE(toldOnce([&] { connection->Execute(statement); }));
+  EXPECT_EQ(value(u"SELECT count(*) FROM Stamm"), u"2");
+  EXPECT_EQ(connection->Execute(statement), 1);
+}
+
 TEST_F(Server, OpenRecordsetGoesOnAfterADrop) {
   const auto rs = open(connection, u"SELECT * FROM Stamm ORDER BY Schluessel");
   drop();

@@ -41,6 +41,22 @@ class Package(unittest.TestCase):
         self.assertEqual(host.returncode, 1)
         self.assertIn("nowhere/waren.sqlite", host.stderr)
 
+    def test_a_host_opens_a_server(self):
+        """With the component alone; no server is needed to be told that the driver is missing."""
+        project = self.folder / "server"
+        project.mkdir()
+        (project / "host.cpp").write_text(
+            "#include <iostream>\n#include \"ado/odbc/odbc.h\"\n#include \"runtime/error.h\"\n"
+            "int main() {\n  try {\n    zqn::ado::openOdbc(u\"Driver={Nirgends};Server=db\");\n"
+            "  } catch (const zqn::RuntimeError& failure) {\n    std::cout << failure.number();\n  }\n}\n")
+        (project / "CMakeLists.txt").write_text(
+            "cmake_minimum_required(VERSION 3.25)\nproject(server LANGUAGES CXX)\n"
+            "find_package(zqnComDlg REQUIRED COMPONENTS odbc)\n"
+            "add_executable(host host.cpp)\ntarget_link_libraries(host PRIVATE zqnComDlg::odbc)\n")
+        run("cmake", "-G", "Ninja", "-S", project, "-B", project / "build", f"-DCMAKE_PREFIX_PATH={self.prefix}")
+        run("cmake", "--build", project / "build")
+        self.assertEqual(run(project / "build" / "host", env=self.environment()), "-2147467259")
+
     def test_every_header_stands_by_itself(self):
         include = self.prefix / "include" / "zqnComDlg"
         headers = sorted(include.glob("**/*.h"))
@@ -75,7 +91,7 @@ class Package(unittest.TestCase):
         if shutil.which("pkg-config") is None:
             self.skipTest("pkg-config is not installed")
         path = os.environ | {"PKG_CONFIG_PATH": str(self.library / "pkgconfig")}
-        for module in ("zqnComDlg", "zqnComDlg-qt", "zqnComDlg-sqlite"):
+        for module in ("zqnComDlg", "zqnComDlg-qt", "zqnComDlg-sqlite", "zqnComDlg-odbc"):
             self.assertIn("-lzqnComDlg", run("pkg-config", "--libs", module, env=path))
 
     def test_the_manual_names_every_option(self):
@@ -92,7 +108,8 @@ class Package(unittest.TestCase):
         run("cpack", "--config", BUILD / "CPackConfig.cmake", "-G", "DEB", "-B", out)
         package = next(out.glob("*.deb"))
         fields = run("dpkg-deb", "--field", package)
-        self.assertRegex(fields, "Depends: .*libsqlite3-0")
+        for needed in ("libsqlite3-0", "libodbc2"):
+            self.assertRegex(fields, f"Depends: .*{needed}")
         root = self.folder / "root"
         run("dpkg-deb", "--extract", package, root)
         for place in ("usr/share/man/man1/zqn-dialog.1", "usr/share/applications/zqn-dialog.desktop",

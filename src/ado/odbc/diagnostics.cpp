@@ -15,6 +15,7 @@ constexpr std::int32_t ConversionFailed = -2147217913;
 // Numbers of MariaDB and MySQL, whose SQLSTATEs say less.
 constexpr std::array<long, 5> AccessDenied = {1044, 1142, 1143, 1227, 1370};
 constexpr std::array<long, 1> AmbiguousColumn = {1052};
+constexpr std::array<long, 1> ForeignCharacters = {1267};
 constexpr std::array<long, 1> NoDefault = {1364};
 constexpr std::array<long, 6> ServerGone = {1053, 1927, 2002, 2006, 2013, 4031};
 
@@ -64,6 +65,7 @@ std::int32_t errorNumber(const Diagnostic& diagnostic) noexcept {
   if (isOneOf(diagnostic.native, AccessDenied) || state == "42501" || state == "25006")
     return error::PermissionDenied;
   if (isOneOf(diagnostic.native, AmbiguousColumn)) return error::CommandText;
+  if (isOneOf(diagnostic.native, ForeignCharacters)) return ConversionFailed;
   if (isOneOf(diagnostic.native, NoDefault)) return error::IntegrityViolation;
   if (state == "42S02" || state == "42P01" || state == "S0002") return error::TableNotFound;
   if (state == "22001" || state == "22003") return error::ProviderDataOverflow;

@@ -18,6 +18,7 @@ TEST(Diagnostics, StatesBecomeTheNumbersOfADO) {
   EXPECT_EQ(numberOf("42S02"), error::TableNotFound);
   EXPECT_EQ(numberOf("23505"), error::IntegrityViolation);
   EXPECT_EQ(numberOf("23000", 1062), error::IntegrityViolation);
+  EXPECT_EQ(numberOf("HY000", 1267), -2147217913) << "a text that the column's character set does not know";
   EXPECT_EQ(numberOf("HY000", 1364), error::IntegrityViolation) << "no value where one must be";
   EXPECT_EQ(numberOf("40001"), error::RowConflict);
   EXPECT_EQ(numberOf("40P01"), error::RowConflict);

@@ -107,8 +107,18 @@ RuntimeError Link::failure(const Handle& statement) {
 }
 
 RuntimeError Link::failure(const Diagnostic& diagnostic) {
-  dropped_ = dropped_ || isDrop(diagnostic);
-  return RuntimeError(errorNumber(diagnostic), diagnostic.text, product_);
+  const std::int32_t number = errorNumber(diagnostic);
+  dropped_ = dropped_ || isDrop(diagnostic) || (number == error::ProviderFailure && isDead());
+  return RuntimeError(number, diagnostic.text, product_);
+}
+
+// A drop that a prepared statement meets has no state of its own in PostgreSQL's driver.
+bool Link::isDead() const noexcept {
+  if (!connection_) return false;
+  SQLUINTEGER dead = SQL_CD_FALSE;
+  return SQL_SUCCEEDED(SQLGetConnectAttrW(connection_.get(), SQL_ATTR_CONNECTION_DEAD, &dead, SQL_IS_UINTEGER,
+                                          nullptr)) &&
+         dead == SQL_CD_TRUE;
 }
 
 }  // namespace zqn::ado::odbc

@@ -51,6 +51,7 @@ class Link {
  private:
   void connect();
   String connectOnce(const String& connectionString);
+  bool isDead() const noexcept;
 
   String connectionString_;
   std::chrono::seconds loginTimeout_;

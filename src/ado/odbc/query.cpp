@@ -108,7 +108,7 @@ void Query::open(std::span<const Value> parameters) {
   if (prepared) {
     prepare();
     SQLSMALLINT asked = 0;
-    SQLNumParams(handle_.get(), &asked);
+    if (!SQL_SUCCEEDED(SQLNumParams(handle_.get(), &asked))) fail();
     if (static_cast<std::size_t>(asked) != parameters.size())
       throw RuntimeError(NoValueForParameter, u"No value given for one or more required parameters.",
                          link_.product());

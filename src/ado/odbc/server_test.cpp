@@ -70,6 +70,14 @@ TEST_F(Server, DropIsToldOnceAndTheNextStatementConnectsAgain) {
   EXPECT_EQ(value(u"SELECT Zahl FROM Stamm WHERE Schluessel='a'"), u"2");
 }
 
+TEST_F(Server, StatementWithAValueRunsAgainAfterADrop) {
+  const sql::Text statement = u"DELETE FROM Stamm WHERE Schluessel=" + sql::value(u"b");
+  drop();
+  EXPECT_TRUE(toldOnce([&] { connection->Execute(statement); }));
+  EXPECT_EQ(value(u"SELECT count(*) FROM Stamm"), u"2");
+  EXPECT_EQ(connection->Execute(statement), 1);
+}
+
 TEST_F(Server, OpenRecordsetGoesOnAfterADrop) {
   const auto rs = open(connection, u"SELECT * FROM Stamm ORDER BY Schluessel");
   drop();
@@ -106,6 +114,19 @@ TEST_F(Server, NoHalfOfATransactionIsWritten) {
   EXPECT_EQ(connection->Execute(u"UPDATE Stamm SET Zahl=7 WHERE Schluessel='a'"), 1);
 }
 
+TEST_F(Server, LookingUpATableDoesNotHideThatATransactionIsLost) {
+  other->Execute(u"CREATE TABLE Neben (Nummer INTEGER NOT NULL PRIMARY KEY, Zahl INTEGER)");
+  other->Execute(u"INSERT INTO Neben VALUES (1, 1)");
+  connection = watched();
+  connection->Execute(u"BEGIN");
+  connection->Execute(u"UPDATE Stamm SET Zahl=7 WHERE Schluessel='a'");
+  drop();
+  EXPECT_TRUE(toldOnce([&] { connection->Execute(u"UPDATE Stamm SET Zahl=8 WHERE Schluessel='b'"); }));
+  EXPECT_TRUE(toldOnce([&] { connection->Execute(u"UPDATE Neben SET Zahl=9 WHERE Nummer=1"); }));
+  EXPECT_EQ(value(u"SELECT Zahl FROM Neben"), u"1");
+  EXPECT_TRUE(toldOnce([&] { connection->Execute(u"COMMIT"); }));
+}
+
 TEST_F(Server, RollbackEndsATransactionThatADropHasEnded) {
   connection->Execute(u"BEGIN");
   drop();
@@ -133,6 +154,18 @@ TEST_F(Server, WrongPasswordIsRefused) {
   for (ConnectionPair& pair : pairs)
     if (compareIgnoringCase(pair.key, u"PWD") == 0) pair.value = u"falsch";
   EXPECT_EQ(errorNumberOf([&] { openOdbc(connectionString(pairs)); }), error::ProviderFailure);
+}
+
+// ---- tables that come and go
+
+TEST_F(Server, TableThatWasMissingIsKnownWhenItIsThere) {
+  const sql::Text row = u"SELECT * FROM Spaeter WHERE Schluessel='a'";
+  EXPECT_EQ(errorNumberOf([&] { open(connection, row); }), error::TableNotFound);
+  other->Execute(u"ALTER TABLE Stamm RENAME TO Spaeter");
+  const auto rs = open(connection, row);
+  rs->Fields(1).Value(u"neu");
+  rs->Update();
+  EXPECT_EQ(value(u"SELECT Wert FROM Spaeter WHERE Schluessel='a'"), u"neu");
 }
 
 // ---- conflicts and locks

@@ -30,7 +30,7 @@ Translation Session::translated(StringView statement) {
 }
 
 bool Session::mayRun(const Translation& statement) {
-  if (!inTransaction_ || !link_.dropped()) return true;
+  if (!inTransaction_ || (!link_.dropped() && link_.generation() == begunOn_)) return true;
   const bool ends = statement.effect == Effect::Commit || statement.effect == Effect::Rollback;
   if (ends) inTransaction_ = false;
   if (statement.effect == Effect::Rollback) return false;
@@ -43,7 +43,9 @@ void Session::ran(const Translation& statement, bool failed) {
   if (statement.effect == Effect::Commit || statement.effect == Effect::Rollback) {
     inTransaction_ = false;
   } else if (statement.effect == Effect::Begin) {
-    inTransaction_ = inTransaction_ || !failed;
+    if (failed || inTransaction_) return;
+    inTransaction_ = true;
+    begunOn_ = link_.generation();
   } else if (statement.effect == Effect::Schema) {
     catalogue_.forget();
   }

@@ -57,6 +57,7 @@ class Session {
   std::unique_ptr<Link> reader_;
   Catalogue catalogue_;
   bool inTransaction_ = false;
+  int begunOn_ = 0;  // the connection of the transaction: a row that is read connects again, too
   std::list<std::pair<String, std::unique_ptr<Query>>> kept_;  // most recently used first
 };
 

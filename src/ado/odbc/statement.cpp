@@ -15,6 +15,7 @@ OdbcStatement::OdbcStatement(std::shared_ptr<Session> session, StringView text, 
 void OdbcStatement::open(std::span<const Value> parameters) {
   rowsAffected_ = 0;
   if (!session_->mayRun(translation_)) return;
+  if (outdated_) renew();
   run(parameters);
   if (query_->descriptions() != description_) learnColumns(parameters);
   // A driver counts the rows of a SELECT, too.
@@ -24,11 +25,20 @@ void OdbcStatement::open(std::span<const Value> parameters) {
 void OdbcStatement::run(std::span<const Value> parameters) {
   try {
     query_->open(parameters);
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& failure) {
     session_->ran(translation_, true);
+    outdated_ = failure.number() == error::TableNotFound;
+    if (outdated_) session_->catalogue().forget();
     throw;
   }
   session_->ran(translation_, false);
+}
+
+void OdbcStatement::renew() {
+  translation_ = session_->translated(text_);
+  query_ = std::make_unique<Query>(*session_, session_->link(), translation_.text);
+  description_ = 0;
+  outdated_ = false;
 }
 
 void OdbcStatement::learnColumns(std::span<const Value> parameters) {

@@ -20,6 +20,8 @@ class OdbcStatement : public Statement {
 
  private:
   void run(std::span<const Value> parameters);
+  /// A table that was not there may be by now, under a name in another case, with a key.
+  void renew();
   /// After the first run, and whenever the table has changed: what the columns are, with those of the key.
   void learnColumns(std::span<const Value> parameters);
 
@@ -28,7 +30,8 @@ class OdbcStatement : public Statement {
   Purpose purpose_;
   Translation translation_;
   std::unique_ptr<Query> query_;
-  int description_ = 0;  // of the query, that `columns_` are made from
+  bool outdated_ = false;  // translated while a table was missing
+  int description_ = 0;    // of the query, that `columns_` are made from
   std::shared_ptr<const Columns> columns_ = std::make_shared<const Columns>();
   std::int64_t rowsAffected_ = 0;
 };

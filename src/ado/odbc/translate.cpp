@@ -90,6 +90,7 @@ class Translator {
       const Token& token = tokens_[i];
       if (i < next_) continue;
       if (token.is(u"WHERE")) conditions_ = true;
+      if (token.is(u"ORDER") && token.depth == 0) sorting_ = true;
       if (token.is(u"VALUES") && tokens_.front().is(u"INSERT")) {
         values(i);
       } else if (!truth(i)) {
@@ -205,10 +206,11 @@ class Translator {
   void plain(std::size_t i) {
     const Token& token = tokens_[i];
     const bool table = std::ranges::find(tables_, i) != tables_.end();
+    const bool exactTable = table && (dialect_.exactTableNames || dialect_.lowerCaseNames);
     if (token.kind == Kind::Name) {
-      replace(i, i, sql::quoted(stored(token, table)));
-    } else if (table && dialect_.exactTableNames) {
-      if (const TableInfo* info = lookup_(token.text)) replace(i, i, sql::quoted(info->name));
+      replace(i, i, sql::quoted(stored(i, exactTable).value_or(token.unquoted())));
+    } else if (exactTable && !dialect_.lowerCaseNames) {
+      if (const auto name = stored(i, true)) replace(i, i, sql::quoted(*name));
     } else if (token.kind == Kind::Literal && dialect_.nationalLiterals && isBeyondAscii(token.text)) {
       replace(i, i, u"N" + String(token.text));
     } else if (token.is(u"LIKE") && !dialect_.like.empty()) {
@@ -220,32 +222,33 @@ class Translator {
       replace(i, i, token.is(u"TRUE") ? u"1" : u"0");
     } else if (dialect_.lowerCaseNames && token.kind == Kind::Word && !isKeyword(token) &&
                (table || !at(i + 1).isSymbol(u"("))) {
-      const String name = stored(token, table);
-      if (known(token, table) && name != lowerCase(token.text)) replace(i, i, sql::quoted(name));
+      const auto name = stored(i, table);
+      if (name && *name != lowerCase(token.text)) replace(i, i, sql::quoted(*name));
     }
   }
 
-  /// The statement or the database knows it as a name.
-  bool known(const Token& token, bool isTable) {
-    return isTable ? lookup_(token.text) != nullptr : alias(token.text) || column(token);
-  }
-  const String* alias(StringView name) const {
+  /// A name that the statement itself gives: where it is given, where a column is taken from what bears it,
+  /// and behind ORDER BY. Everywhere else the same word is a column.
+  const String* alias(std::size_t i) const {
+    const bool meant = sorting_ || (i > 0 && at(i - 1).is(u"AS")) || at(i + 1).isSymbol(u".");
+    if (!meant) return nullptr;
+    const String name = tokens_[i].unquoted();
     const auto found = std::ranges::find_if(
         aliases_, [&](const String& one) { return compareIgnoringCase(one, name) == 0; });
     return found == aliases_.end() ? nullptr : &*found;
   }
 
-  /// The name as the server stores it, or as the statement itself gives it.
-  String stored(const Token& token, bool isTable) {
-    const String name = token.unquoted();
-    if (!dialect_.lowerCaseNames && !(isTable && dialect_.exactTableNames)) return name;
-    if (const String* given = alias(name)) return *given;
+  /// The name as the server stores it, or as the statement itself gives it; no value for a name that neither
+  /// knows.
+  std::optional<String> stored(std::size_t i, bool isTable) {
     if (isTable) {
-      const TableInfo* info = lookup_(name);
-      return info ? info->name : name;
+      const TableInfo* info = lookup_(tokens_[i].unquoted());
+      return info ? std::optional(info->name) : std::nullopt;
     }
-    const TableInfo::Column* known = column(token);
-    return known ? known->name : name;
+    if (!dialect_.lowerCaseNames) return std::nullopt;
+    if (const String* given = alias(i)) return *given;
+    const TableInfo::Column* known = column(tokens_[i]);
+    return known ? std::optional(known->name) : std::nullopt;
   }
 
   void like(std::size_t i) {
@@ -269,6 +272,7 @@ class Translator {
   String text_;
   std::size_t copied_ = 0;
   std::size_t next_ = 0;     // the first token that is not written yet
+  bool sorting_ = false;     // behind the ORDER BY of the statement itself
   bool conditions_ = false;  // "=" compares; in front of an UPDATE's WHERE it assigns
 };
 

@@ -38,7 +38,7 @@ std::int32_t refusal(StringView statement) {
 
 TEST(Translation, LeavesWhatEveryServerUnderstands) {
   const String statement =
-      u"Select Status, Case When Status='-' Then null Else Status End As Wert\nFROM Fehlt /* x */ "
+      u"Select Status, Case When Status='-' Then null Else Status End As wert\nFROM Fehlt /* x */ "
       u"WHERE Größe>5 AND Bezeichnung='a;b -- c'";
   EXPECT_EQ(postgres(statement), statement);
   EXPECT_EQ(sqlServer(statement), statement);
@@ -77,6 +77,13 @@ TEST(Translation, NamesKeepTheirCapitalsWhereTheServerWouldDropThem) {
       u"\"Status\"");
   EXPECT_EQ(spelled(u"SELECT v.Status AS Schluessel FROM Vertriebsstati AS v ORDER BY schluessel"),
             u"SELECT v.\"Status\" AS \"Schluessel\" FROM \"Vertriebsstati\" AS v ORDER BY \"Schluessel\"");
+  EXPECT_EQ(spelled(u"SELECT Gewichtung AS STATUS, Status AS Nr FROM Vertriebsstati WHERE Status>'' ORDER BY "
+                    u"Status, nr"),
+            u"SELECT \"Gewichtung\" AS \"STATUS\", \"Status\" AS \"Nr\" FROM \"Vertriebsstati\" WHERE "
+            u"\"Status\">'' "
+            u"ORDER BY \"STATUS\", \"Nr\"");
+  EXPECT_EQ(spelled(u"SELECT V.Status FROM Vertriebsstati AS V"),
+            u"SELECT \"V\".\"Status\" FROM \"Vertriebsstati\" AS \"V\"");
   EXPECT_EQ(spelled(u"INSERT INTO Vertriebsstati (Status) VALUES (lower('X'))"),
             u"INSERT INTO \"Vertriebsstati\" (\"Status\") VALUES (lower('X'))");
   EXPECT_EQ(spelled(u"SELECT CAST(Gewichtung AS Numeric) FROM Vertriebsstati"),

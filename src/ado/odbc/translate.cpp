@@ -120,7 +120,11 @@ class Translator {
   void findNames() {
     constexpr std::array<StringView, 4> before = {u"FROM", u"JOIN", u"INTO", u"UPDATE"};
     constexpr std::array<StringView, 2> behind = {u"AS", u"SELECT"};
+    const bool creates = tokens_.front().is(u"CREATE");
+    const bool index = creates && (at(1).is(u"INDEX") || at(2).is(u"INDEX"));
     for (std::size_t i = 0; i + 1 < tokens_.size(); ++i) {
+      const bool changed = !creates && tokens_[i].is(u"TABLE") && !tokens_[i + 1].is(u"IF");
+      if (changed || (index && tokens_[i].is(u"ON"))) tables_.push_back(i + 1);
       if (isOneOf(tokens_[i], before) && isName(tokens_[i + 1]) && !isOneOf(tokens_[i + 1], behind))
         tables_.push_back(i + 1);
       // Inside parentheses it may be the type of a CAST.

@@ -82,6 +82,11 @@ TEST(Translation, NamesKeepTheirCapitalsWhereTheServerWouldDropThem) {
             u"SELECT \"Gewichtung\" AS \"STATUS\", \"Status\" AS \"Nr\" FROM \"Vertriebsstati\" WHERE "
             u"\"Status\">'' "
             u"ORDER BY \"STATUS\", \"Nr\"");
+  EXPECT_EQ(spelled(u"ALTER TABLE vertriebsstati DROP COLUMN gewichtung"),
+            u"ALTER TABLE \"Vertriebsstati\" DROP COLUMN \"Gewichtung\"");
+  EXPECT_EQ(spelled(u"CREATE INDEX Neu ON Vertriebsstati (Bezeichnung)"),
+            u"CREATE INDEX Neu ON \"Vertriebsstati\" (\"Bezeichnung\")");
+  EXPECT_EQ(spelled(u"DROP TABLE Vertriebsstati"), u"DROP TABLE \"Vertriebsstati\"");
   EXPECT_EQ(spelled(u"SELECT V.Status FROM Vertriebsstati AS V"),
             u"SELECT \"V\".\"Status\" FROM \"Vertriebsstati\" AS \"V\"");
   EXPECT_EQ(spelled(u"INSERT INTO Vertriebsstati (Status) VALUES (lower('X'))"),

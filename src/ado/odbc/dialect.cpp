@@ -17,7 +17,7 @@ Dialect mariaDb(StringView product) {
       .connection = {{u"OPTION", u"2"}, {u"CHARSET", u"utf8mb4"}},
       .start = {u"SET SESSION sql_mode='ANSI_QUOTES,NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT,STRICT_ALL_TABLES,"
                 u"NO_ENGINE_SUBSTITUTION'",
-                u"SET SESSION innodb_lock_wait_timeout=5"},
+                u"SET SESSION innodb_lock_wait_timeout=5, lock_wait_timeout=5"},
       .exactTableNames = true,
       .tinyIsBoolean = true,
       .utf8Texts = true,

@@ -197,6 +197,15 @@ TEST_F(Server, SameValuesAgainAreNoConflict) {
   EXPECT_EQ(connection->Execute(u"UPDATE Stamm SET Wert='eins' WHERE Schluessel='a'"), 1);
 }
 
+TEST_F(Server, NoLockIsWaitedForLongerThanFiveSeconds) {
+  if (ServerContext::isPostgreSql()) {
+    EXPECT_EQ(value(u"SHOW lock_timeout"), u"5s");
+  } else {
+    EXPECT_EQ(value(u"SELECT CONCAT(@@innodb_lock_wait_timeout, ' ', @@lock_wait_timeout)"), u"5 5")
+        << "on a row, and on a table that somebody alters";
+  }
+}
+
 TEST_F(Server, LockThatStaysEndsInAnErrorNotInAHang) {
   connection->Execute(ServerContext::isPostgreSql() ? u"SET lock_timeout='200ms'"
                                                     : u"SET SESSION innodb_lock_wait_timeout=1");

@@ -114,6 +114,7 @@ void Query::open(std::span<const Value> parameters) {
                          link_.product());
     bind(parameters);
   }
+  session_.tellRun(text_, parameters);
   execute(prepared);
   if (!described_) readDescription();
   open_ = !columns_.empty();

@@ -15,6 +15,7 @@ Session::Session(StringView connectionString, const OdbcOptions& options)
     : connectionString_(connectionString),
       loginTimeout_(options.loginTimeout),
       ran_(options.ran),
+      runs_(options.runs),
       link_(connectionString_, loginTimeout_),
       catalogue_(link_) {}
 

@@ -48,11 +48,15 @@ class Session {
   void tell(StringView statement) const {
     if (ran_) ran_(statement);
   }
+  void tellRun(StringView statement, std::span<const Value> parameters) const {
+    if (runs_) runs_(statement, parameters);
+  }
 
  private:
   String connectionString_;
   std::chrono::seconds loginTimeout_;
   std::function<void(StringView)> ran_;
+  std::function<void(StringView, std::span<const Value>)> runs_;
   Link link_;
   std::unique_ptr<Link> reader_;
   Catalogue catalogue_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "clerk.h"
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -29,6 +30,16 @@ double timed(int limit, Act&& act) {
   const double taken = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
   alarm(0);
   return taken;
+}
+
+/// Processor time of this process so far, in milliseconds.
+double processorTime() {
+  rusage used = {};
+  getrusage(RUSAGE_SELF, &used);
+  const auto milliseconds = [](const timeval& time) {
+    return 1e3 * static_cast<double>(time.tv_sec) + 1e-3 * static_cast<double>(time.tv_usec);
+  };
+  return milliseconds(used.ru_utime) + milliseconds(used.ru_stime);
 }
 
 /// What a row of the clerk's own should bear. Where the connection was lost while it was written, nobody can
@@ -109,7 +120,9 @@ class Clerk {
 
     done_.clear();
     before_ = {stage_.name, priceList_.name};
+    const double before = processorTime();
     for (const Action& action : actions) perform(action);
+    if (measured()) tally_.sample("processor.dialogs", processorTime() - before);
   }
 
   void perform(const Action& action) {
@@ -145,6 +158,7 @@ class Clerk {
   }
 
   void bare() {
+    const double before = processorTime();
     for (const Done& done : done_) {
       std::int64_t changed = 0;
       const double taken = timed(options_.limit, [&] { changed = bare_->run(done.recording); });
@@ -153,6 +167,7 @@ class Clerk {
         tally_.text("faults", "bare, '" + done.name + "' has changed " + std::to_string(changed) +
                                   " rows, the dialog " + std::to_string(done.rowsChanged));
     }
+    if (measured()) tally_.sample("processor.bare", processorTime() - before);
   }
 
   void rush() {

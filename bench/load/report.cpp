@@ -57,10 +57,14 @@ void latencies(std::ostream& out, const Tally& tally) {
   if (bare > 0)
     out << line("all actions with statements: %.1f s through the dialogs, %.1f s bare, ratio %.3f\n",
                 dialogs / 1e3, bare / 1e3, dialogs / bare);
-  const auto &withDialogs = tally.samples("phase.dialogs"), &withoutDialogs = tally.samples("phase.bare");
-  if (!withoutDialogs.empty())
-    out << line("by the clock, all clerks together: %.2f s and %.2f s, ratio %.3f\n", sum(withDialogs) / 1e3,
-                sum(withoutDialogs) / 1e3, sum(withDialogs) / sum(withoutDialogs));
+  const auto compare = [&](const char* what, const char* which) {
+    const double with = sum(tally.samples(which + std::string(".dialogs"))),
+                 without = sum(tally.samples(which + std::string(".bare")));
+    if (without > 0)
+      out << line("%s: %.2f s and %.2f s, ratio %.3f\n", what, with / 1e3, without / 1e3, with / without);
+  };
+  compare("by the clock, all clerks together", "phase");
+  compare("processor time of the clerks' programs", "processor");
 }
 
 void counts(std::ostream& out, const char* title, const std::map<std::string, std::int64_t>& found) {

@@ -9,7 +9,9 @@ namespace zqn::ado::odbc {
 
 namespace {
 constexpr std::size_t KeptStatements = 32;
-}
+constexpr std::size_t KeptTranslations = 256;
+constexpr std::size_t LongestKept = 2000;
+}  // namespace
 
 Session::Session(StringView connectionString, const OdbcOptions& options)
     : connectionString_(connectionString),
@@ -27,7 +29,13 @@ Link& Session::reader() {
 }
 
 Translation Session::translated(StringView statement) {
-  return translate(statement, dialect(), [this](StringView name) { return catalogue_.table(name); });
+  const String text(statement);
+  if (const auto known = translated_.find(text); known != translated_.end()) return known->second;
+  Translation made =
+      translate(statement, dialect(), [this](StringView name) { return catalogue_.table(name); });
+  if (text.size() > LongestKept) return made;
+  if (translated_.size() >= KeptTranslations) translated_.clear();
+  return translated_[text] = std::move(made);
 }
 
 bool Session::mayRun(const Translation& statement) {
@@ -47,6 +55,7 @@ void Session::ran(const Translation& statement, bool failed) {
     inTransaction_ = inTransaction_ || !failed;
   } else if (statement.effect == Effect::Schema) {
     catalogue_.forget();
+    translated_.clear();
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <list>
+#include <unordered_map>
 
 #include "ado/odbc/catalogue.h"
 #include "ado/odbc/link.h"
@@ -61,6 +62,7 @@ class Session {
   std::unique_ptr<Link> reader_;
   Catalogue catalogue_;
   bool inTransaction_ = false;
+  std::unordered_map<String, Translation> translated_;         // until the schema changes
   std::list<std::pair<String, std::unique_ptr<Query>>> kept_;  // most recently used first
 };
 

@@ -306,6 +306,7 @@ FLUSH PRIVILEGES;
 CREATE USER 'admin'@'127.0.0.1' IDENTIFIED BY '{admin}';
 GRANT ALL PRIVILEGES ON *.* TO 'admin'@'127.0.0.1' WITH GRANT OPTION;
 CREATE USER 'clerk'@'127.0.0.1' IDENTIFIED BY '{clerk}';
+GRANT PROCESS ON *.* TO 'clerk'@'127.0.0.1';
 """
     # The server has no means to drop a database that is in use; who holds a lock on its tables would be waited for.
     DROP = """DELIMITER //

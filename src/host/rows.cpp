@@ -43,12 +43,14 @@ std::vector<ado::Value> parameters(const std::vector<Variant>& values) {
 
 RowSet runStatement(ado::Connection& connection, StringView text, const std::vector<Variant>& values) {
   constexpr std::size_t block = 1000;
-  const auto statement = connection.provider().prepare(text, ado::Purpose::Plain);
-  statement->open(parameters(values));
-  RowSet result{.rows = ado::RowStore(static_cast<int>(statement->columns()->size()))};
+  // One with parameters comes again: every dialog asks for settings. A server then prepares it once.
+  const auto once = values.empty() ? connection.provider().prepare(text, ado::Purpose::Plain) : nullptr;
+  const ado::RunningStatement run(once ? *once : connection.statement(text, ado::Purpose::Plain),
+                                  parameters(values));
+  RowSet result{.rows = ado::RowStore(static_cast<int>(run->columns()->size()))};
   if (result.rows.columns() > 0)
-    while (statement->fetch(result.rows, block)) continue;
-  result.changed = statement->rowsAffected();
+    while (run->fetch(result.rows, block)) continue;
+  result.changed = run->rowsAffected();
   return result;
 }
 

@@ -135,7 +135,7 @@ class ColumnOfAnotherType(FaultTest):
     def test_a_text_that_the_server_refuses_is_passed_over_with_its_whole_row(self):
         if SERVER == "postgresql":
             self.foreign("CREATE DOMAIN stufe AS VARCHAR(30) CHECK (VALUE <> 'riesig'); "
-                         "ALTER TABLE vertriebsstati ALTER bezeichnung TYPE stufe;")
+                         'ALTER TABLE "Vertriebsstati" ALTER "Bezeichnung" TYPE stufe;')
         else:
             self.foreign("ALTER TABLE vertriebsstati ADD CHECK (Bezeichnung <> 'riesig');")
         self.work("21", self.SAVE % "riesig" + self.SAVE % "klein")

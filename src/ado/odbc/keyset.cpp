@@ -80,7 +80,11 @@ void OdbcKeyset::begin() {
 void OdbcKeyset::readPage(Link& link, std::size_t count) {
   String text = session_->translated(keysOnly_.text).text;
   if (count != AllAtOnce) text += u"\nLIMIT " + number(count) + u" OFFSET " + number(read_.size());
-  Query query(*session_, link, std::move(text));
+  // The beginning of a list is asked for again and again.
+  const bool again = &link == &session_->link();
+  std::optional<Query> once;
+  if (!again) once.emplace(*session_, link, text);
+  Query& query = again ? session_->kept(text) : *once;
   query.open();
   RowStore rows(static_cast<int>(query.columns().size()));
   std::vector<Value> key(keyColumns_.size());

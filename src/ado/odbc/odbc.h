@@ -11,6 +11,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "ado/connection.h"
@@ -22,7 +23,11 @@ struct OdbcOptions {
   /// How long a server may take to answer when a connection is opened, now or after a drop.
   std::chrono::seconds loginTimeout{5};
   /// Told of each statement as it is handed to the driver, after translation. For measurements and tests.
-  std::function<void(StringView statement)> ran;
+  std::function<void(StringView statement)> ran = {};
+  /// Told of each run of a statement, one kept from before included, with the values of its parameters. Rows
+  /// of a list are read by such runs, too; a list's pages over its own connection are among them. For
+  /// measurements.
+  std::function<void(StringView statement, std::span<const Value> parameters)> runs = {};
 };
 
 /// Connects. Keys of the connection string as the driver names them; `Driver` or `DSN` chooses it. Errors:

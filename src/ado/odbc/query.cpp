@@ -16,7 +16,7 @@ namespace {
 constexpr std::int32_t NoValueForParameter = -2147217904;
 /// Longest text that is read in blocks, in characters; a longer one, or one without a limit, comes alone.
 constexpr SQLULEN LongestInBlock = 1000;
-constexpr std::size_t BlockBytes = 64 * 1024;
+constexpr std::size_t BlockBytes = 8 * 1024;
 constexpr std::size_t LargestBlock = 1000;
 /// A text beyond it is sent as a long one.
 constexpr std::size_t LongestParameter = 4000;
@@ -114,6 +114,7 @@ void Query::open(std::span<const Value> parameters) {
                          link_.product());
     bind(parameters);
   }
+  session_.tellRun(text_, parameters);
   execute(prepared);
   if (!described_) readDescription();
   open_ = !columns_.empty();

@@ -9,12 +9,15 @@ namespace zqn::ado::odbc {
 
 namespace {
 constexpr std::size_t KeptStatements = 32;
-}
+constexpr std::size_t KeptTranslations = 256;
+constexpr std::size_t LongestKept = 2000;
+}  // namespace
 
 Session::Session(StringView connectionString, const OdbcOptions& options)
     : connectionString_(connectionString),
       loginTimeout_(options.loginTimeout),
       ran_(options.ran),
+      runs_(options.runs),
       link_(connectionString_, loginTimeout_),
       catalogue_(link_) {}
 
@@ -26,7 +29,18 @@ Link& Session::reader() {
 }
 
 Translation Session::translated(StringView statement) {
-  return translate(statement, dialect(), [this](StringView name) { return catalogue_.table(name); });
+  const String text(statement);
+  if (const auto known = translated_.find(text); known != translated_.end()) return known->second;
+  Translation made =
+      translate(statement, dialect(), [this](StringView name) { return catalogue_.table(name); });
+  if (text.size() > LongestKept) return made;
+  if (translated_.size() >= KeptTranslations) translated_.clear();
+  return translated_[text] = std::move(made);
+}
+
+void Session::forgetTables() noexcept {
+  catalogue_.forget();
+  translated_.clear();
 }
 
 bool Session::mayRun(const Translation& statement) {
@@ -47,7 +61,7 @@ void Session::ran(const Translation& statement, bool failed) {
     inTransaction_ = true;
     begunOn_ = link_.generation();
   } else if (statement.effect == Effect::Schema) {
-    catalogue_.forget();
+    forgetTables();
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <list>
+#include <unordered_map>
 
 #include "ado/odbc/catalogue.h"
 #include "ado/odbc/link.h"
@@ -32,6 +33,9 @@ class Session {
   /// The keyset that reads through `reader`; one at a time, as all share its view of the database.
   OdbcKeyset* reading = nullptr;
 
+  /// Tables may have changed: they are asked for again.
+  void forgetTables() noexcept;
+
   /// The statement as this server takes it. Error -2147217900 for what is no single statement.
   Translation translated(StringView statement);
 
@@ -48,16 +52,21 @@ class Session {
   void tell(StringView statement) const {
     if (ran_) ran_(statement);
   }
+  void tellRun(StringView statement, std::span<const Value> parameters) const {
+    if (runs_) runs_(statement, parameters);
+  }
 
  private:
   String connectionString_;
   std::chrono::seconds loginTimeout_;
   std::function<void(StringView)> ran_;
+  std::function<void(StringView, std::span<const Value>)> runs_;
   Link link_;
   std::unique_ptr<Link> reader_;
   Catalogue catalogue_;
   bool inTransaction_ = false;
   int begunOn_ = 0;  // the connection of the transaction: a row that is read connects again, too
+  std::unordered_map<String, Translation> translated_;         // until the schema changes
   std::list<std::pair<String, std::unique_ptr<Query>>> kept_;  // most recently used first
 };
 

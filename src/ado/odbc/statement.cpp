@@ -28,7 +28,7 @@ void OdbcStatement::run(std::span<const Value> parameters) {
   } catch (const RuntimeError& failure) {
     session_->ran(translation_, true);
     outdated_ = failure.number() == error::TableNotFound;
-    if (outdated_) session_->catalogue().forget();
+    if (outdated_) session_->forgetTables();
     throw;
   }
   session_->ran(translation_, false);

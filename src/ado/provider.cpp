@@ -5,8 +5,7 @@
 
 namespace zqn::ado {
 
-std::unique_ptr<Keyset> Provider::keyset(StringView, std::shared_ptr<const Columns>) {
-  return nullptr; }
+std::unique_ptr<Keyset> Provider::keyset(StringView, std::shared_ptr<const Columns>) { return nullptr; }
 
 String Provider::quoted(StringView identifier) const { return sql::quoted(identifier); }
 

@@ -28,7 +28,8 @@ class SqliteProvider : public Provider {
   }
   Condition sameValue(const Column& column, const Value& read) const override {
     if (column.rowHandle) return {column.baseColumn + u"=?", {read}};
-    return {quoted(column.baseColumn) + (isTextType(column.type) ? u" COLLATE BINARY IS ?" : u" IS ?"), {read}};
+    return {quoted(column.baseColumn) + (isTextType(column.type) ? u" COLLATE BINARY IS ?" : u" IS ?"),
+            {read}};
   }
   String name() const override { return sqlite::SourceName; }
 

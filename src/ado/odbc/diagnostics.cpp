@@ -37,13 +37,17 @@ String plainWords(StringView words) {
     if (end == StringView::npos || end + 1 >= words.size()) break;
     words.remove_prefix(end + 1);
   }
-  skipPrefix(words, u"ERROR: ");
-  for (const StringView appended : {StringView(u";\nError while"), StringView(u";\nError whil")}) {
-    if (const std::size_t at = words.find(appended); at != StringView::npos) words = words.substr(0, at);
+  String line;
+  for (const char16_t unit : words) {
+    const bool blank = unit == u' ' || (unit >= u'\t' && unit <= u'\r');
+    if (!blank) line += unit;
+    if (blank && !line.empty() && line.back() != u' ') line += u' ';
   }
-  while (!words.empty() && (words.back() == u'\n' || words.back() == u' ')) words.remove_suffix(1);
-  while (!words.empty() && words.front() == u' ') words.remove_prefix(1);
-  return String(words);
+  StringView plain = line;
+  skipPrefix(plain, u"ERROR: ");
+  plain = plain.substr(0, plain.find(u"; Error while"));
+  if (plain.ends_with(u' ')) plain.remove_suffix(1);
+  return String(plain);
 }
 
 Diagnostic diagnosticOf(SQLSMALLINT kind, SQLHANDLE handle) {

@@ -31,7 +31,7 @@ bool isDrop(const Diagnostic& diagnostic) noexcept;
 /// A table has other columns now than when the SELECT was prepared; prepared again, it runs.
 bool isOutdated(const Diagnostic& diagnostic) noexcept;
 
-/// The words without "[Vendor][Driver]" and "ERROR: " before them, and without what a driver appends.
+/// The words in one line, without "[Vendor][Driver]" and "ERROR: " before them and what a driver appends.
 String plainWords(StringView words);
 
 }  // namespace zqn::ado::odbc

@@ -44,6 +44,8 @@ TEST(Diagnostics, ShowTheServersWordsAlone) {
   EXPECT_EQ(plainWords(u"ERROR: relation \"fehlt\" does not exist;\nError while executing the query"),
             u"relation \"fehlt\" does not exist");
   EXPECT_EQ(plainWords(u"[ma-3.1.15][10.11]Table 'x.fehlt' doesn't exist"), u"Table 'x.fehlt' doesn't exist");
+  EXPECT_EQ(plainWords(u"server closed the connection\n\tThis  means\r\nnothing\n"),
+            u"server closed the connection This means nothing");
   EXPECT_EQ(plainWords(u"[dbo]"), u"[dbo]") << "a name that stands alone";
   EXPECT_EQ(plainWords(u""), u"");
 }

@@ -335,4 +335,20 @@ TEST_F(Server, LongListIsReadInPages) {
   EXPECT_EQ(rs->RecordCount(), 20002);
 }
 
+TEST_F(Server, TellsEachRunWithItsParameters) {
+  std::vector<String> runs;
+  const auto on =
+      openOdbc(context.address(), {.runs = [&](StringView text, std::span<const Value> values) {
+                 runs.push_back(String(text.substr(0, 6)) + u" " + fromUtf8(std::to_string(values.size())));
+               }});
+  for (int time = 0; time < 2; ++time) {
+    const auto rs = open(on, RowA);
+    rs->Fields(u"Zahl").Value(5.0 + time);
+    runs.clear();
+    rs->Update();
+    ASSERT_FALSE(runs.empty());
+    EXPECT_EQ(runs.front(), u"UPDATE 4") << "the value, the key twice, and the value that was read";
+  }
+}
+
 }  // namespace zqn::ado::odbc

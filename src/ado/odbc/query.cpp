@@ -57,14 +57,9 @@ int typeOf(SQLSMALLINT type, const Dialect& dialect) {
   }
 }
 
-String digits(double value) {
+template <class Number>
+String digits(Number value) {
   std::array<char, 32> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-  return String(buffer.data(), end);
-}
-
-String digits(std::int64_t value) {
-  std::array<char, 20> buffer;
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
   return String(buffer.data(), end);
 }
@@ -123,51 +118,47 @@ void Query::open(std::span<const Value> parameters) {
 
 void Query::bind(std::span<const Value> values) {
   parameters_.resize(values.size());
-  SQLUSMALLINT number = 0;
-  for (const Value& value : values) {
-    Parameter& parameter = parameters_[number++];
-    const auto asText = [&](SQLSMALLINT type) {
-      parameter.length = static_cast<SQLLEN>(parameter.text.size() * sizeof(char16_t));
-      const SQLULEN size = std::max<SQLULEN>(parameter.text.size(), 1);
-      return SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_WCHAR, type, size, 0,
-                              parameter.text.data(), parameter.length, &parameter.length);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    Parameter& parameter = parameters_[i];
+    const auto bound = [&](SQLSMALLINT from, SQLSMALLINT type, SQLULEN size, SQLPOINTER data, SQLLEN length) {
+      parameter.length = length;
+      const SQLRETURN result =
+          SQLBindParameter(handle_.get(), static_cast<SQLUSMALLINT>(i + 1), SQL_PARAM_INPUT, from, type, size,
+                           0, data, std::max<SQLLEN>(length, 0), &parameter.length);
+      if (!SQL_SUCCEEDED(result)) fail();
     };
+    const auto boundText = [&](String text) {
+      parameter.text = std::move(text);
+      const std::size_t size = parameter.text.size();
+      bound(SQL_C_WCHAR, size > LongestParameter ? SQL_WLONGVARCHAR : SQL_WVARCHAR,
+            std::max<SQLULEN>(size, 1), parameter.text.data(), static_cast<SQLLEN>(size * sizeof(char16_t)));
+    };
+    const Value& value = values[i];
     const bool untyped = link_.dialect().untypedParameters;
-    SQLRETURN result = SQL_SUCCESS;
     switch (value.kind) {
       case Value::Kind::Null:
-        parameter.length = SQL_NULL_DATA;
-        result = SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_WCHAR, SQL_WVARCHAR, 1, 0,
-                                  nullptr, 0, &parameter.length);
+        bound(SQL_C_WCHAR, SQL_WVARCHAR, 1, nullptr, SQL_NULL_DATA);
         break;
       case Value::Kind::Integer:
         parameter.integer = value.integer;
-        parameter.length = 0;
         if (untyped) {
-          parameter.text = digits(value.integer);
-          result = asText(SQL_WVARCHAR);
+          boundText(digits(value.integer));
         } else {
-          result = SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_SBIGINT, SQL_BIGINT, 0, 0,
-                                    &parameter.integer, 0, &parameter.length);
+          bound(SQL_C_SBIGINT, SQL_BIGINT, 0, &parameter.integer, 0);
         }
         break;
       case Value::Kind::Real:
         parameter.real = value.real;
-        parameter.length = 0;
         if (untyped) {
-          parameter.text = digits(value.real);
-          result = asText(SQL_WVARCHAR);
+          boundText(digits(value.real));
         } else {
-          result = SQLBindParameter(handle_.get(), number, SQL_PARAM_INPUT, SQL_C_DOUBLE, SQL_DOUBLE, 0, 0,
-                                    &parameter.real, 0, &parameter.length);
+          bound(SQL_C_DOUBLE, SQL_DOUBLE, 0, &parameter.real, 0);
         }
         break;
       case Value::Kind::Text:
-        parameter.text = wellFormed(value.text);
-        result = asText(parameter.text.size() > LongestParameter ? SQL_WLONGVARCHAR : SQL_WVARCHAR);
+        boundText(wellFormed(value.text));
         break;
     }
-    if (!SQL_SUCCEEDED(result)) fail();
   }
 }
 

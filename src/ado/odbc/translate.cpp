@@ -209,7 +209,7 @@ class Translator {
   /// A token by itself.
   void plain(std::size_t i) {
     const Token& token = tokens_[i];
-    const bool table = std::ranges::find(tables_, i) != tables_.end();
+    const bool table = isTable(i);
     const bool exactTable = table && (dialect_.exactTableNames || dialect_.lowerCaseNames);
     if (token.kind == Kind::Name) {
       replace(i, i, sql::quoted(stored(i, exactTable).value_or(token.unquoted())));
@@ -229,6 +229,15 @@ class Translator {
       const auto name = stored(i, table);
       if (name && *name != lowerCase(token.text)) replace(i, i, sql::quoted(*name));
     }
+  }
+
+  /// It stands where a table is named, or in front of the point of "Table.Column".
+  bool isTable(std::size_t i) const {
+    const bool qualifies = isName(tokens_[i]) && at(i + 1).isSymbol(u".");
+    return std::ranges::any_of(tables_, [&](std::size_t table) {
+      return table == i ||
+             (qualifies && compareIgnoringCase(tokens_[table].unquoted(), tokens_[i].unquoted()) == 0);
+    });
   }
 
   /// A name that the statement itself gives: where it is given, where a column is taken from what bears it,

@@ -87,6 +87,10 @@ TEST(Translation, NamesKeepTheirCapitalsWhereTheServerWouldDropThem) {
   EXPECT_EQ(spelled(u"CREATE INDEX Neu ON Vertriebsstati (Bezeichnung)"),
             u"CREATE INDEX Neu ON \"Vertriebsstati\" (\"Bezeichnung\")");
   EXPECT_EQ(spelled(u"DROP TABLE Vertriebsstati"), u"DROP TABLE \"Vertriebsstati\"");
+  EXPECT_EQ(spelled(u"SELECT Vertriebsstati.Status FROM Vertriebsstati"),
+            u"SELECT \"Vertriebsstati\".\"Status\" FROM \"Vertriebsstati\"");
+  EXPECT_EQ(maria(u"SELECT VERTRIEBSSTATI.Status FROM VERTRIEBSSTATI"),
+            u"SELECT \"Vertriebsstati\".Status FROM \"Vertriebsstati\"");
   EXPECT_EQ(spelled(u"SELECT V.Status FROM Vertriebsstati AS V"),
             u"SELECT \"V\".\"Status\" FROM \"Vertriebsstati\" AS \"V\"");
   EXPECT_EQ(spelled(u"INSERT INTO Vertriebsstati (Status) VALUES (lower('X'))"),

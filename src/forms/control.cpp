@@ -133,6 +133,8 @@ const PropertyEntry* Control::findProperty(StringView name) const {
       {u"TabStop", [](const Control& c) { return Variant(c.TabStop()); },
        [](Control& c, const Variant& value) { c.TabStop(CBool(value)); }},
       {u"TabIndex", [](const Control& c) { return Variant(std::int32_t{c.TabIndex()}); }, nullptr},
+      {u"CausesValidation", [](const Control& c) { return Variant(c.CausesValidation()); },
+       [](Control& c, const Variant& value) { c.CausesValidation(CBool(value)); }},
       {u"ToolTipText", [](const Control& c) { return Variant(c.ToolTipText()); },
        [](Control& c, const Variant& value) { c.ToolTipText(CStr(value)); }},
       {u"BackColor", [](const Control& c) { return Variant(double{1.0 * c.BackColor()}); },

@@ -203,6 +203,11 @@ const PropertyEntry* FlexGrid::findProperty(StringView name) const {
          return Variant(double{1.0 * static_cast<const FlexGrid&>(c).CellBackColor()});
        },
        nullptr},
+      {u"CellForeColor",
+       [](const Control& c) {
+         return Variant(double{1.0 * static_cast<const FlexGrid&>(c).CellForeColor()});
+       },
+       nullptr},
       {u"Text", [](const Control& c) { return Variant(static_cast<const FlexGrid&>(c).Text()); },
        [](Control& c, const Variant& value) { static_cast<FlexGrid&>(c).Text(CStr(value)); }},
   };

@@ -233,6 +233,7 @@ TEST_F(GridCells, TextAndLooksAreThoseOfTheCellAtTheCursor) {
   EXPECT_EQ(grid.cell(2, 3).picture, &mark);
   EXPECT_EQ(grid.cell(2, 3).pictureAlignment, 4);
   EXPECT_EQ(grid.cell(2, 3).foreColor, 0x0000FFU);
+  EXPECT_EQ(grid.Property(u"CellForeColor"), Variant(255.0));
   EXPECT_EQ(grid.cell(2, 2).picture, nullptr);
   EXPECT_EQ(grid.content(), u"hier");
 }

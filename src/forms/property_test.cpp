@@ -58,6 +58,7 @@ TEST_F(Properties, EveryControlTellsItsPlaceAndState) {
   EXPECT_EQ(key.Property(u"Enabled"), Variant(true));
   EXPECT_EQ(key.Property(u"TabStop"), Variant(true));
   EXPECT_EQ(key.Property(u"TabIndex"), whole(0));
+  EXPECT_EQ(key.Property(u"CausesValidation"), Variant(true));
   EXPECT_EQ(key.Property(u"ToolTipText"), Variant(u"Der Schlüssel"));
   EXPECT_EQ(key.Property(u"BackColor"), Variant(2147483653.0));
   EXPECT_EQ(form.control(u"btnOK").Property(u"Default"), Variant(true));
@@ -74,6 +75,8 @@ TEST_F(Properties, AreAssignedWithTheEventsOfTheAssignment) {
   EXPECT_EQ(form.findControl(u"Label1(0)")->content(), u"Kennung");
   EXPECT_EQ(happened(), "Schluessel_Change AutoOverwrite_Click");
   key.Property(u"Left", whole(240));
+  key.Property(u"CausesValidation", false);
+  EXPECT_FALSE(key.CausesValidation());
   key.Property(u"Enabled", false);
   EXPECT_EQ(key.Left(), 240);
   EXPECT_FALSE(key.Enabled());

@@ -51,6 +51,8 @@ VariantArray readParams(const std::string& text) {
   } catch (const Json::parse_error& failure) {
     throw wrongUsage("--params is no JSON (byte " + std::to_string(failure.byte) +
                      "); write an array such as '[\"10\", 5, true, null]'");
+  } catch (const Json::out_of_range&) {
+    throw wrongUsage("--params has a number beyond 1.8e308; write a smaller one, or a text");
   }
   if (!array.is_array())
     throw wrongUsage("--params is no JSON array; write an array such as '[\"10\", 5, true, null]'");
@@ -99,7 +101,8 @@ SettingForRun readSetting(const std::string& option, const std::string& text) {
 }
 
 std::filesystem::path readFolder(const std::string& text) {
-  if (!std::filesystem::is_directory(text))
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(text, ignored))
     throw wrongUsage("--app-path '" + text + "' is no folder; name the folder that holds the layout files");
   return text;
 }

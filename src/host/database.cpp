@@ -40,8 +40,8 @@ Created createTables(const DatabaseAddress& address, const Content& content) {
 
 fs::path defaultDatabaseFile() {
   fs::path file = dataFolder() / "zqn-dialog.sqlite";
-  if (fs::exists(file)) return file;
   std::error_code failure;
+  if (fs::exists(file, failure)) return file;
   fs::create_directories(file.parent_path(), failure);
   if (failure)
     throw CommandFailure(ExitStatus::CannotOpen,

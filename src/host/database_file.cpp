@@ -35,17 +35,26 @@ std::string createHint(const fs::path& file) {
   return "make a database with: zqn-dialog init --db sqlite:" + file.string() + " --sample";
 }
 
-bool isProtected(const fs::path& file) {
+/// What stands at the path, if anything; says why when nobody can know.
+fs::file_status statusOf(const fs::path& file) {
+  std::error_code failure;
+  const fs::file_status status = fs::status(file, failure);
+  if (!fs::status_known(status)) throw cannotOpen(file, failure.message() + "; name another file");
+  return status;
+}
+
+bool isProtected(const fs::file_status& status) {
   using enum fs::perms;
   // The bits count for root, too, whom the system would let write: the mark says that somebody wants it kept.
-  return (fs::status(file).permissions() & (owner_write | group_write | others_write)) == none;
+  return (status.permissions() & (owner_write | group_write | others_write)) == none;
 }
 
 /// A file that SQLite can take; says what it is when it is something else.
 void requireDatabaseFile(const fs::path& file) {
-  if (fs::is_directory(file)) throw cannotOpen(file, "is a folder; name a file in it");
-  if (!fs::is_regular_file(file)) throw cannotOpen(file, "is no file; name a file on a disk");
-  if (isProtected(file))
+  const fs::file_status status = statusOf(file);
+  if (fs::is_directory(status)) throw cannotOpen(file, "is a folder; name a file in it");
+  if (!fs::is_regular_file(status)) throw cannotOpen(file, "is no file; name a file on a disk");
+  if (isProtected(status))
     throw cannotOpen(file, "is write-protected; give it write permission or name a copy");
 }
 
@@ -79,7 +88,7 @@ void removeDatabase(const fs::path& file) noexcept {
 }  // namespace
 
 Ref<ado::Connection> openDatabaseFile(const fs::path& file) {
-  if (!fs::exists(file)) throw cannotOpen(file, "does not exist; " + createHint(file));
+  if (!fs::exists(statusOf(file))) throw cannotOpen(file, "does not exist; " + createHint(file));
   requireDatabaseFile(file);
   try {
     if (systemTablesIn(file).empty())
@@ -91,7 +100,7 @@ Ref<ado::Connection> openDatabaseFile(const fs::path& file) {
 }
 
 Created createTablesInFile(const fs::path& file, const Content& content) {
-  const bool existed = fs::exists(file);
+  const bool existed = fs::exists(statusOf(file));
   try {
     if (existed) {
       requireDatabaseFile(file);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/program.h"
 
+#include <filesystem>
 #include <iostream>
 
 #include "desktop/headless/headless_desktop.h"
@@ -59,6 +60,10 @@ int runProgram(int argc, char** argv, const WithWindows& withWindows) {
   } catch (const CommandFailure& failure) {
     std::cerr << "zqn-dialog: " << failure.what() << "\n";
     return static_cast<int>(failure.status());
+  } catch (const std::filesystem::filesystem_error& failure) {
+    // The folder that the command was called in may be gone.
+    std::cerr << "zqn-dialog: " << failure.what() << "\n";
+    return static_cast<int>(ExitStatus::CannotOpen);
   }
 }
 

@@ -3,9 +3,10 @@
 
 import json
 import sqlite3
+import subprocess
 import unittest
 
-from command import CommandTest, CANNOT_OPEN, DONE
+from command import COMMAND, CommandTest, CANNOT_OPEN, DONE
 
 
 class Init(CommandTest):
@@ -122,6 +123,19 @@ class UnusableDatabases(CommandTest):
     def test_a_missing_file_is_not_made(self):
         self.assert_unusable("a.sqlite", "does not exist", "init")
 
+    def test_a_path_that_the_system_does_not_take(self):
+        self.assert_unusable("a" * 300, "File name too long")
+        (self.folder / "ring").symlink_to("ring")
+        self.assert_unusable("ring", "symbolic links")
+        self.assert_refused(CANNOT_OPEN, ["ring"], "init", "--db", "sqlite:ring")
+
+    def test_a_working_folder_that_is_gone(self):
+        script = 'mkdir gone && cd gone && rmdir ../gone && "$0" sql --db sqlite:a.sqlite'
+        result = subprocess.run(["sh", "-c", script, COMMAND], capture_output=True, text=True, stdin=subprocess.DEVNULL,
+                                cwd=self.folder, env=self.environment, timeout=60)
+        self.assertEqual(result.returncode, CANNOT_OPEN, result.stderr)
+        self.assertTrue(result.stderr.startswith("zqn-dialog: "), result.stderr)
+
     def test_a_folder(self):
         (self.folder / "waren").mkdir()
         self.assert_unusable("waren", "folder")
@@ -166,6 +180,11 @@ class UnusableDatabases(CommandTest):
     def test_no_home_to_put_the_database_into(self):
         del self.environment["HOME"], self.environment["XDG_DATA_HOME"]
         self.assert_refused(CANNOT_OPEN, ["HOME", "--db"], "show", "21", "--ui", "headless", "--script", "-")
+
+    def test_a_home_that_the_system_does_not_take(self):
+        self.environment["XDG_DATA_HOME"] = "/" + "a" * 300
+        self.assert_refused(CANNOT_OPEN, ["zqn-dialog.sqlite", "File name too long"], "show", "21", "--ui", "headless",
+                            "--script", "-")
 
 
 class DefaultDatabase(CommandTest):

@@ -23,6 +23,9 @@ class WrongUsage(CommandTest):
         for text in ("[[1]]", '["10", {}]'):
             self.assert_refused(WRONG_USAGE, ["--params"], "show", "21", "--params", text)
 
+    def test_a_number_that_no_double_holds_is_no_param(self):
+        self.assert_refused(WRONG_USAGE, ["--params", "number"], "show", "21", "--params", "[1e999]")
+
     def test_param_is_given_in_one_way(self):
         self.assert_refused(WRONG_USAGE, ["not both"], "show", "21", "10", "--params", "[]")
 
@@ -39,7 +42,8 @@ class WrongUsage(CommandTest):
         self.assert_refused(WRONG_USAGE, ["--ui", "gtk"], "show", "21", "--ui", "gtk")
 
     def test_the_application_folder_must_exist(self):
-        self.assert_refused(WRONG_USAGE, ["--app-path", "nowhere"], "show", "21", "--app-path", "nowhere")
+        for folder in ("nowhere", "a" * 300):
+            self.assert_refused(WRONG_USAGE, ["--app-path", folder], "show", "21", "--app-path", folder)
 
     def test_the_script_must_be_readable(self):
         (self.folder / "folder").mkdir()
@@ -76,12 +80,12 @@ class Help(CommandTest):
     def test_help_names_every_command_and_every_option(self):
         text = self.run_fine("--help")
         for command in ("kinds", "init", "sql", "show"):
-            self.assertIn(command, text)
+            self.assertRegex(text, rf"(?m)^ +{command} ")
         text = self.run_fine("show", "--help")
         self.assertIn("zqn-dialog show [OPTIONS] KIND [PARAM ...]", text)
         for option in ("--db", "--params", "--user", "--admin", "--no-session", "--set", "--set-user", "--multiselect",
                        "--generic", "--app-path", "--today", "--ui", "--script", "--transcript"):
-            self.assertIn(option, text)
+            self.assertRegex(text, rf"(?m)^ +{option} ")
 
     def test_version(self):
         self.assertRegex(self.run_fine("--version"), r"^zqn-dialog \d+\.\d+\.\d+\n$")

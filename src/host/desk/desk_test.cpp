@@ -5,12 +5,16 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 
 #include "desktop/headless/headless_desktop.h"
 #include "frontend/kinds.h"
@@ -40,6 +44,37 @@ QStringList visibleDialogs(QTreeWidget& tree) {
   for (QTreeWidgetItem* item = tree.topLevelItem(0); item; item = tree.itemBelow(item))
     if (item->parent() && !item->isHidden() && !item->parent()->isHidden()) titles += item->text(0);
   return titles;
+}
+
+QAction& actionOf(QWidget& window, const QString& text) {
+  for (QAction* action : window.findChildren<QAction*>())
+    if (action->text() == text) return *action;
+  throw std::logic_error("no such action: " + text.toStdString());
+}
+
+QStringList labelsOf(QWidget& window) {
+  QStringList labels;
+  for (const QLabel* label : window.findChildren<QLabel*>()) labels += label->text();
+  return labels;
+}
+
+/// Reads the message box that stands open, and takes it away.
+QString textOfTheBox() {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box == nullptr) return {};
+  box->accept();
+  return box->text();
+}
+
+/// Types a text into the question that comes next, and takes it; `then` runs over the window behind it.
+void answerInput(const QString& text, const std::function<void()>& then = {}) {
+  QTimer::singleShot(0, [text, then] {
+    auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+    if (question == nullptr) return;
+    if (then) QTimer::singleShot(0, then);
+    question->setTextValue(text);
+    question->accept();
+  });
 }
 
 class List : public ::testing::Test {
@@ -237,10 +272,6 @@ TEST_F(Desk, WritesTheSameCallForAProgramAndAShell) {
 
 TEST_F(Desk, OffersTheImages) {
   DeskWindow desk(options());
-  QAction* images = nullptr;
-  for (QAction* action : desk.findChildren<QAction*>())
-    if (action->text() == "&Bilder…") images = action;
-  ASSERT_NE(images, nullptr);
   QString title;
   QTimer::singleShot(0, [&] {
     QWidget* window = QApplication::activeModalWidget();
@@ -248,7 +279,7 @@ TEST_F(Desk, OffersTheImages) {
     title = window->windowTitle();
     window->close();
   });
-  images->trigger();
+  actionOf(desk, "&Bilder…").trigger();
   EXPECT_EQ(title, "Bilder");
 }
 
@@ -256,10 +287,57 @@ TEST_F(Desk, NamesItsDatabaseAndItsUser) {
   HostOptions admin = options();
   admin.admin = true;
   DeskWindow desk(admin);
-  QStringList labels;
-  for (const QLabel* label : desk.findChildren<QLabel*>()) labels += label->text();
+  const QStringList labels = labelsOf(desk);
   EXPECT_TRUE(labels.contains("Datenbank: " + folder.filePath("waren.sqlite")));
   EXPECT_TRUE(labels.contains("Benutzer: anna (Administrator)"));
+}
+
+TEST_F(Desk, ChangesTheUserAndTheRights) {
+  headless::HeadlessDesktop desktop;
+  const Desktop::Scope scope(desktop);
+  HostOptions restricted = options();
+  restricted.settings = {{u"ZQNComDlg", u"AdminsOnly", u"1"}, {u"ZQNComDlg", u"AllowVPSave", u"7;", true}};
+  DeskWindow desk(restricted);
+  const auto rights = [&] {
+    named<QLineEdit>(desk, "Dialog suchen").setText("stati");
+    QTest::keyClick(&named<QLineEdit>(desk, "Dialog suchen"), Qt::Key_Return);
+    const QTreeWidget& log = named<QTreeWidget>(desk, "Aufrufe");
+    const QTreeWidgetItem& call = *log.topLevelItem(log.topLevelItemCount() - 1);
+    return call.child(call.childCount() - 1)->text(1);
+  };
+  EXPECT_EQ(rights(), "nicht erlaubt");
+  actionOf(desk, "Benutzer ist &Administrator").trigger();
+  EXPECT_EQ(rights(), "erlaubt");
+  EXPECT_TRUE(labelsOf(desk).contains("Benutzer: anna (Administrator)"));
+  actionOf(desk, "Benutzer ist &Administrator").trigger();
+  EXPECT_EQ(rights(), "nicht erlaubt");
+
+  answerInput("  berta ");
+  actionOf(desk, "&Benutzer…").trigger();
+  EXPECT_TRUE(labelsOf(desk).contains("Benutzer: berta"));
+  answerInput(" ");
+  actionOf(desk, "&Benutzer…").trigger();
+  EXPECT_TRUE(labelsOf(desk).contains("Benutzer: berta"));
+}
+
+TEST_F(Desk, KeepsItsDatabaseWhenAnotherCannotBeOpened) {
+  DeskWindow desk(options());
+  QString told;
+  answerInput("DSN=nirgends;PWD=geheim", [&told] { told = textOfTheBox(); });
+  actionOf(desk, "Auf einem &Server öffnen…").trigger();
+  EXPECT_TRUE(told.startsWith("Die Datenbank lässt sich nicht öffnen.")) << told.toStdString();
+  EXPECT_FALSE(told.contains("geheim"));
+  EXPECT_TRUE(labelsOf(desk).contains("Datenbank: " + folder.filePath("waren.sqlite")));
+}
+
+TEST_F(Desk, LivesOnWhenTheSettingsCannotBeRead) {
+  openDatabase(DatabaseAddress::ofFile(file()))
+      ->Execute(u"ALTER TABLE Einstellungen RENAME COLUMN Benutzer TO Niemand");
+  DeskWindow desk(options());
+  QString told;
+  QTimer::singleShot(0, [&told] { told = textOfTheBox(); });
+  actionOf(desk, "&Einstellungen…").trigger();
+  EXPECT_TRUE(told.startsWith("Die Einstellungen lassen sich nicht lesen.")) << told.toStdString();
 }
 
 TEST_F(Desk, ShowsTheSettingsAndWritesOnlyWhatWasChanged) {

@@ -25,6 +25,7 @@
 #include "host/desk/images_window.h"
 #include "host/desk/settings_dialog.h"
 #include "host/show_command.h"
+#include "runtime/error.h"
 
 namespace zqn::host {
 
@@ -303,7 +304,12 @@ void DeskWindow::changeUser() {
 }
 
 void DeskWindow::changeSettings() {
-  SettingsDialog(host_->session().settings(), host_->session().user(), this).exec();
+  try {
+    SettingsDialog(host_->session().settings(), host_->session().user(), this).exec();
+  } catch (const RuntimeError& failure) {
+    QMessageBox::critical(this, windowTitle(),
+                          "Die Einstellungen lassen sich nicht lesen.\n\n" + toQt(failure.description()));
+  }
 }
 
 void DeskWindow::showSession() {

@@ -9,6 +9,14 @@
 
 namespace zqn::script {
 
+std::optional<std::int32_t> wholeNumberIn(const Json& value) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (!value.is_number_integer()) return std::nullopt;
+  const double number = value.get<double>();
+  if (number < Limits::min() || number > Limits::max()) return std::nullopt;
+  return value.get<std::int32_t>();
+}
+
 Arguments::Arguments(const Json& object, std::string where) : object_(object), where_(std::move(where)) {}
 
 void Arguments::mismatch(const std::string& name, const std::string& wanted) const {
@@ -33,12 +41,10 @@ std::string Arguments::text(const std::string& name, const std::string& otherwis
 }
 
 std::int32_t Arguments::wholeNumber(const std::string& name, std::int32_t least, std::int32_t most) const {
-  const Json& member = any(name);
-  const std::string bounds = "a whole number from " + std::to_string(least) + " to " + std::to_string(most);
-  if (!member.is_number_integer()) mismatch(name, bounds);
-  const double value = member.get<double>();
-  if (value < least || value > most) mismatch(name, bounds);
-  return member.get<std::int32_t>();
+  const std::optional<std::int32_t> value = wholeNumberIn(any(name));
+  if (!value || *value < least || *value > most)
+    mismatch(name, "a whole number from " + std::to_string(least) + " to " + std::to_string(most));
+  return *value;
 }
 
 std::int32_t Arguments::wholeNumber(const std::string& name) const {
@@ -55,8 +61,9 @@ std::vector<std::int32_t> Arguments::wholeNumbers(const std::string& name) const
   const Json& member = any(name);
   if (!member.is_array()) mismatch(name, "an array of whole numbers");
   for (const Json& each : member) {
-    if (!each.is_number_integer()) mismatch(name, "an array of whole numbers");
-    numbers.push_back(each.get<std::int32_t>());
+    const std::optional<std::int32_t> number = wholeNumberIn(each);
+    if (!number) mismatch(name, "an array of whole numbers");
+    numbers.push_back(*number);
   }
   return numbers;
 }

@@ -17,6 +17,9 @@
 
 namespace zqn::script {
 
+/// The whole number that a JSON value is, when it has no more than 32 bits.
+std::optional<std::int32_t> wholeNumberIn(const Json& value);
+
 class Arguments {
  public:
   /// `object` is a JSON object that outlives this; `where` is its name in messages, empty for the line

@@ -151,6 +151,12 @@ TEST_F(Field, WhatStandsInAHiddenFrameIsHidden) {
                           R"~({"values":{"lblFra.Visible":true,"fra.Visible":false}})~"));
 }
 
+TEST_F(Field, OfAnArrayIsNamedWithItsIndexWhenItHasTheFocus) {
+  EXPECT_THAT(actsOnFields(R"~({"focus":"tdbnSkTage(0)"}
+                              {"get":["Form.ActiveControl"]})~"),
+              ElementsAre(R"~({"values":{"Form.ActiveControl":"tdbnSkTage(0)"}})~"));
+}
+
 TEST_F(Field, DumpTellsThemByCaptionOrText) {
   const Json dump = Json::parse(actsOnFields(R"({"dump":true})").at(0))["dump"];
   std::vector<std::string> words;

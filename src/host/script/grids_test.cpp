@@ -138,10 +138,20 @@ TEST_F(GridScript, PlacesThatNobodyCanPointAtAreRefused) {
 }
 
 TEST_F(GridScript, UnknownEventsAndCellsEndTheScript) {
-  EXPECT_THAT(
-      run(R"({"mouse":"MSHFlexGrid1","row":1,"col":1,"event":"kick"})", [this] { grid.Show(); }),
-      ::testing::Contains(HasSubstr(R"(unknown event \"kick\"; there is down, up, click, dblclick)")));
-  EXPECT_TRUE(failed);
+  const auto errorOf = [this](const std::string& line) {
+    const Lines lines = run(line, [this] { grid.Show(); });
+    EXPECT_TRUE(failed) << line;
+    return lines.back();
+  };
+  EXPECT_THAT(errorOf(R"({"mouse":"MSHFlexGrid1","row":1,"col":1,"event":"kick"})"),
+              HasSubstr(R"(unknown event \"kick\"; there is down, up, click, dblclick)"));
+  EXPECT_THAT(errorOf(R"({"mouse":"MSHFlexGrid1","row":1,"col":1,"button":3})"),
+              HasSubstr(R"(\"button\" must be a whole number from 1 to 2)"));
+  for (const char* cell : {"7", "[1]", "[1,0,0]", "[1,0.5]", R"(["1",0])", "[4294967297,0]"}) {
+    EXPECT_THAT(errorOf(R"({"drag":"MSHFlexGrid1","from":)" + std::string(cell) + R"(,"to":[3,0]})"),
+                HasSubstr(R"(\"from\" must be [row, column])"))
+        << cell;
+  }
 }
 
 TEST_F(GridScript, RowsAreClickedAsThoseOfAList) {

@@ -170,6 +170,11 @@ TEST_F(ScriptErrors, NameTheLineAndWhatWouldBeRight) {
             R"(line 2: "select" needs "row", "rows", "index" or "text")");
   EXPECT_EQ(errorOf(R"({"select":"TDBList1","row":"0"})"),
             R"(line 2: "row" must be a whole number from -2147483648 to 2147483647)");
+  for (const char* rows : {"1", "[0.5]", R"(["0"])", "[4294967296]"}) {
+    EXPECT_EQ(errorOf(R"({"select":"TDBList1","rows":)" + std::string(rows) + "}"),
+              R"(line 2: "rows" must be an array of whole numbers)")
+        << rows;
+  }
   EXPECT_EQ(errorOf(R"({"key":"F13"})").substr(0, 61),
             R"(line 2: unknown key "F13"; there is one character, F1, F2, F3)");
   EXPECT_EQ(errorOf(R"({"key":""})").substr(0, 26), R"(line 2: unknown key ""; th)");

@@ -80,9 +80,11 @@ FlexGrid& usableGrid(const Scene& scene, const std::string& name) {
 /// [row, column].
 std::pair<int, int> cellOf(const Arguments& line, const char* member) {
   const Json& cell = line.any(member);
-  if (!cell.is_array() || cell.size() != 2 || !cell[0].is_number_integer() || !cell[1].is_number_integer())
-    throw ScriptError(std::string("\"") + member + "\" must be [row, column]");
-  return {cell[0].get<int>(), cell[1].get<int>()};
+  const bool isPair = cell.is_array() && cell.size() == 2;
+  const auto row = isPair ? wholeNumberIn(cell[0]) : std::nullopt;
+  const auto col = isPair ? wholeNumberIn(cell[1]) : std::nullopt;
+  if (!row || !col) throw ScriptError(std::string("\"") + member + "\" must be [row, column]");
+  return {*row, *col};
 }
 
 /// Takes an entry of a drop-down by its number or its text.

@@ -49,6 +49,12 @@ SQLSMALLINT length(StringView text) { return static_cast<SQLSMALLINT>(text.size(
 /// nullptr, no restriction, for an empty schema.
 SQLWCHAR* orAny(StringView text) { return text.empty() ? nullptr : asWide(text); }
 
+bool isNumber(int type) {
+  constexpr std::array<int, 9> types = {SQL_TINYINT, SQL_SMALLINT, SQL_INTEGER, SQL_BIGINT, SQL_REAL,
+                                        SQL_FLOAT,   SQL_DOUBLE,   SQL_NUMERIC, SQL_DECIMAL};
+  return std::ranges::find(types, type) != types.end();
+}
+
 }  // namespace
 
 const TableInfo::Column* TableInfo::column(StringView asked) const {
@@ -100,7 +106,8 @@ TableInfo Catalogue::read(const Name& name) {
       // The name is taken for a pattern, in which an underscore stands for any character.
       if (rows.text(3) != name.table) continue;
       const String column = rows.text(4);
-      table.columns.push_back({column, rows.number(5) == SQL_BIT});
+      const int type = rows.number(5);
+      table.columns.push_back({column, type == SQL_BIT, isNumber(type)});
     }
   }
   CatalogueRows rows(link_);

@@ -15,6 +15,7 @@ struct TableInfo {
   struct Column {
     String name;
     bool boolean = false;
+    bool number = false;
   };
 
   /// As the server stores it.

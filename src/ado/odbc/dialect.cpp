@@ -40,6 +40,7 @@ const std::array<Dialect, 5>& dialects() {
           .strictBooleans = true,
           .untypedParameters = true,
           .like = u"COLLATE \"und-x-icu\" ILIKE",
+          .asText = u"::text ",
           .exactBehind = u" COLLATE \"C\"",
           .lastNumber = u"SELECT lastval()",
           .snapshot = {u"BEGIN ISOLATION LEVEL REPEATABLE READ, READ ONLY"}},

@@ -37,6 +37,8 @@ struct Dialect {
   bool nationalLiterals = false;
   /// LIKE distinguishes case, or is refused on the columns of this system; this stands in its place.
   StringView like = {};
+  /// Behind a column of numbers that is compared with a pattern.
+  StringView asText = {};
   /// Makes a text comparison one of bytes: before and behind the column.
   StringView exactBefore = {}, exactBehind = {};
   /// BEGIN, and an INSERT without values, as the server writes them.

@@ -274,6 +274,7 @@ TEST_F(Server, YesAndNoAsTheDialogsWriteThem) {
 TEST_F(Server, LikeDisregardsCase) {
   EXPECT_EQ(value(u"SELECT count(*) FROM Stamm WHERE Wert LIKE 'EIN%'"), u"1");
   EXPECT_EQ(value(u"SELECT count(*) FROM Stamm WHERE Wert NOT LIKE '%WEI'"), u"1");
+  EXPECT_EQ(value(u"SELECT count(*) FROM Stamm s WHERE s.Zahl LIKE '1%'"), u"1") << "a number by its digits";
 }
 
 TEST_F(Server, ColumnsAddedSinceAreSeen) {

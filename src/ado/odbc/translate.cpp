@@ -267,12 +267,13 @@ class Translator {
   void like(std::size_t i) {
     // A collation stands before NOT, and so before what has been copied already.
     const bool negated = i > 0 && at(i - 1).is(u"NOT");
+    const std::size_t operand = i - (negated ? 2 : 1);
+    const TableInfo::Column* compared = operand < i ? column(tokens_[operand]) : nullptr;
+    const String cast(compared && compared->number ? dialect_.asText : StringView());
     const StringView words = dialect_.like;
-    if (!negated) return replace(i, i, words);
+    if (!negated) return replace(i, i, cast + String(words));
     const std::size_t last = words.rfind(u' ');
-    const std::size_t begin = beginOf(tokens_[i - 1]);
-    text_.append(statement_, copied_, begin - copied_).append(words.substr(0, last)).append(u" NOT");
-    copied_ = endOf(tokens_[i - 1]);
+    replace(i - 1, i - 1, cast + String(words.substr(0, last)) + u" NOT");
     replace(i, i, words.substr(last + 1));
   }
 

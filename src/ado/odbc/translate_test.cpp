@@ -13,7 +13,12 @@ namespace {
 
 // As a server with names in lower case stores it.
 const TableInfo Folded{u"vertriebsstati",
-                       {{u"status"}, {u"bezeichnung"}, {u"historie", true}, {u"gewichtung"}, {u"größe"}},
+                       {{u"status"},
+                        {u"bezeichnung"},
+                        {u"historie", true},
+                        {u"gewichtung"},
+                        {u"größe"},
+                        {u"nummer", false, true}},
                        {u"status"}};
 const TableInfo Plain{u"Vertriebsstati",
                       {{u"Status"}, {u"Bezeichnung"}, {u"Historie"}, {u"Gewichtung"}, {u"Größe"}},
@@ -127,6 +132,10 @@ TEST(Translation, LikeDisregardsCase) {
   EXPECT_EQ(
       postgres(u"SELECT 1 FROM T WHERE a LIKE '%x%' AND b NOT LIKE 'y'"),
       u"SELECT 1 FROM T WHERE a COLLATE \"und-x-icu\" ILIKE '%x%' AND b COLLATE \"und-x-icu\" NOT ILIKE 'y'");
+  EXPECT_EQ(
+      postgres(u"SELECT 1 FROM Vertriebsstati v WHERE v.Nummer LIKE '1%' OR Nummer NOT LIKE '2%'"),
+      u"SELECT 1 FROM Vertriebsstati v WHERE v.Nummer ::text COLLATE \"und-x-icu\" ILIKE '1%' OR Nummer "
+      u"::text COLLATE \"und-x-icu\" NOT ILIKE '2%'");
   EXPECT_EQ(maria(u"SELECT 1 FROM T WHERE a LIKE 'x'"), u"SELECT 1 FROM T WHERE a LIKE 'x'");
 }
 

@@ -127,7 +127,7 @@ void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerCatal
 }  // namespace
 
 Ref<ado::Connection> openDatabaseOnServer(const DatabaseAddress& address) {
-  const Ref<ado::Connection> connection = connect(address);
+  Ref<ado::Connection> connection = connect(address);
   const auto dialect = dialectOf(connection->provider().name());
   if (!dialect || !systemTablesIn(catalogueOf(*connection, *dialect, address)).empty()) return connection;
   throw cannotOpen(address, "has no table of the system; make them with: zqn-dialog init --db '" +

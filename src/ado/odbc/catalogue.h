@@ -25,7 +25,7 @@ struct TableInfo {
   std::vector<String> key;
 
   /// Found without regard to case; nullptr when there is none.
-  const Column* column(StringView name) const;
+  const Column* column(StringView asked) const;
 };
 
 class Catalogue {
@@ -34,7 +34,7 @@ class Catalogue {
 
   /// A table or view by the name that a statement gives it, without quotes: the one that has it exactly, else
   /// the one that has it in another case. nullptr when there is none. Valid until `forget`.
-  const TableInfo* table(StringView name);
+  const TableInfo* table(StringView asked);
   /// Tables may have changed.
   void forget() noexcept;
 

@@ -53,6 +53,7 @@ RowHandle KeyTable::add(std::span<const Value> key) {
 
 std::vector<Value> KeyTable::key(RowHandle row) const {
   std::vector<Value> values;
+  values.reserve(static_cast<std::size_t>(keys_.columns()));
   for (int column = 0; column < keys_.columns(); ++column)
     values.push_back(keys_.at(static_cast<int>(row), column));
   return values;

@@ -136,7 +136,7 @@ bool OdbcKeyset::fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) {
   delivered_ += count;
   const bool more = delivered_ < read_.size() || reading_;
   // A list that could not be read to its end never counts as complete.
-  if (!more && failure_ && count == 0) throw *failure_;
+  if (!more && failure_ && count == 0) throw RuntimeError(*failure_);
   return more || failure_;
 }
 

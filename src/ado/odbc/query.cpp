@@ -16,7 +16,7 @@ namespace {
 constexpr std::int32_t NoValueForParameter = -2147217904;
 /// Longest text that is read in blocks, in characters; a longer one, or one without a limit, comes alone.
 constexpr SQLULEN LongestInBlock = 1000;
-constexpr std::size_t BlockBytes = 8 * 1024;
+constexpr std::size_t BlockBytes = std::size_t{8} * 1024;
 constexpr std::size_t LargestBlock = 1000;
 /// A text beyond it is sent as a long one.
 constexpr std::size_t LongestParameter = 4000;
@@ -66,13 +66,13 @@ String digits(Number value) {
 
 }  // namespace
 
-Query::Query(Session& session, Link& link, String text)
+Query::Query(Session& session, Link& link, StringView text)
     : session_(session), link_(link), text_(wellFormed(text)) {}
 
 void Query::fail() {
   const RuntimeError error = link_.failure(handle_);
   close();
-  throw error;
+  throw RuntimeError(error);
 }
 
 void Query::makeHandle() {
@@ -174,7 +174,7 @@ void Query::execute(bool prepared) {
     if (!isOutdated(diagnostic)) {
       const RuntimeError error = link_.failure(diagnostic);
       close();
-      throw error;
+      throw RuntimeError(error);
     }
     close();
     prepared_ = described_ = false;
@@ -319,14 +319,14 @@ void Query::readPieces(RowStore& rows, std::size_t column) {
   if (source.type == SQL_C_SBIGINT || source.type == SQL_C_DOUBLE) {
     Value value;
     const bool whole = source.type == SQL_C_SBIGINT;
-    const SQLPOINTER target = whole ? static_cast<SQLPOINTER>(&value.integer) : &value.real;
+    void* target = whole ? static_cast<void*>(&value.integer) : static_cast<void*>(&value.real);
     if (!SQL_SUCCEEDED(SQLGetData(handle_.get(), number, source.type, target, 0, &length))) fail();
     if (length != SQL_NULL_DATA) value.kind = whole ? Value::Kind::Integer : Value::Kind::Real;
     return rows.add(value);
   }
   const std::size_t end = link_.dialect().utf8Texts ? 1 : sizeof(char16_t);
   std::vector<char> text;
-  std::vector<char> piece(8 * 1024);
+  std::vector<char> piece(BlockBytes);
   for (;;) {
     const SQLRETURN result = SQLGetData(handle_.get(), number, source.type, piece.data(),
                                         static_cast<SQLLEN>(piece.size()), &length);

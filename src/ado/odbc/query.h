@@ -20,7 +20,7 @@ class Session;
 
 class Query {
  public:
-  Query(Session& session, Link& link, String text);
+  Query(Session& session, Link& link, StringView text);
 
   /// Prepares it without running it: the server says what columns there will be.
   void describe();
@@ -48,7 +48,7 @@ class Query {
 
   void makeHandle();
   void prepare();
-  void bind(std::span<const Value> parameters);
+  void bind(std::span<const Value> values);
   void execute(bool prepared);
   void readDescription();
   void bindColumns();

@@ -104,7 +104,7 @@ bool SqliteKeyset::fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) {
   delivered_ += count;
   const bool more = onKey_ || delivered_ < readAhead_.size();
   // A list that could not be read to its end never counts as complete.
-  if (!more && failure_ && keys.size() == before) throw *failure_;
+  if (!more && failure_ && keys.size() == before) throw RuntimeError(*failure_);
   return more || failure_;
 }
 

@@ -13,6 +13,9 @@
 extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
   return "leak:psqlodbcw.so\n";
 }
+extern "C" const char* __lsan_default_options() {  // NOLINT(bugprone-reserved-identifier)
+  return "print_suppressions=0";
+}
 #endif
 
 namespace zqn::ado::odbc {

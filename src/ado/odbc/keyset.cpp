@@ -68,13 +68,23 @@ void OdbcKeyset::begin() {
   if (read_.size() <= FirstPage) return;
 
   read_.clear();
+  if (!beginSnapshot()) return readPage(link, AllAtOnce);
+  nextPage();
+}
+
+bool OdbcKeyset::beginSnapshot() {
   if (session_->reading) session_->reading->readAll();
-  Link& reader = session_->reader();
-  for (const StringView statement : session_->dialect().snapshot) reader.run(statement);
+  try {
+    Link& reader = session_->reader();
+    for (const StringView statement : session_->dialect().snapshot) reader.run(statement);
+  } catch (const RuntimeError&) {
+    // The server has no connection left for us, or forbids the transaction: the list is read all the same.
+    return false;
+  }
   session_->reading = this;
   reading_ = true;
   pageSize_ = FirstPage;
-  nextPage();
+  return true;
 }
 
 void OdbcKeyset::readPage(Link& link, std::size_t count) {

@@ -29,6 +29,8 @@ class OdbcKeyset : public Keyset {
   OdbcKeyset(std::shared_ptr<Session> session, KeyedSelect select, std::shared_ptr<const Columns> columns);
 
   void begin();
+  /// Takes the second connection; false where it cannot be had.
+  bool beginSnapshot();
   /// Reads keys behind those that are there, `count` at most; 0 for all.
   void readPage(Link& link, std::size_t count);
   void nextPage();

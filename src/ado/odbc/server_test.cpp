@@ -34,6 +34,21 @@ class Server : public testing::Test {
     const auto rs = open(other, statement, adUseClient);
     return rs->IsEOF() ? u"EOF" : concatenate(rs->Fields(0).Value());
   }
+  /// How often a page of keys was asked for.
+  std::ptrdiff_t pages() const {
+    return std::ranges::count_if(sent,
+                                 [](const String& text) { return text.find(u"OFFSET") != String::npos; });
+  }
+  /// Rows k100000 to k119999.
+  void insertTwentyThousand() {
+    for (int i = 0; i < 20; ++i) {
+      sql::Text statement = u"INSERT INTO Stamm VALUES ";
+      for (int row = 0; row < 1000; ++row)
+        statement += (row == 0 ? u"(" : u", (") +
+                     sql::value(fromUtf8("k" + std::to_string(100000 + i * 1000 + row))) + u", 'x', 0)";
+      connection->Execute(statement);
+    }
+  }
   /// The server ends the session of `connection`, as an administrator would.
   void drop() {
     if (ServerContext::isPostgreSql()) {
@@ -314,19 +329,9 @@ TEST_F(Server, RowsOfAListAreReadByAStatementThatIsPreparedOnce) {
 }
 
 TEST_F(Server, LongListIsReadInPages) {
-  for (int i = 0; i < 20; ++i) {
-    sql::Text statement = u"INSERT INTO Stamm VALUES ";
-    for (int row = 0; row < 1000; ++row)
-      statement += (row == 0 ? u"(" : u", (") +
-                   sql::value(fromUtf8("k" + std::to_string(100000 + i * 1000 + row))) + u", 'x', 0)";
-    connection->Execute(statement);
-  }
+  insertTwentyThousand();
   sent.clear();
   const auto rs = open(connection, u"SELECT Schluessel, Wert FROM Stamm ORDER BY Wert, Zahl");
-  const auto pages = [&] {
-    return std::ranges::count_if(sent,
-                                 [](const String& text) { return text.find(u"OFFSET") != String::npos; });
-  };
   EXPECT_EQ(pages(), 2) << "a look whether it is long, and its first page";
   rs->Find(u"Schluessel='k100500'");
   EXPECT_FALSE(rs->rowsComplete());
@@ -334,6 +339,20 @@ TEST_F(Server, LongListIsReadInPages) {
   EXPECT_EQ(pages(), 4);
   EXPECT_EQ(other->Execute(u"DELETE FROM Stamm WHERE Wert='x'"), 20000) << "no lock is left";
   EXPECT_EQ(rs->RecordCount(), 20002);
+}
+
+TEST_F(Server, LongListIsReadAtOnceWhereTheServerHasNoSecondConnection) {
+  insertTwentyThousand();
+  const sql::Text database = u"ALTER DATABASE " + connectionValue(context.address(), u"Database");
+  // MariaDB limits the connections of a user, which only an administrator may do: it reads in pages here.
+  if (ServerContext::isPostgreSql()) connection->Execute(database + u" CONNECTION LIMIT 2");
+  sent.clear();
+  const auto rs = open(connection, u"SELECT Schluessel, Wert FROM Stamm ORDER BY Schluessel");
+  EXPECT_FALSE(rs->IsEOF());
+  EXPECT_EQ(rs->RecordCount(), 20002);
+  EXPECT_EQ(rs->rowText(20001, 0), u"k119999");
+  EXPECT_EQ(pages(), ServerContext::isPostgreSql() ? 1 : 4) << "one look whether it is long";
+  if (ServerContext::isPostgreSql()) connection->Execute(database + u" CONNECTION LIMIT -1");
 }
 
 TEST_F(Server, TellsEachRunWithItsParameters) {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "sales/profile_file_checks.h"
+#include "testing/profile_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);

@@ -36,7 +36,7 @@ type_traits typeindex typeinfo unordered_map unordered_set utility valarray vari
 LINES_AT_MOST = 500
 SUBJECT = re.compile(
     r"(runtime|ado|sqlite|odbc|contract|forms|headless|qt|frontend|dialog|definitions|catalogues|sales|split"
-    r"|host|tests|bench|examples|docs|build): [A-Z].*[^.]$")
+    r"|host|testing|tests|bench|examples|docs|build): [A-Z].*[^.]$")
 # Written in two parts, so that this file passes its own rule.
 OPEN_MARKS = re.compile(r"\b(" + "|".join(("TO" + "DO", "FIX" + "ME", "XX" + "X", "HA" + "CK")) + r")\b")
 # One machine's folders, and places on the net: neither means anything to the next reader.

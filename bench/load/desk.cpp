@@ -6,7 +6,7 @@
 
 #include "ado/odbc/odbc.h"
 #include "forms/form.h"
-#include "host/host_session.h"
+#include "host/session/host_session.h"
 
 namespace zqn::load {
 

@@ -2,10 +2,10 @@
 #include "ground.h"
 
 #include "ado/odbc/odbc.h"
-#include "host/database.h"
-#include "host/rows.h"
-#include "host/schema/schema.h"
-#include "host/server_catalogue.h"
+#include "host/database/database.h"
+#include "host/database/rows.h"
+#include "host/database/schema/schema.h"
+#include "host/database/server_catalogue.h"
 #include "runtime/convert.h"
 
 namespace zqn::load {

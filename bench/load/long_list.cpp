@@ -12,11 +12,11 @@
 #include "ado/recordset.h"
 #include "bare.h"
 #include "ground.h"
-#include "host/database.h"
-#include "host/rows.h"
-#include "host/schema/generate.h"
-#include "host/schema/schema.h"
-#include "host/server_catalogue.h"
+#include "host/database/database.h"
+#include "host/database/rows.h"
+#include "host/database/schema/generate.h"
+#include "host/database/schema/schema.h"
+#include "host/database/server_catalogue.h"
 #include "runtime/convert.h"
 
 namespace zqn::load {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "ado/recordset.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::ado {
 

@@ -7,7 +7,7 @@
 #include "ado/row_cache.h"
 #include "ado/row_store.h"
 #include "ado/value_index.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::ado {
 

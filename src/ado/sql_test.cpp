@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "ado/sql_tokens.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::ado::sql {
 

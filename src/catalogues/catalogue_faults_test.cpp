@@ -6,8 +6,8 @@
 #include <functional>
 #include <set>
 
-#include "catalogues/catalogue_test.h"
 #include "runtime/convert.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

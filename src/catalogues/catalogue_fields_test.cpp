@@ -2,8 +2,8 @@
 //
 // What the fields and buttons of the catalogue forms are made to do: how much goes in, which button Esc
 // presses.
-#include "catalogues/catalogue_test.h"
 #include "forms/text_box.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

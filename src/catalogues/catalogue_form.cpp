@@ -2,7 +2,7 @@
 #include "catalogues/catalogue_form.h"
 
 #include "forms/message_box.h"
-#include "frontend/bas_basis.h"
+#include "frontend/basics/bas_basis.h"
 
 namespace zqn {
 

@@ -3,7 +3,7 @@
 // Kind 25 as a clerk works with it: check boxes that depend on each other, and keys of two other catalogues.
 #include "catalogues/crm_kategorien.h"
 
-#include "catalogues/catalogue_test.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,8 +3,8 @@
 // Kind 35 as a clerk works with it: the keywords of one section.
 #include "catalogues/keywords.h"
 
-#include "catalogues/catalogue_test.h"
 #include "contract/object_factory.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,7 +3,7 @@
 // Kinds 32 and 33 as a clerk works with them: one catalogue, and which of its reasons each kind takes.
 #include "catalogues/kuendigungsgruende.h"
 
-#include "catalogues/catalogue_test.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

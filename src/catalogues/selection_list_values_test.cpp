@@ -3,7 +3,7 @@
 // Kind 28 as a clerk works with it: the values of one selection field, the empty one among them.
 #include "catalogues/selection_list_values.h"
 
-#include "catalogues/catalogue_test.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

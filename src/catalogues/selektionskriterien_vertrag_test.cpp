@@ -3,7 +3,7 @@
 // Kind 26 as a clerk works with it: a catalogue of words, and what follows while a word is typed.
 #include "catalogues/selektionskriterien_vertrag.h"
 
-#include "catalogues/catalogue_test.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

@@ -2,7 +2,7 @@
 //
 // A database that fails in the middle of the work: which routines of the catalogue forms go on with the next
 // statement, and which let the clerk see it.
-#include "catalogues/catalogue_test.h"
+#include "testing/catalogue.h"
 
 namespace zqn::testing {
 namespace {

@@ -2,9 +2,9 @@
 //
 // Kind 21, and with it all catalogue forms: keys, taking a key, what other people do meanwhile, how it ends.
 #include "catalogues/vertriebsstati.h"
-#include "catalogues/vertriebsstati_testing.h"
 #include "contract/object_factory.h"
 #include "forms/tdb_list.h"
+#include "testing/vertriebsstati.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,8 +3,8 @@
 // Kind 21 as a clerk works with it, and with it the pattern of all catalogue forms.
 #include "catalogues/vertriebsstati.h"
 
-#include "catalogues/vertriebsstati_testing.h"
 #include "forms/tdb_list.h"
+#include "testing/vertriebsstati.h"
 
 namespace zqn::testing {
 namespace {

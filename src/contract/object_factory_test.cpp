@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

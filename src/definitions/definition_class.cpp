@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/definition_class.h"
 
-#include "frontend/bas_basis.h"
-#include "frontend/bas_general.h"
+#include "frontend/basics/bas_basis.h"
+#include "frontend/basics/bas_general.h"
 
 namespace zqn {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/shipping_types.h"
 
-#include "frontend/bas_basis.h"
+#include "frontend/basics/bas_basis.h"
 #include "runtime/convert.h"
 
 namespace zqn {

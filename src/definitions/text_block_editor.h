@@ -12,7 +12,7 @@
 #include <span>
 
 #include "definitions/table_editor.h"
-#include "frontend/bas_general.h"
+#include "frontend/basics/bas_general.h"
 
 namespace zqn {
 

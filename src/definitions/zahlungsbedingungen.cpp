@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/zahlungsbedingungen.h"
 
-#include "frontend/bas_basis.h"
+#include "frontend/basics/bas_basis.h"
 
 namespace zqn {
 

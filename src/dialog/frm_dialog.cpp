@@ -6,8 +6,8 @@
 #include "forms/desktop.h"
 #include "forms/message_box.h"
 #include "forms/names.h"
-#include "frontend/bas_basis.h"
-#include "frontend/bas_general.h"
+#include "frontend/basics/bas_basis.h"
+#include "frontend/basics/bas_general.h"
 #include "runtime/convert.h"
 #include "runtime/resume_next.h"
 

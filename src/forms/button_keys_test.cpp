@@ -4,8 +4,8 @@
 #include "forms/command_button.h"
 #include "forms/label.h"
 #include "forms/tdb_list.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

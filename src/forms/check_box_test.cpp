@@ -3,7 +3,7 @@
 // Values of a check box, by code and by a person.
 #include "forms/check_box.h"
 
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,9 +3,9 @@
 // A day as fourteen digits: what is shown, what typing makes of it, when the change is told.
 #include "forms/date_input.h"
 
-#include "forms/testing.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

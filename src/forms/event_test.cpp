@@ -5,8 +5,8 @@
 
 #include "forms/check_box.h"
 #include "forms/command_button.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

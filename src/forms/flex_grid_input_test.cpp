@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A person at a grid: mouse and keys.
-#include "forms/flex_grid_testing.h"
+#include "testing/flex_grid.h"
 
 namespace zqn::testing {
 namespace {

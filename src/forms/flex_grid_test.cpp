@@ -3,8 +3,8 @@
 // Size, cursor, cells and places of a grid, as code uses them.
 #include "forms/flex_grid.h"
 
-#include "forms/flex_grid_testing.h"
 #include "forms/picture_box.h"
+#include "testing/flex_grid.h"
 
 namespace zqn::testing {
 namespace {

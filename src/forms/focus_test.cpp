@@ -3,8 +3,8 @@
 // Where the focus goes, and which events tell of it.
 #include "forms/command_button.h"
 #include "forms/label.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

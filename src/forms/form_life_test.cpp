@@ -2,8 +2,8 @@
 //
 // The modal life of a form, from Load to Unload, and forms above each other.
 #include "forms/command_button.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "forms/command_button.h"
 #include "forms/label.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,7 +3,7 @@
 // The selection of several rows, by code, by clicks and by keys.
 #include "forms/list_box.h"
 
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -4,7 +4,7 @@
 #include "forms/menu.h"
 
 #include "forms/command_button.h"
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,7 +3,7 @@
 // Buttons of message boxes: which there are, which is the default, what Esc means.
 #include "forms/message_box.h"
 
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,7 +3,7 @@
 // The choice among the options of a container: by code, by mouse, by keys and by the way of the focus.
 #include "forms/option_button.h"
 
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

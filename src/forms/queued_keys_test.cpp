@@ -2,8 +2,8 @@
 //
 // Keys that a form queues for itself.
 #include "forms/command_button.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // A field that can be read and not edited.
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,9 +3,9 @@
 // Days by code, typed, and picked by keys.
 #include "forms/tdb_date.h"
 
-#include "forms/testing.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -2,7 +2,7 @@
 //
 // A person at a list: mouse, arrows, paging, finding a row by typing, copying.
 #include "forms/command_button.h"
-#include "forms/list_testing.h"
+#include "testing/lists.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,7 +3,7 @@
 // A list and its recordset: binding, the marked row, columns, values, properties.
 #include "forms/tdb_list.h"
 
-#include "forms/list_testing.h"
+#include "testing/lists.h"
 
 namespace zqn::testing {
 namespace {

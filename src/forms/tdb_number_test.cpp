@@ -3,9 +3,9 @@
 // Numbers by code and typed: what the field shows, what it takes, and which events tell of it.
 #include "forms/tdb_number.h"
 
-#include "forms/testing.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -3,7 +3,7 @@
 // What code assigns to a text box, and what a person types into it.
 #include "forms/text_box.h"
 
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

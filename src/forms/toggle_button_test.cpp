@@ -3,7 +3,7 @@
 // A toggle button, by code and by a person.
 #include "forms/toggle_button.h"
 
-#include "forms/testing.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

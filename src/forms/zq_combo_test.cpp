@@ -4,8 +4,8 @@
 #include "forms/zq_combo.h"
 
 #include "ado/sqlite/sqlite.h"
-#include "forms/testing.h"
 #include "runtime/convert.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

@@ -9,7 +9,7 @@
 #include "desktop/headless/headless_desktop.h"
 #include "forms/image_list.h"
 #include "frontend/images.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::testing {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "frontend/kinds.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::testing {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "ado/sqlite/sqlite.h"
 #include "definitions/definitions.h"
-#include "frontend/bas_basis.h"
+#include "frontend/basics/bas_basis.h"
 #include "frontend/kinds.h"
 #include "testing/dialog_test.h"
 

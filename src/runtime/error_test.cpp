@@ -7,7 +7,7 @@
 
 #include "runtime/ref.h"
 #include "runtime/resume_next.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn {
 namespace {

@@ -13,7 +13,7 @@
 #include "forms/timer.h"
 #include "forms/zq_combo.h"
 #include "frontend/kinds.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::testing {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // OK and Abbrechen of the quantity split: what is checked, and what goes back.
-#include "split/split_testing.h"
+#include "testing/split.h"
 
 namespace zqn::testing {
 namespace {

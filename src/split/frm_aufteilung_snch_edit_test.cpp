@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The cell editor of the quantity split: where it lies, what its keys do, what is pasted.
-#include "split/split_testing.h"
+#include "testing/split.h"
 
 namespace zqn::testing {
 namespace {

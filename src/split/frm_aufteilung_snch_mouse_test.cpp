@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The mouse on the quantity split: cells, rows that are taken and deleted, scrolling.
-#include "split/split_testing.h"
+#include "testing/split.h"
 
 namespace zqn::testing {
 namespace {

@@ -2,7 +2,7 @@
 //
 // The quantity split as it opens: rows, marks, running total.
 #include "forms/label.h"
-#include "split/split_testing.h"
+#include "testing/split.h"
 
 namespace zqn::testing {
 namespace {

@@ -8,10 +8,10 @@
 #include <random>
 #include <set>
 
-#include "runtime/testing.h"
 #include "split/split_columns.h"
 #include "split/split_marks.h"
 #include "split/split_total.h"
+#include "testing/runtime.h"
 
 namespace zqn {
 namespace {

@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn {
 namespace {

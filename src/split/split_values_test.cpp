@@ -8,7 +8,7 @@
 
 #include "runtime/convert.h"
 #include "runtime/locale.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn {
 namespace {

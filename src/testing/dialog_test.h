@@ -27,7 +27,7 @@
 #include "desktop/headless/headless_desktop.h"
 #include "forms/form.h"
 #include "frontend/orb_dialog.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::testing {
 

@@ -3,8 +3,8 @@
 // What a database server adds to the rules of recordsets: drops, locks, types, long texts, what is sent.
 #include <algorithm>
 
-#include "ado/odbc/server_context.h"
 #include "runtime/locale.h"
+#include "testing/server_context.h"
 
 namespace zqn::ado::odbc {
 

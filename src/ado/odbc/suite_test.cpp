@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The rules of recordsets on a database server.
-#include "ado/odbc/server_context.h"
+#include "testing/server_context.h"
 
 namespace zqn::ado::suite {
 

@@ -5,7 +5,7 @@
 
 #include "ado/odbc/catalogue.h"
 #include "runtime/locale.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::ado::odbc {
 

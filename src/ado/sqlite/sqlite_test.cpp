@@ -9,9 +9,9 @@
 #include <fstream>
 
 #include "ado/recordset.h"
-#include "ado/sqlite/temporary_file.h"
 #include "runtime/convert.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
+#include "testing/temporary_file.h"
 
 namespace zqn::ado {
 

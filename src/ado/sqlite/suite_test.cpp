@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The rules of recordsets on SQLite.
-#include "ado/suite/suite.h"
-#include "ado/sqlite/temporary_file.h"
+#include "testing/provider_suite/suite.h"
+#include "testing/temporary_file.h"
 
 namespace zqn::ado::suite {
 

@@ -4,8 +4,8 @@
 #include <stdexcept>
 
 #include "forms/check_box.h"
-#include "forms/testing.h"
 #include "forms/text_box.h"
+#include "testing/forms.h"
 
 namespace zqn::testing {
 namespace {

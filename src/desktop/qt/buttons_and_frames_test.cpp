@@ -4,7 +4,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 
-#include "desktop/qt/entry_form_for_tests.h"
+#include "testing/qt/entry_form.h"
 
 namespace zqn::qt::testing {
 

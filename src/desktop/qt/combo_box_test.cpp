@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "desktop/qt/entry_form_for_tests.h"
+#include "testing/qt/entry_form.h"
 
 namespace zqn::qt::testing {
 

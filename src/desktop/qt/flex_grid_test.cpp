@@ -11,10 +11,10 @@
 #include <QTest>
 #include <QWindow>
 
-#include "desktop/qt/test_support.h"
 #include "desktop/qt/text.h"
 #include "forms/picture_box.h"
 #include "runtime/convert.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/qt/form_checks.h"
+#include "testing/qt/form_checks.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/qt/test_support.h"
 #include "frontend/kinds.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

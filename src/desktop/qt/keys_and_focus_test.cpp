@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "desktop/qt/test_support.h"
 #include "forms/message_box.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

@@ -8,7 +8,7 @@
 #include <QTest>
 
 #include "ado/sqlite/sqlite.h"
-#include "desktop/qt/test_support.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

@@ -8,8 +8,8 @@
 #include <QStyle>
 #include <cmath>
 
-#include "desktop/qt/entry_form_for_tests.h"
-#include "desktop/qt/test_support.h"
+#include "testing/qt/entry_form.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

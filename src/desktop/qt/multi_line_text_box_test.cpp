@@ -6,7 +6,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 
-#include "desktop/qt/entry_form_for_tests.h"
+#include "testing/qt/entry_form.h"
 
 namespace zqn::qt::testing {
 

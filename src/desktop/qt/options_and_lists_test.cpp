@@ -8,13 +8,13 @@
 #include <QTest>
 
 #include "desktop/qt/day_entry.h"
-#include "desktop/qt/test_support.h"
 #include "forms/date_input.h"
 #include "forms/list_box.h"
 #include "forms/menu.h"
 #include "forms/option_button.h"
 #include "forms/timer.h"
 #include "runtime/convert.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

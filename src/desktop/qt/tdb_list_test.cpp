@@ -9,8 +9,8 @@
 #include <QTableView>
 #include <QToolTip>
 
-#include "desktop/qt/test_support.h"
 #include "desktop/qt/text.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

@@ -8,8 +8,8 @@
 #include <QLineEdit>
 #include <QMenu>
 
-#include "desktop/qt/test_support.h"
 #include "desktop/qt/text.h"
+#include "testing/qt/windows.h"
 
 namespace zqn::qt::testing {
 

@@ -7,8 +7,8 @@
 #include <QTest>
 
 #include "desktop/qt/day_entry.h"
-#include "desktop/qt/entry_form_for_tests.h"
 #include "runtime/convert.h"
+#include "testing/qt/entry_form.h"
 
 namespace zqn::qt::testing {
 

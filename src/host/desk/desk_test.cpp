@@ -18,7 +18,7 @@
 
 #include "desktop/headless/headless_desktop.h"
 #include "frontend/kinds.h"
-#include "host/database.h"
+#include "host/database/database.h"
 #include "host/desk/desk_window.h"
 #include "host/desk/dialog_titles.h"
 #include "host/desk/settings_dialog.h"

@@ -21,7 +21,7 @@
 
 #include "host/desk/call_log.h"
 #include "host/desk/dialog_list.h"
-#include "host/host.h"
+#include "host/session/host.h"
 
 namespace zqn::host {
 

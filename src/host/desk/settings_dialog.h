@@ -9,7 +9,7 @@
 #include <QDialog>
 #include <QTableWidget>
 
-#include "host/settings_store.h"
+#include "host/session/settings_store.h"
 
 namespace zqn::host {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/combo_box.h"
 #include "forms/zq_combo.h"
-#include "host/script/script_test.h"
+#include "testing/script/script_test.h"
 
 namespace zqn::script {
 namespace {

@@ -5,8 +5,8 @@
 #include "forms/tdb_date.h"
 #include "forms/tdb_number.h"
 #include "forms/toggle_button.h"
-#include "host/script/script_test.h"
 #include "runtime/locale.h"
+#include "testing/script/script_test.h"
 
 namespace zqn::script {
 namespace {

@@ -2,7 +2,7 @@
 //
 // What a script does to a grid, and reads of it.
 #include "forms/flex_grid.h"
-#include "host/script/script_test.h"
+#include "testing/script/script_test.h"
 
 namespace zqn::script {
 namespace {

@@ -3,7 +3,7 @@
 #include "forms/menu.h"
 #include "forms/option_button.h"
 #include "forms/timer.h"
-#include "host/script/script_test.h"
+#include "testing/script/script_test.h"
 
 namespace zqn::script {
 namespace {

@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "forms/desktop.h"
-#include "host/script/script_test.h"
+#include "testing/script/script_test.h"
 
 namespace zqn::script {
 namespace {

@@ -9,7 +9,7 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
-#include "host/script/script_test.h"
+#include "testing/script/script_test.h"
 
 namespace zqn::script {
 namespace {

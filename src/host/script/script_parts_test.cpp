@@ -6,7 +6,7 @@
 #include "host/script/json_values.h"
 #include "host/script/key_names.h"
 #include "runtime/convert.h"
-#include "runtime/testing.h"
+#include "testing/runtime.h"
 
 namespace zqn::script {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/script/script_test.h"
+#include "testing/script/script_test.h"
 
 #include <random>
 #include <sstream>

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "host/command/show_command.h"
+
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+#include "frontend/basics/bas_basis.h"
+#include "frontend/kinds.h"
+#include "host/information/auskunft.h"
+#include "host/script/scripted_auskunft.h"
+#include "host/script/scripted_user.h"
+#include "host/session/host.h"
+
+namespace zqn::host {
+
+namespace {
+
+namespace fs = std::filesystem;
+using script::ScriptedUser;
+
+/// The transcript of a person's work.
+class Recorder : public DesktopListener {
+ public:
+  Recorder(Desktop& desktop, std::ostream& transcript) : desktop_(desktop), transcript_(transcript) {
+    desktop_.addListener(this);
+  }
+  ~Recorder() override { desktop_.removeListener(this); }
+
+  void formShown(Form& form) override { write(script::shownLine(form)); }
+  void formClosed(Form& form) override { write(script::closedLine(form)); }
+  void messageBoxOpened(const MessageBox& box) override { write(script::messageBoxLine(box)); }
+  void popupMenuOpened(const Menu& menu) override { write(script::popupLine(menu)); }
+  bool runtimeErrorRaised(Form&, StringView procedure, const RuntimeError& failure) override {
+    write(script::errorLine(procedure, failure));
+    return false;
+  }
+  void write(const script::Json& line) { transcript_ << line.dump() << std::endl; }
+
+ private:
+  Desktop& desktop_;
+  std::ostream& transcript_;
+};
+
+std::unique_ptr<std::ifstream> openScript(const fs::path& file) {
+  auto stream = std::make_unique<std::ifstream>(file, std::ios::binary);
+  if (!*stream || fs::is_directory(file))
+    throw CommandFailure(ExitStatus::WrongUsage, "--script '" + file.string() +
+                                                     "' cannot be read; name a file with one action a line");
+  return stream;
+}
+
+std::unique_ptr<std::ofstream> openTranscript(const fs::path& file) {
+  auto stream = std::make_unique<std::ofstream>(file, std::ios::binary);
+  if (!*stream)
+    throw CommandFailure(
+        ExitStatus::WrongUsage,
+        "--transcript '" + file.string() + "' cannot be written; name a file in a folder that exists");
+  return stream;
+}
+
+bool isKey(const Variant& value) { return !value.isEmpty() && !value.isNull() && value != Variant(u""); }
+
+void printKey(const Variant& key) {
+  if (!isKey(key)) return;
+  const script::Json json = script::jsonValue(key);
+  std::cout << (json.is_string() ? json.get<std::string>() : json.dump()) << std::endl;
+}
+
+/// Says beforehand why nothing opens; the call itself goes on as any other.
+void warnOfMissingForm(const Options& options) {
+  const std::int32_t kind = options.show.kind;
+  if (findKind(kind) == nullptr || isOffered(kind) || options.host.generic) return;
+  std::cerr << "zqn-dialog: kind " << kind
+            << " is not part of this version; 'zqn-dialog kinds' lists those that are\n";
+}
+
+ExitStatus statusOf(const script::ShowOutcome& outcome) {
+  return isKey(outcome.returned) ? ExitStatus::Done : ExitStatus::NoKey;
+}
+
+}  // namespace
+
+script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray param, bool generic) {
+  const Variant returned = generic ? dialog.ShowGeneric(kind, param) : dialog.Show(kind, param);
+  return {.returned = returned,
+          .param = std::move(param),
+          .allowChanges = basBasis::bAllowChanges,
+          .dialogResult = dialog.Result()};
+}
+
+ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& hands) {
+  warnOfMissingForm(options);
+  const ShowOptions& request = options.show;
+  std::unique_ptr<std::ifstream> scriptFile;
+  if (request.script && *request.script != "-") scriptFile = openScript(*request.script);
+
+  const Locale::Scope locale(localeOf(options.host));
+  const Host host(options.host);
+  offerCompanions(options.host);
+  std::unique_ptr<std::ofstream> transcriptFile;
+  if (request.transcript) transcriptFile = openTranscript(*request.transcript);
+
+  const Desktop::Scope scope(desktop);
+  ORBDialog dialog;
+  host.equip(dialog);
+
+  if (!request.script) {
+    offerAuskunft(host.connection());
+    std::unique_ptr<Recorder> recorder;
+    if (transcriptFile) recorder = std::make_unique<Recorder>(desktop, *transcriptFile);
+    if (recorder)
+      dialog.DblClick = [&](const Variant& key) { recorder->write(script::eventLine(u"DblClick", key)); };
+    const script::ShowOutcome outcome = callShow(dialog, request.kind, request.param, options.host.generic);
+    if (recorder) recorder->write(script::resultLine(outcome));
+    printKey(outcome.returned);
+    return statusOf(outcome);
+  }
+
+  script::FaultInjector faults;
+  host.connection()->observer(&faults);
+  std::istream& script = scriptFile ? *scriptFile : std::cin;
+  std::ostream& transcript = transcriptFile ? *transcriptFile : std::cout;
+  ScriptedUser user(desktop, hands, host.world(), faults, script, transcript);
+  dialog.DblClick = [&](const Variant& key) { user.writeEvent(u"DblClick", key); };
+  const script::ScriptedAuskunft auskunft(user);
+  script::ShowOutcome outcome;
+  user.prepare();
+  if (!user.failed()) outcome = callShow(dialog, request.kind, request.param, options.host.generic);
+  user.finish();
+  user.writeResult(outcome);
+  host.connection()->observer(nullptr);
+  if (transcriptFile) printKey(outcome.returned);
+  return user.failed() ? ExitStatus::ScriptError : statusOf(outcome);
+}
+
+}  // namespace zqn::host

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "host/database/database_server.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "ado/odbc/connection_string.h"
+#include "ado/odbc/odbc.h"
+#include "host/database/failure.h"
+#include "host/database/server_catalogue.h"
+#include "runtime/locale.h"
+
+namespace zqn::host {
+
+namespace {
+
+/// Messages of drivers have lines and tabs.
+std::string oneLine(const String& words) {
+  std::string line;
+  for (const char character : toUtf8(words)) {
+    const bool blank = character == '\n' || character == '\r' || character == '\t' || character == ' ';
+    if (!blank) line += character;
+    if (blank && !line.empty() && line.back() != ' ') line += ' ';
+  }
+  while (!line.empty() && line.back() == ' ') line.pop_back();
+  return line;
+}
+
+CommandFailure cannotOpen(const DatabaseAddress& address, const std::string& reason) {
+  return CommandFailure(ExitStatus::CannotOpen, "database '" + address.shown() + "': " + reason);
+}
+
+/// What is right instead, when the address names no driver, or one that is not installed.
+std::string driverHint(const DatabaseAddress& address) {
+  const String name = ado::odbc::connectionValue(address.connectionString(), u"Driver");
+  if (name.empty() && !ado::odbc::connectionValue(address.connectionString(), u"DSN").empty()) return "";
+  const std::vector<String> installed = ado::odbcDrivers();
+  const auto isNamed = [&](const String& driver) { return compareIgnoringCase(driver, name) == 0; };
+  // A driver may also be named by the path of its library.
+  if (name.find(u'/') != String::npos || std::ranges::any_of(installed, isNamed)) return "";
+  std::string hint = name.empty() ? "; write Driver={...}" : "; there is no driver '" + toUtf8(name) + "'";
+  for (std::size_t i = 0; i < installed.size(); ++i)
+    hint += (i == 0 ? "; installed are: " : ", ") + toUtf8(installed[i]);
+  return installed.empty() ? hint + "; no ODBC driver is installed" : hint;
+}
+
+Ref<ado::Connection> connect(const DatabaseAddress& address) {
+  try {
+    return ado::openOdbc(address.connectionString());
+  } catch (const RuntimeError& failure) {
+    throw cannotOpen(address, oneLine(failure.description()) + driverHint(address));
+  }
+}
+
+ServerCatalogue catalogueOf(ado::Connection& connection, Dialect dialect, const DatabaseAddress& address) {
+  try {
+    ServerCatalogue catalogue = readCatalogue(connection, dialect);
+    if (!catalogue.hasDatabase) throw cannotOpen(address, "names no database; add Database=NAME");
+    return catalogue;
+  } catch (const RuntimeError& failure) {
+    throw cannotOpen(address, oneLine(failure.description()));
+  }
+}
+
+/// The statement that begins a transaction around the tables themselves; none where a CREATE TABLE ends it.
+std::optional<StringView> beginAroundTables(Dialect dialect) {
+  switch (dialect) {
+    case Dialect::Sqlite:
+    case Dialect::PostgreSql:
+      return u"BEGIN";
+    case Dialect::SqlServer:
+      return u"BEGIN TRANSACTION";
+    case Dialect::MariaDb:
+      break;
+  }
+  return std::nullopt;
+}
+
+Created createInTransaction(ado::Connection& connection, Dialect dialect, StringView begin,
+                            const Content& content) {
+  Transaction transaction(connection, begin);
+  const std::int64_t made = makeTables(connection, dialect);
+  const std::int64_t rows = fillTables(connection, dialect, content);
+  transaction.commit();
+  return {.tables = made, .rows = rows};
+}
+
+/// Drops the tables, the last one first, and gives the names of those that would not go.
+std::string dropTables(ado::Connection& connection, const std::vector<StringView>& names) {
+  std::string left;
+  for (auto name = names.rbegin(); name != names.rend(); ++name) {
+    try {
+      connection.Execute(u"DROP TABLE " + String(*name));
+    } catch (const RuntimeError&) {
+      left += (left.empty() ? "" : ", ") + toUtf8(*name);
+    }
+  }
+  return left;
+}
+
+Created createOneByOne(ado::Connection& connection, Dialect dialect, const Content& content) {
+  std::vector<StringView> made;
+  try {
+    makeTables(connection, dialect, [&](const Table& table) { made.push_back(table.name); });
+    Transaction transaction(connection, u"BEGIN");
+    const std::int64_t rows = fillTables(connection, dialect, content);
+    transaction.commit();
+    return {.tables = static_cast<std::int64_t>(made.size()), .rows = rows};
+  } catch (const RuntimeError& failure) {
+    const std::string left = dropTables(connection, made);
+    if (left.empty()) throw;
+    throw RuntimeError(
+        failure.number(),
+        failure.description() + fromUtf8("; these tables were made and could not be dropped: " + left),
+        failure.source());
+  }
+}
+
+void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerCatalogue& catalogue) {
+  const std::vector<StringView> found = systemTablesIn(catalogue);
+  if (found.empty()) return;
+  throw cannotOpen(address, "has " + std::to_string(found.size()) +
+                                " tables of the system already, such as " + toUtf8(found.front()) +
+                                "; name another database");
+}
+
+}  // namespace
+
+Ref<ado::Connection> openDatabaseOnServer(const DatabaseAddress& address) {
+  Ref<ado::Connection> connection = connect(address);
+  const auto dialect = dialectOf(connection->provider().name());
+  if (!dialect || !systemTablesIn(catalogueOf(*connection, *dialect, address)).empty()) return connection;
+  throw cannotOpen(address, "has no table of the system; make them with: zqn-dialog init --db '" +
+                                address.shownUrl() + "' --sample");
+}
+
+std::vector<std::string> findingsOnServer(ado::Connection& connection, const DatabaseAddress& address) {
+  const auto dialect = dialectOf(connection.provider().name());
+  return dialect ? findings(catalogueOf(connection, *dialect, address)) : std::vector<std::string>();
+}
+
+Created createTablesOnServer(const DatabaseAddress& address, const Content& content) {
+  const Ref<ado::Connection> connection = connect(address);
+  const String product = connection->provider().name();
+  const auto dialect = dialectOf(product);
+  if (!dialect)
+    throw cannotOpen(address, "is a database of the product '" + toUtf8(product) +
+                                  "'; tables can be made in PostgreSQL, MariaDB and Microsoft SQL Server");
+  requireNoTableOfTheSystem(address, catalogueOf(*connection, *dialect, address));
+  try {
+    const auto begin = beginAroundTables(*dialect);
+    return begin ? createInTransaction(*connection, *dialect, *begin, content)
+                 : createOneByOne(*connection, *dialect, content);
+  } catch (const RuntimeError& failure) {
+    throw cannotOpen(address, oneLine(failure.description()));
+  }
+}
+
+}  // namespace zqn::host

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "host/database/server_catalogue.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "host/database/rows.h"
+#include "host/database/schema/schema.h"
+#include "runtime/convert.h"
+
+namespace zqn::host {
+
+namespace {
+
+// Table, column, type, the character set where it is too small, and whether case counts. Views count as
+// tables.
+struct Questions {
+  StringView columns;
+  /// One value: the encoding of the database, empty where it holds every text.
+  StringView narrow = {};
+  /// One value: the name of the database; Null for none.
+  StringView database = {};
+};
+
+const Questions& questions(Dialect dialect) {
+  static constexpr Questions postgreSql{
+      .columns =
+          u"SELECT c.relname, a.attname, format_type(a.atttypid, NULL), '', "
+          u"CASE WHEN k.collisdeterministic AND format_type(a.atttypid, NULL) <> 'citext' THEN 1 ELSE 0 END "
+          u"FROM pg_catalog.pg_class c "
+          u"JOIN pg_catalog.pg_attribute a ON a.attrelid = c.oid "
+          u"JOIN pg_catalog.pg_namespace n ON n.oid = c.relnamespace "
+          u"LEFT JOIN pg_catalog.pg_collation k ON k.oid = a.attcollation "
+          u"WHERE c.relkind IN ('r', 'p', 'v', 'm', 'f') AND a.attnum > 0 AND NOT a.attisdropped "
+          u"AND n.nspname NOT IN ('pg_catalog', 'information_schema') AND pg_table_is_visible(c.oid)",
+      .narrow = u"SELECT CASE WHEN getdatabaseencoding() = 'UTF8' THEN '' ELSE getdatabaseencoding() END",
+  };
+  static constexpr Questions mariaDb{
+      .columns =
+          u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN CHARACTER_SET_NAME IN ('utf8mb4', "
+          u"'utf16', 'utf16le', 'utf32') THEN '' ELSE COALESCE(CHARACTER_SET_NAME, '') END, "
+          u"CASE WHEN RIGHT(COLLATION_NAME, 3) <> '_ci' THEN 1 ELSE 0 END "
+          u"FROM information_schema.COLUMNS WHERE TABLE_SCHEMA = DATABASE()",
+      .database = u"SELECT DATABASE()",
+  };
+  static constexpr Questions sqlServer{
+      .columns =
+          u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN DATA_TYPE IN ('char', 'varchar', 'text') "
+          u"AND RIGHT(COLLATION_NAME, 5) <> '_UTF8' THEN COLLATION_NAME ELSE '' END, "
+          u"CASE WHEN CHARINDEX('_CI_', COLLATION_NAME) = 0 THEN 1 ELSE 0 END "
+          u"FROM INFORMATION_SCHEMA.COLUMNS WHERE TABLE_SCHEMA IN (SCHEMA_NAME(), 'dbo')",
+  };
+  if (dialect == Dialect::MariaDb) return mariaDb;
+  return dialect == Dialect::SqlServer ? sqlServer : postgreSql;
+}
+
+String textOf(const ado::Value& value) { return String(value.text); }
+
+/// The only value of a question; Null for one that is not asked.
+Variant answer(ado::Connection& connection, StringView question) {
+  if (question.empty()) return Null;
+  const ado::RowStore rows = runStatement(connection, question).rows;
+  return rows.rows() == 0 ? Variant(Null) : rowValues(rows, 0).front();
+}
+
+/// Lower case as servers fold names: plain letters only.
+String folded(StringView name) {
+  String lower(name);
+  for (char16_t& unit : lower)
+    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
+  return lower;
+}
+
+class TablesOnServer {
+ public:
+  explicit TablesOnServer(const ServerCatalogue& catalogue) {
+    for (const ServerColumn& column : catalogue.columns)
+      tables_[folded(column.table)][folded(column.name)] = &column;
+  }
+
+  /// Columns by their folded names; nullptr when a dialog does not find the table.
+  const std::map<String, const ServerColumn*>* find(StringView name) const {
+    const auto found = tables_.find(folded(name));
+    return found == tables_.end() ? nullptr : &found->second;
+  }
+
+ private:
+  std::map<String, std::map<String, const ServerColumn*>> tables_;
+};
+
+bool holdsTexts(const String& type) {
+  return type.find(u"char") != String::npos || type.find(u"text") != String::npos;
+}
+
+bool holdsNumbers(const String& type) {
+  static const std::set<StringView> numbers{
+      u"smallint", u"integer", u"int",   u"bigint",           u"mediumint", u"tinyint", u"numeric",
+      u"decimal",  u"real",    u"float", u"double precision", u"double",    u"money"};
+  return numbers.contains(type);
+}
+
+bool fits(ColumnKind kind, const String& type, Dialect dialect) {
+  switch (kind) {
+    case ColumnKind::Text:
+    case ColumnKind::LongText:
+    case ColumnKind::Date14:
+      return holdsTexts(type);
+    case ColumnKind::Whole:
+    case ColumnKind::Number:
+    case ColumnKind::Serial:
+      return holdsNumbers(type);
+    case ColumnKind::Flag:
+      // PostgreSQL's bit is a text of ones and zeros.
+      return type == u"boolean" || (type == u"bit" && dialect != Dialect::PostgreSql) || holdsNumbers(type);
+  }
+  return false;
+}
+
+std::string tooNarrow(const String& set, const std::string& right) {
+  return toUtf8(set) + ", which cannot hold every character; " + right + " would be right";
+}
+
+/// "COLLATE ..." as the text columns of the system say it.
+std::string rightCollation(Dialect dialect) {
+  const std::string type = toUtf8(columnType({.name = {}, .length = 1}, dialect));
+  return type.substr(type.find("COLLATE"));
+}
+
+void addName(std::string& list, StringView name) { list += (list.empty() ? "" : ", ") + toUtf8(name); }
+
+void addColumnFindings(const Table& table, const std::map<String, const ServerColumn*>& found,
+                       Dialect dialect, std::vector<std::string>& findings) {
+  std::map<String, std::string> narrow;
+  std::string caseCounts;
+  for (const Column& column : table.columns) {
+    const std::string place = "column " + toUtf8(column.name) + " of table " + toUtf8(table.name);
+    const auto there = found.find(folded(column.name));
+    if (there == found.end()) {
+      findings.push_back(place + " is missing; it can be added with: ALTER TABLE " + toUtf8(table.name) +
+                         " ADD " + toUtf8(column.name) + " " + toUtf8(columnType(column, dialect)));
+      continue;
+    }
+    const ServerColumn& present = *there->second;
+    if (!fits(column.kind, folded(present.type), dialect)) {
+      findings.push_back(place + " is of the type " + toUtf8(present.type) + "; " +
+                         toUtf8(columnType(column, dialect)) + " would be right");
+      continue;
+    }
+    if (!present.narrow.empty()) addName(narrow[present.narrow], column.name);
+    if (present.caseCounts && std::ranges::count(table.primaryKey, column.name) > 0)
+      addName(caseCounts, column.name);
+  }
+  if (!caseCounts.empty())
+    findings.push_back("table " + toUtf8(table.name) + " tells capital from small letters in its key (" +
+                       caseCounts + "); " + rightCollation(dialect) + " would be right");
+  const std::string right = dialect == Dialect::MariaDb ? "utf8mb4" : "NVARCHAR";
+  for (const auto& each : narrow)
+    findings.push_back("table " + toUtf8(table.name) + " keeps texts (" + each.second + ") in " +
+                       tooNarrow(each.first, right));
+}
+
+}  // namespace
+
+std::optional<Dialect> dialectOf(StringView product) {
+  if (product == u"PostgreSQL") return Dialect::PostgreSql;
+  if (product == u"MariaDB" || product == u"MySQL") return Dialect::MariaDb;
+  if (product == u"Microsoft SQL Server") return Dialect::SqlServer;
+  return std::nullopt;
+}
+
+ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect) {
+  const Questions& ask = questions(dialect);
+  ServerCatalogue catalogue{.dialect = dialect, .columns = {}};
+  catalogue.hasDatabase = ask.database.empty() || !answer(connection, ask.database).isNull();
+  const ado::RowStore rows = runStatement(connection, ask.columns).rows;
+  for (int row = 0; row < rows.rows(); ++row)
+    catalogue.columns.push_back({textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)),
+                                 textOf(rows.at(row, 3)), rows.at(row, 4).integer != 0});
+  if (const Variant encoding = answer(connection, ask.narrow); !encoding.isNull())
+    catalogue.narrow = CStr(encoding);
+  return catalogue;
+}
+
+std::vector<StringView> systemTablesIn(const ServerCatalogue& catalogue) {
+  const TablesOnServer present(catalogue);
+  std::vector<StringView> names;
+  for (const Table& table : tables())
+    if (present.find(table.name) != nullptr) names.push_back(table.name);
+  return names;
+}
+
+std::vector<std::string> findings(const ServerCatalogue& catalogue) {
+  const TablesOnServer present(catalogue);
+  std::vector<std::string> findings;
+  if (!catalogue.narrow.empty())
+    findings.push_back("the database has the encoding " + tooNarrow(catalogue.narrow, "UTF8"));
+  for (const Table& table : tables()) {
+    if (const auto* columns = present.find(table.name)) {
+      addColumnFindings(table, *columns, catalogue.dialect, findings);
+    } else {
+      findings.push_back(
+          "table " + toUtf8(table.name) +
+          " is missing; 'zqn-dialog init' makes it in a database without tables of the system");
+    }
+  }
+  return findings;
+}
+
+}  // namespace zqn::host

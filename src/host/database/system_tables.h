@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+//
+// The tables of the system on an open connection: made and filled, whatever database it is.
+//
+//     Transaction transaction(connection, u"BEGIN");
+//     Created created = makeTables(connection, Dialect::PostgreSql);
+//     created.rows = fillTables(connection, Dialect::PostgreSql, {.sample = true});
+//     transaction.commit();
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "ado/connection.h"
+#include "host/database/schema/statements.h"
+
+namespace zqn::host {
+
+/// What a new database starts with.
+struct Content {
+  bool sample = false;
+  /// Generated rows in each catalogue; not together with the sample.
+  std::int64_t rows = 0;
+};
+struct Created {
+  std::int64_t tables = 0;
+  std::int64_t rows = 0;
+};
+
+/// A transaction that is rolled back unless it was committed.
+class Transaction {
+ public:
+  /// `begin` is the statement that begins one. The provider's errors.
+  Transaction(ado::Connection& connection, StringView begin);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+  /// The provider's errors.
+  void commit();
+
+ private:
+  ado::Connection& connection_;
+  bool committed_ = false;
+};
+
+/// Creates all tables, none of which may exist, and gives their number. `made` is told of each as soon as it
+/// stands. The provider's errors.
+std::int64_t makeTables(ado::Connection& connection, Dialect dialect,
+                        const std::function<void(const Table&)>& made = {});
+
+/// Inserts the rows of a new database and gives their number. The provider's errors.
+std::int64_t fillTables(ado::Connection& connection, Dialect dialect, const Content& content);
+
+}  // namespace zqn::host

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "host/script/headless_user.h"
+#include "testing/script/script_desktop.h"
+
+namespace zqn::script {
+
+namespace {
+
+class HeadlessStage : public Stage {
+ public:
+  Desktop& desktop() override { return desktop_; }
+  UserInput& input() override { return input_; }
+  bool hasScreen() const override { return false; }
+
+ private:
+  headless::HeadlessDesktop desktop_;
+  HeadlessUser input_{desktop_};
+};
+
+}  // namespace
+
+std::unique_ptr<Stage> makeStage() { return std::make_unique<HeadlessStage>(); }
+
+}  // namespace zqn::script

@@ -7,7 +7,8 @@
 
 find_program(ZQN_CCACHE ccache)
 if(ZQN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZQN_CCACHE})
+  # What ccache has to pass over so that it can be used with precompiled headers.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${ZQN_CCACHE})
 endif()
 
 add_library(zqn_flags INTERFACE)
@@ -22,6 +23,9 @@ if(ZQN_FUZZ)
   target_link_options(zqn_flags INTERFACE -fsanitize=address)
 endif()
 
+# Headers of others that most sources include, compiled once: for what is shipped, for tests, and for both with Qt.
+include(${CMAKE_CURRENT_LIST_DIR}/precompiled.cmake)
+
 # zqn_library(name SOURCES ... [USES other folders] [LINKS outside libraries])
 function(zqn_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS" ${ARGN})
@@ -31,6 +35,7 @@ function(zqn_library name)
     target_link_libraries(zqn_${name} PUBLIC zqn_${used})
   endforeach()
   target_link_libraries(zqn_${name} PUBLIC ${ARG_LINKS})
+  zqn_precompile(zqn_${name} product ${ARG_USES} ${ARG_LINKS})
 endfunction()
 
 find_package(GTest REQUIRED)
@@ -48,5 +53,6 @@ function(zqn_test name)
     target_link_libraries(${name}_test PRIVATE zqn_${used})
   endforeach()
   target_link_libraries(${name}_test PRIVATE zqn_flags zqn_test_flags ${ARG_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
+  zqn_precompile(${name}_test test ${ARG_USES} ${ARG_LINKS})
   gtest_discover_tests(${name}_test TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
 endfunction()

@@ -1,6 +1,9 @@
 # Headers of the standard library, of GoogleTest and of Qt that most sources include, read once instead of 400 times. None of the
 # project's own: a change in one of those would compile everything again. Off with ZQN_PRECOMPILED=OFF, which finds missing includes.
 
+# One precompiled header for libraries and programs: both as position-independent code of one kind.
+set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
+
 option(ZQN_PRECOMPILED "Read the headers of others once, as precompiled headers" ON)
 
 set(standard <algorithm> <array> <charconv> <chrono> <cmath> <cstdint> <cstdlib> <filesystem> <functional> <limits> <map>

@@ -23,7 +23,7 @@ Variant plainField(const String& field) {
   }
 }
 
-String quoted(StringView field) { return quote + String(field) + quote; }
+String inQuotes(StringView field) { return quote + String(field) + quote; }
 
 }  // namespace
 
@@ -87,7 +87,7 @@ String BuildSplit(const std::vector<SplitCells>& rows) {
     text += numberText(quantity);
     for (std::size_t j = SplitUnit; j < splitFields; ++j) {
       const bool isDate = j == SplitDate && !Trim(row[j]).empty();
-      text += separator + quoted(isDate ? concatenate(DateToStore(row[j])) : row[j]);
+      text += separator + inQuotes(isDate ? concatenate(DateToStore(row[j])) : row[j]);
     }
   }
   return text;

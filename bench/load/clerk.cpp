@@ -11,9 +11,9 @@
 
 #include "ado/recordset.h"
 #include "bare.h"
-#include "desk.h"
 #include "ground.h"
 #include "runtime/convert.h"
+#include "workplace.h"
 
 namespace zqn::load {
 
@@ -57,7 +57,8 @@ class Clerk {
         tally_(tally),
         server_("server " + std::to_string(serverOf(options, number) + 1)),
         order_(options.seed * 10'007U + static_cast<unsigned>(number)),
-        desk_(options.servers[serverOf(options, number)], u"clerk" + fromUtf8(std::to_string(number)), tally),
+        workplace_(options.servers[serverOf(options, number)], u"clerk" + fromUtf8(std::to_string(number)),
+                   tally),
         stage_{nameIn(number, 0), {}},
         priceList_{nameIn(number, 0), {}} {
     if (options.bare) bare_.emplace(options.servers[serverOf(options, number)]);
@@ -126,32 +127,33 @@ class Clerk {
   }
 
   void perform(const Action& action) {
-    desk_.recording().clear();
-    const std::int64_t rowsBefore = desk_.watch().rowsChanged;
+    workplace_.recording().clear();
+    const std::int64_t rowsBefore = workplace_.watch().rowsChanged;
     const double taken = timed(options_.limit, [&] { (this->*action.act)(); });
     if (measured()) tally_.sample("dialogs." + action.name, taken);
     if (measured())
-      tally_.count("statements." + action.name, static_cast<std::int64_t>(desk_.recording().size()));
-    done_.push_back({action.name, std::move(desk_.recording()), desk_.watch().rowsChanged - rowsBefore});
+      tally_.count("statements." + action.name, static_cast<std::int64_t>(workplace_.recording().size()));
+    done_.push_back(
+        {action.name, std::move(workplace_.recording()), workplace_.watch().rowsChanged - rowsBefore});
     tellFailures(action.name);
   }
 
   /// Everything that has failed below the dialogs, whether they have passed over it or not.
   void tellFailures(const std::string& action) {
-    for (const RuntimeError& failure : desk_.watch().failures)
+    for (const RuntimeError& failure : workplace_.watch().failures)
       tally_.count("failures." + server_ + ", " + action + ": " + std::to_string(failure.number()) + " " +
                    toUtf8(failure.description()));
-    if (!desk_.watch().failures.empty()) tally_.count("failed." + server_);
-    if (!desk_.watch().failures.empty() && measured()) tally_.count("failed actions");
-    desk_.watch().failures.clear();
+    if (!workplace_.watch().failures.empty()) tally_.count("failed." + server_);
+    if (!workplace_.watch().failures.empty() && measured()) tally_.count("failed actions");
+    workplace_.watch().failures.clear();
   }
 
   void restore() {
     const auto put = [&](StringView table, StringView key, StringView column, const String& which,
                          const String& name) {
-      desk_.connection()->Execute(u"UPDATE " + String(table) + u" SET " + String(column) + u"=" +
-                                  ado::sql::value(name) + u" WHERE " + String(key) + u"=" +
-                                  ado::sql::value(which));
+      workplace_.connection()->Execute(u"UPDATE " + String(table) + u" SET " + String(column) + u"=" +
+                                       ado::sql::value(name) + u" WHERE " + String(key) + u"=" +
+                                       ado::sql::value(which));
     };
     put(u"Vertriebsstati", u"Status", u"Bezeichnung", ownStage(number_), before_.first);
     put(u"Preislistenkopf", u"Preisliste", u"Langtext", ownPriceList(number_), before_.second);
@@ -175,10 +177,10 @@ class Clerk {
     if (measured()) tally_.sample("dialogs.counter, raised", raised);
     tellFailures("counter, raised");
 
-    const Watch before = desk_.watch();
+    const Watch before = workplace_.watch();
     const double saved = timed(options_.limit, [&] { saveName(SharedKey, newName()); });
     if (measured()) tally_.sample("dialogs.save of a shared row", saved);
-    const Watch& after = desk_.watch();
+    const Watch& after = workplace_.watch();
     tally_.count("shared.saves");
     tally_.count("shared.conflicts", after.conflicts - before.conflicts);
     if (after.rowsChanged > before.rowsChanged) {
@@ -193,14 +195,14 @@ class Clerk {
   // ---- through the dialogs
 
   void browse() {
-    desk_.show(21, {Variant(ownStage(number_))}, [this] { desk_.press(key::Down, 5); });
+    workplace_.show(21, {Variant(ownStage(number_))}, [this] { workplace_.press(key::Down, 5); });
   }
 
   void saveName(StringView stage, const String& name) {
-    desk_.show(21, {Variant(stage)}, [&] {
-      desk_.click(u"Kurztext");
-      desk_.type(name);
-      desk_.press(key::F9);
+    workplace_.show(21, {Variant(stage)}, [&] {
+      workplace_.click(u"Kurztext");
+      workplace_.type(name);
+      workplace_.press(key::F9);
     });
   }
 
@@ -209,41 +211,41 @@ class Clerk {
   }
 
   void add() {
-    desk_.show(21, {Variant(ownStage(number_))}, [this] {
-      desk_.press(key::F6);
-      desk_.type(passingStage(number_));
-      desk_.press(key::Tab);
-      desk_.type(newName());
-      desk_.press(key::F9);
+    workplace_.show(21, {Variant(ownStage(number_))}, [this] {
+      workplace_.press(key::F6);
+      workplace_.type(passingStage(number_));
+      workplace_.press(key::Tab);
+      workplace_.type(newName());
+      workplace_.press(key::F9);
     });
   }
 
   void remove() {
-    desk_.show(21, {Variant(passingStage(number_))}, [this] { desk_.click(u"btnDelete"); });
+    workplace_.show(21, {Variant(passingStage(number_))}, [this] { workplace_.click(u"btnDelete"); });
   }
 
   void split() {
     const VariantArray param{u"2|\"Stk\"|\"L-1\"|\"20260630000000\"|\"\"", 5.0, u"Stk", std::int32_t{1},
                              false};
-    const Variant text = desk_.show(34, param, [this] {
-      desk_.type(u"L-2");
-      desk_.press(key::Enter);
-      desk_.press(key::F9);
+    const Variant text = workplace_.show(34, param, [this] {
+      workplace_.type(u"L-2");
+      workplace_.press(key::Enter);
+      workplace_.press(key::F9);
     });
     if (concatenate(text).find(u"\"L-2\"") == String::npos)
       tally_.text("faults", "the split came back as " + toUtf8(concatenate(text)));
   }
 
   void browsePriceLists() {
-    desk_.show(16, {Variant(ownPriceList(number_))}, [this] { desk_.press(key::Down, 5); });
+    workplace_.show(16, {Variant(ownPriceList(number_))}, [this] { workplace_.press(key::Down, 5); });
   }
 
   void savePriceList() {
     writing(priceList_, [this] {
-      desk_.show(16, {Variant(ownPriceList(number_))}, [this] {
-        desk_.click(u"Langtext");
-        desk_.type(newName());
-        desk_.press(key::F9);
+      workplace_.show(16, {Variant(ownPriceList(number_))}, [this] {
+        workplace_.click(u"Langtext");
+        workplace_.type(newName());
+        workplace_.press(key::F9);
       });
     });
   }
@@ -251,11 +253,11 @@ class Clerk {
   /// Saves the name of this round in a row of the clerk's own.
   template <class Save>
   void writing(Expected& row, Save&& save) {
-    const std::int64_t before = desk_.watch().rowsChanged;
+    const std::int64_t before = workplace_.watch().rowsChanged;
     save();
-    if (desk_.watch().rowsChanged > before) {
+    if (workplace_.watch().rowsChanged > before) {
       row = {newName(), {}};
-    } else if (!desk_.watch().failures.empty()) {
+    } else if (!workplace_.watch().failures.empty()) {
       row.perhaps.push_back(newName());
     } else {
       tally_.text("faults",
@@ -269,21 +271,21 @@ class Clerk {
     const ado::sql::Text row =
         u"SELECT * FROM Vertriebsstati WHERE Status=" + ado::sql::value(String(CounterKey));
     for (;;) {
-      const std::int64_t below = desk_.watch().conflicts;
+      const std::int64_t below = workplace_.watch().conflicts;
       ado::Recordset rs;
       bool updating = false;
       try {
-        rs.Open(row, desk_.connection(), ado::adOpenKeyset, ado::adLockOptimistic);
+        rs.Open(row, workplace_.connection(), ado::adOpenKeyset, ado::adLockOptimistic);
         ado::Field progress = rs.Fields(u"Gewichtung");
         progress.Value(CLng(progress.Value()) + 1);
         updating = true;
         rs.Update();
         rs.Close();
         tally_.count("counter.raised");
-        if (desk_.watch().conflicts != below) tally_.count("counter.unreported");
+        if (workplace_.watch().conflicts != below) tally_.count("counter.unreported");
         return;
       } catch (const RuntimeError& failure) {
-        tally_.count("counter.conflicts below", desk_.watch().conflicts - below);
+        tally_.count("counter.conflicts below", workplace_.watch().conflicts - below);
         if (failure.number() != error::RowConflict) {
           // A connection that is lost while the row is written leaves open whether it was.
           tally_.count(updating ? "counter.unknown" : "counter.failed");
@@ -306,7 +308,7 @@ class Clerk {
   Tally& tally_;
   std::string server_;
   std::mt19937 order_;
-  Desk desk_;
+  Workplace workplace_;
   std::optional<Bare> bare_;
   int round_ = 0;
   std::vector<Done> done_;

@@ -5,7 +5,7 @@
 #include "host/database/database.h"
 #include "host/database/rows.h"
 #include "host/database/schema/schema.h"
-#include "host/database/server_catalogue.h"
+#include "host/database/server_schema.h"
 #include "runtime/convert.h"
 
 namespace zqn::load {
@@ -44,9 +44,9 @@ void makeGround(const String& connectionString, int clerks) {
   const auto address = host::DatabaseAddress::read("odbc:" + toUtf8(connectionString));
   host::createTables(address, {.sample = true});
   const Ref<ado::Connection> connection = ado::openOdbc(connectionString);
-  const auto dialect = host::dialectOf(connection->provider().name());
+  const auto product = host::productNamed(connection->provider().name());
   const auto insert = [&](const host::Table& table, const host::Row& row) {
-    host::runStatement(*connection, host::insertStatement(table, *dialect), row);
+    host::runStatement(*connection, host::insertStatement(table, *product), row);
   };
   const host::Table& stages = host::table(u"Vertriebsstati");
   const host::Table& priceLists = host::table(u"Preislistenkopf");
@@ -70,7 +70,7 @@ std::vector<std::string> leftOnServer(const String& connectionString) {
     const std::int32_t found = CLng(valueOf(*connection, statement));
     if (found > 0) left.push_back(std::to_string(found) + " " + what);
   };
-  if (host::dialectOf(connection->provider().name()) == host::Dialect::PostgreSql) {
+  if (host::productNamed(connection->provider().name()) == host::DatabaseProduct::PostgreSql) {
     expectNone("open transactions",
                u"SELECT COUNT(*) FROM pg_stat_activity WHERE datname=current_database() AND "
                u"backend_type='client backend' AND pid<>pg_backend_pid() AND xact_start IS NOT NULL");

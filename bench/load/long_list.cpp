@@ -16,7 +16,7 @@
 #include "host/database/rows.h"
 #include "host/database/schema/generate.h"
 #include "host/database/schema/schema.h"
-#include "host/database/server_catalogue.h"
+#include "host/database/server_schema.h"
 #include "runtime/convert.h"
 
 namespace zqn::load {
@@ -44,16 +44,16 @@ std::size_t memoryInUse() {
 void makeLongTable(const String& connectionString, std::int64_t rows) {
   host::createTables(host::DatabaseAddress::read("odbc:" + toUtf8(connectionString)), {});
   const Ref<ado::Connection> connection = ado::openOdbc(connectionString);
-  const auto dialect = host::dialectOf(connection->provider().name());
+  const auto product = host::productNamed(connection->provider().name());
   const host::Table& stages = host::table(u"Vertriebsstati");
   const auto insert =
-      connection->provider().prepare(host::insertStatement(stages, *dialect), ado::Purpose::Plain);
+      connection->provider().prepare(host::insertStatement(stages, *product), ado::Purpose::Plain);
   host::Transaction transaction(*connection, u"BEGIN");
   host::generateRows(stages, rows,
                      [&](const host::Table&, const host::Row& row) { insert->open(host::parameters(row)); });
   transaction.commit();
-  connection->Execute(dialect == host::Dialect::PostgreSql ? u"ANALYZE Vertriebsstati"
-                                                           : u"ANALYZE TABLE Vertriebsstati");
+  connection->Execute(product == host::DatabaseProduct::PostgreSql ? u"ANALYZE Vertriebsstati"
+                                                                   : u"ANALYZE TABLE Vertriebsstati");
 }
 
 /// The list of kind 21 on a connection of its own that has been used before.

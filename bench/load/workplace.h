@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The desk of one clerk: a headless desktop, a session and a connection of his own, and the dialogs, which he
-// works by keys and clicks.
+// The workplace of one clerk: a headless desktop, a session and a connection of his own, and the dialogs,
+// which he works by keys and clicks.
 //
-//     Desk desk(connectionString, u"clerk7", tally);
-//     desk.show(21, {u"10"}, [&] { desk.click(u"Kurztext"); desk.type(u"neu"); desk.press(key::F9); });
+//     Workplace workplace(connectionString, u"clerk7", tally);
+//     workplace.show(21, {u"10"}, [&] {
+//       workplace.click(u"Kurztext");
+//       workplace.type(u"neu");
+//       workplace.press(key::F9);
+//     });
 #pragma once
 
 #include <functional>
@@ -18,14 +22,14 @@
 
 namespace zqn::load {
 
-class Desk : private DesktopListener {
+class Workplace : private DesktopListener {
  public:
   /// Connects. Boxes that no action expects and run-time errors that a dialog shows are counted in `tally`
   /// under "shown.".
-  Desk(const String& connectionString, const String& user, Tally& tally);
-  ~Desk() override;
-  Desk(const Desk&) = delete;
-  Desk& operator=(const Desk&) = delete;
+  Workplace(const String& connectionString, const String& user, Tally& tally);
+  ~Workplace() override;
+  Workplace(const Workplace&) = delete;
+  Workplace& operator=(const Workplace&) = delete;
 
   /// Shows a dialog; `acts` runs when it waits for the person, then it is closed unless that has happened.
   /// Questions are answered with Yes. Gives element 0 of `param` as it came back.

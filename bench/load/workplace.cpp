@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desk.h"
+#include "workplace.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -19,7 +19,7 @@ bool isQuestion(const MessageBox& box) {
 
 }  // namespace
 
-Desk::Desk(const String& connectionString, const String& user, Tally& tally) : tally_(tally) {
+Workplace::Workplace(const String& connectionString, const String& user, Tally& tally) : tally_(tally) {
   const ado::OdbcOptions options{
       .runs = [this](StringView statement, std::span<const ado::Value> parameters) {
         record(statement, parameters);
@@ -31,22 +31,22 @@ Desk::Desk(const String& connectionString, const String& user, Tally& tally) : t
   desktop_.whenIdle([this] { idle(); });
 }
 
-Desk::~Desk() { desktop_.removeListener(this); }
+Workplace::~Workplace() { desktop_.removeListener(this); }
 
-void Desk::record(StringView statement, std::span<const ado::Value> parameters) {
+void Workplace::record(StringView statement, std::span<const ado::Value> parameters) {
   Run& run = recording_.emplace_back(Run{String(statement), {}});
   for (const ado::Value& value : parameters)
     run.arguments.push_back({value.kind, value.integer, value.real, String(value.text)});
 }
 
-Variant Desk::show(std::int32_t kind, VariantArray param, std::function<void()> acts) {
+Variant Workplace::show(std::int32_t kind, VariantArray param, std::function<void()> acts) {
   acts_ = std::move(acts);
   dialog_.Show(kind, param);
   acts_ = nullptr;
   return param.at(0);
 }
 
-void Desk::idle() {
+void Workplace::idle() {
   if (const MessageBox* box = desktop_.openMessageBox()) {
     const auto byDefault = static_cast<std::size_t>(box->defaultButton() - 1);
     desktop_.answer(isQuestion(*box) ? MsgBoxResult::Yes : box->buttons().at(byDefault));
@@ -59,31 +59,31 @@ void Desk::idle() {
   if (Control* button = headless::cancelButton(*form)) desktop_.click(*button);
 }
 
-void Desk::messageBoxOpened(const MessageBox& box) {
+void Workplace::messageBoxOpened(const MessageBox& box) {
   if (!isQuestion(box)) tally_.count("shown.box: " + toUtf8(box.text));
 }
 
-bool Desk::runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure) {
+bool Workplace::runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure) {
   tally_.count("shown." + toUtf8(form.Name()) + "." + toUtf8(procedure) + ": " +
                std::to_string(failure.number()));
   return true;
 }
 
-void Desk::click(StringView control) {
+void Workplace::click(StringView control) {
   Form* form = desktop_.activeForm();
   Control* found = form == nullptr ? nullptr : form->findControl(control);
   if (found == nullptr) throw std::logic_error("no control " + toUtf8(control));
   desktop_.click(*found);
 }
 
-void Desk::press(int code, int times) {
+void Workplace::press(int code, int times) {
   for (; times > 0; --times) {
     desktop_.press(KeyStroke::ofCode(code));
     desktop_.pressQueuedKeys();
   }
 }
 
-void Desk::type(StringView text) {
+void Workplace::type(StringView text) {
   for (const char16_t character : text) desktop_.press(KeyStroke::ofCharacter(character));
 }
 

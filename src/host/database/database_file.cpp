@@ -113,8 +113,8 @@ Created createTablesInFile(const fs::path& file, const Content& content) {
     }
     const auto connection = ado::openSqlite(file);
     Transaction transaction(*connection, u"BEGIN IMMEDIATE");
-    const std::int64_t made = makeTables(*connection, Dialect::Sqlite);
-    const std::int64_t rows = fillTables(*connection, Dialect::Sqlite, content);
+    const std::int64_t made = makeTables(*connection, DatabaseProduct::Sqlite);
+    const std::int64_t rows = fillTables(*connection, DatabaseProduct::Sqlite, content);
     transaction.commit();
     return {.tables = made, .rows = rows};
   } catch (const RuntimeError& failure) {

@@ -7,7 +7,7 @@
 #include "ado/odbc/connection_string.h"
 #include "ado/odbc/odbc.h"
 #include "host/database/failure.h"
-#include "host/database/server_catalogue.h"
+#include "host/database/server_schema.h"
 #include "runtime/locale.h"
 
 namespace zqn::host {
@@ -52,35 +52,35 @@ Ref<ado::Connection> connect(const DatabaseAddress& address) {
   }
 }
 
-ServerCatalogue catalogueOf(ado::Connection& connection, Dialect dialect, const DatabaseAddress& address) {
+ServerSchema schemaOf(ado::Connection& connection, DatabaseProduct product, const DatabaseAddress& address) {
   try {
-    ServerCatalogue catalogue = readCatalogue(connection, dialect);
-    if (!catalogue.hasDatabase) throw cannotOpen(address, "names no database; add Database=NAME");
-    return catalogue;
+    ServerSchema schema = readServerSchema(connection, product);
+    if (!schema.hasDatabase) throw cannotOpen(address, "names no database; add Database=NAME");
+    return schema;
   } catch (const RuntimeError& failure) {
     throw cannotOpen(address, oneLine(failure.description()));
   }
 }
 
 /// The statement that begins a transaction around the tables themselves; none where a CREATE TABLE ends it.
-std::optional<StringView> beginAroundTables(Dialect dialect) {
-  switch (dialect) {
-    case Dialect::Sqlite:
-    case Dialect::PostgreSql:
+std::optional<StringView> beginAroundTables(DatabaseProduct product) {
+  switch (product) {
+    case DatabaseProduct::Sqlite:
+    case DatabaseProduct::PostgreSql:
       return u"BEGIN";
-    case Dialect::SqlServer:
+    case DatabaseProduct::SqlServer:
       return u"BEGIN TRANSACTION";
-    case Dialect::MariaDb:
+    case DatabaseProduct::MariaDb:
       break;
   }
   return std::nullopt;
 }
 
-Created createInTransaction(ado::Connection& connection, Dialect dialect, StringView begin,
+Created createInTransaction(ado::Connection& connection, DatabaseProduct product, StringView begin,
                             const Content& content) {
   Transaction transaction(connection, begin);
-  const std::int64_t made = makeTables(connection, dialect);
-  const std::int64_t rows = fillTables(connection, dialect, content);
+  const std::int64_t made = makeTables(connection, product);
+  const std::int64_t rows = fillTables(connection, product, content);
   transaction.commit();
   return {.tables = made, .rows = rows};
 }
@@ -98,12 +98,12 @@ std::string dropTables(ado::Connection& connection, const std::vector<StringView
   return left;
 }
 
-Created createOneByOne(ado::Connection& connection, Dialect dialect, const Content& content) {
+Created createOneByOne(ado::Connection& connection, DatabaseProduct product, const Content& content) {
   std::vector<StringView> made;
   try {
-    makeTables(connection, dialect, [&](const Table& table) { made.push_back(table.name); });
+    makeTables(connection, product, [&](const Table& table) { made.push_back(table.name); });
     Transaction transaction(connection, u"BEGIN");
-    const std::int64_t rows = fillTables(connection, dialect, content);
+    const std::int64_t rows = fillTables(connection, product, content);
     transaction.commit();
     return {.tables = static_cast<std::int64_t>(made.size()), .rows = rows};
   } catch (const RuntimeError& failure) {
@@ -116,8 +116,8 @@ Created createOneByOne(ado::Connection& connection, Dialect dialect, const Conte
   }
 }
 
-void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerCatalogue& catalogue) {
-  const std::vector<StringView> found = systemTablesIn(catalogue);
+void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerSchema& schema) {
+  const std::vector<StringView> found = systemTablesIn(schema);
   if (found.empty()) return;
   throw cannotOpen(address, "has " + std::to_string(found.size()) +
                                 " tables of the system already, such as " + toUtf8(found.front()) +
@@ -128,29 +128,29 @@ void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerCatal
 
 Ref<ado::Connection> openDatabaseOnServer(const DatabaseAddress& address) {
   Ref<ado::Connection> connection = connect(address);
-  const auto dialect = dialectOf(connection->provider().name());
-  if (!dialect || !systemTablesIn(catalogueOf(*connection, *dialect, address)).empty()) return connection;
+  const auto product = productNamed(connection->provider().name());
+  if (!product || !systemTablesIn(schemaOf(*connection, *product, address)).empty()) return connection;
   throw cannotOpen(address, "has no table of the system; make them with: zqn-dialog init --db '" +
                                 address.shownUrl() + "' --sample");
 }
 
 std::vector<std::string> findingsOnServer(ado::Connection& connection, const DatabaseAddress& address) {
-  const auto dialect = dialectOf(connection.provider().name());
-  return dialect ? findings(catalogueOf(connection, *dialect, address)) : std::vector<std::string>();
+  const auto product = productNamed(connection.provider().name());
+  return product ? findings(schemaOf(connection, *product, address)) : std::vector<std::string>();
 }
 
 Created createTablesOnServer(const DatabaseAddress& address, const Content& content) {
   const Ref<ado::Connection> connection = connect(address);
-  const String product = connection->provider().name();
-  const auto dialect = dialectOf(product);
-  if (!dialect)
-    throw cannotOpen(address, "is a database of the product '" + toUtf8(product) +
+  const String name = connection->provider().name();
+  const auto product = productNamed(name);
+  if (!product)
+    throw cannotOpen(address, "is a database of the product '" + toUtf8(name) +
                                   "'; tables can be made in PostgreSQL, MariaDB and Microsoft SQL Server");
-  requireNoTableOfTheSystem(address, catalogueOf(*connection, *dialect, address));
+  requireNoTableOfTheSystem(address, schemaOf(*connection, *product, address));
   try {
-    const auto begin = beginAroundTables(*dialect);
-    return begin ? createInTransaction(*connection, *dialect, *begin, content)
-                 : createOneByOne(*connection, *dialect, content);
+    const auto begin = beginAroundTables(*product);
+    return begin ? createInTransaction(*connection, *product, *begin, content)
+                 : createOneByOne(*connection, *product, content);
   } catch (const RuntimeError& failure) {
     throw cannotOpen(address, oneLine(failure.description()));
   }

@@ -28,13 +28,13 @@ void Transaction::commit() {
   committed_ = true;
 }
 
-std::int64_t makeTables(ado::Connection& connection, Dialect dialect,
+std::int64_t makeTables(ado::Connection& connection, DatabaseProduct product,
                         const std::function<void(const Table&)>& made) {
-  for (const String& statement : preparations(dialect)) connection.Execute(statement);
+  for (const String& statement : preparations(product)) connection.Execute(statement);
   std::int64_t count = 0;
   for (const Table& table : tables()) {
     bool stands = false;
-    for (const String& statement : createStatements(table, dialect)) {
+    for (const String& statement : createStatements(table, product)) {
       connection.Execute(statement);
       if (!stands && made) made(table);
       stands = true;
@@ -49,7 +49,8 @@ namespace {
 /// Writes rows, over a network as many at once as every server takes.
 class RowWriter {
  public:
-  RowWriter(ado::Connection& connection, Dialect dialect) : connection_(connection), dialect_(dialect) {}
+  RowWriter(ado::Connection& connection, DatabaseProduct product)
+      : connection_(connection), product_(product) {}
 
   void add(const Table& table, const Row& row) {
     if (table_ != &table) {
@@ -57,7 +58,7 @@ class RowWriter {
       table_ = &table;
       full_.reset();
       rowsAtOnce_ =
-          dialect_ == Dialect::Sqlite ? 1 : std::max<std::size_t>(MostParameters / table.width(), 1);
+          product_ == DatabaseProduct::Sqlite ? 1 : std::max<std::size_t>(MostParameters / table.width(), 1);
     }
     rows_.push_back(row);
     if (rows_.size() < rowsAtOnce_) return;
@@ -73,7 +74,7 @@ class RowWriter {
   static constexpr std::size_t MostParameters = 2000;
 
   std::unique_ptr<ado::Statement> prepare(std::size_t rows) const {
-    return connection_.provider().prepare(insertStatement(*table_, dialect_, rows), ado::Purpose::Plain);
+    return connection_.provider().prepare(insertStatement(*table_, product_, rows), ado::Purpose::Plain);
   }
   void write(ado::Statement& insert) {
     std::vector<ado::Value> values;
@@ -87,7 +88,7 @@ class RowWriter {
   }
 
   ado::Connection& connection_;
-  Dialect dialect_;
+  DatabaseProduct product_;
   const Table* table_ = nullptr;
   std::size_t rowsAtOnce_ = 1;
   std::unique_ptr<ado::Statement> full_;
@@ -97,8 +98,8 @@ class RowWriter {
 
 }  // namespace
 
-std::int64_t fillTables(ado::Connection& connection, Dialect dialect, const Content& content) {
-  RowWriter writer(connection, dialect);
+std::int64_t fillTables(ado::Connection& connection, DatabaseProduct product, const Content& content) {
+  RowWriter writer(connection, product);
   const RowSink sink = [&](const Table& table, const Row& row) { writer.add(table, row); };
   if (content.sample) sampleRows(sink);
   if (content.rows > 0) generateRows(content.rows, sink);

@@ -3,8 +3,8 @@
 // The tables of the system on an open connection: made and filled, whatever database it is.
 //
 //     Transaction transaction(connection, u"BEGIN");
-//     Created created = makeTables(connection, Dialect::PostgreSql);
-//     created.rows = fillTables(connection, Dialect::PostgreSql, {.sample = true});
+//     Created created = makeTables(connection, DatabaseProduct::PostgreSql);
+//     created.rows = fillTables(connection, DatabaseProduct::PostgreSql, {.sample = true});
 //     transaction.commit();
 #pragma once
 
@@ -46,10 +46,10 @@ class Transaction {
 
 /// Creates all tables, none of which may exist, and gives their number. `made` is told of each as soon as it
 /// stands. The provider's errors.
-std::int64_t makeTables(ado::Connection& connection, Dialect dialect,
+std::int64_t makeTables(ado::Connection& connection, DatabaseProduct product,
                         const std::function<void(const Table&)>& made = {});
 
 /// Inserts the rows of a new database and gives their number. The provider's errors.
-std::int64_t fillTables(ado::Connection& connection, Dialect dialect, const Content& content);
+std::int64_t fillTables(ado::Connection& connection, DatabaseProduct product, const Content& content);
 
 }  // namespace zqn::host

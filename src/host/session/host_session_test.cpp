@@ -18,7 +18,7 @@ Ref<ado::Connection> emptyDatabase() { return ado::openSqlite(":memory:"); }
 
 Ref<ado::Connection> databaseWithSettings() {
   const auto connection = emptyDatabase();
-  for (const String& statement : createStatements(table(u"Einstellungen"), Dialect::Sqlite))
+  for (const String& statement : createStatements(table(u"Einstellungen"), DatabaseProduct::Sqlite))
     connection->Execute(statement);
   return connection;
 }

@@ -15,7 +15,7 @@ struct Spelling {
   StringView quote = u"";
 };
 
-const Spelling& spelling(Dialect dialect) {
+const Spelling& spelling(DatabaseProduct product) {
   // SQLite gives a Serial its number because a lone INTEGER key is the row's own number there.
   static constexpr Spelling sqlite{
       .text = u"VARCHAR(#) COLLATE ZQN_TEXT",
@@ -59,14 +59,14 @@ const Spelling& spelling(Dialect dialect) {
       .nullable = u" NULL",
       .literal = u"N",
   };
-  switch (dialect) {
-    case Dialect::Sqlite:
+  switch (product) {
+    case DatabaseProduct::Sqlite:
       break;
-    case Dialect::PostgreSql:
+    case DatabaseProduct::PostgreSql:
       return postgreSql;
-    case Dialect::MariaDb:
+    case DatabaseProduct::MariaDb:
       return mariaDb;
-    case Dialect::SqlServer:
+    case DatabaseProduct::SqlServer:
       return sqlServer;
   }
   return sqlite;
@@ -123,15 +123,15 @@ String commaList(const Names& names, Spell spell) {
 
 }  // namespace
 
-std::vector<String> preparations(Dialect dialect) {
-  if (dialect != Dialect::PostgreSql) return {};
+std::vector<String> preparations(DatabaseProduct product) {
+  if (product != DatabaseProduct::PostgreSql) return {};
   return {
       u"CREATE COLLATION IF NOT EXISTS zqn_text (provider=icu, locale='de-u-ks-level2', "
       u"deterministic=false)"};
 }
 
-std::vector<String> createStatements(const Table& table, Dialect dialect) {
-  const Spelling& words = spelling(dialect);
+std::vector<String> createStatements(const Table& table, DatabaseProduct product) {
+  const Spelling& words = spelling(product);
   const auto spelled = [&](StringView name) { return nameIn(name, words); };
   const String name = spelled(table.name);
   std::vector<String> statements{
@@ -144,9 +144,9 @@ std::vector<String> createStatements(const Table& table, Dialect dialect) {
   return statements;
 }
 
-String columnType(const Column& column, Dialect dialect) { return typeOf(column, spelling(dialect)); }
+String columnType(const Column& column, DatabaseProduct product) { return typeOf(column, spelling(product)); }
 
-String insertStatement(const Table& table, Dialect, std::size_t rows) {
+String insertStatement(const Table& table, DatabaseProduct, std::size_t rows) {
   const std::vector<Column> written(table.columns.begin(),
                                     table.columns.begin() + static_cast<std::ptrdiff_t>(table.width()));
   const String marks = u"(" + commaList(written, [](const Column&) { return String(u"?"); }) + u")";

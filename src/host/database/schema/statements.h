@@ -5,9 +5,9 @@
 //
 // On each of them texts compare without case while accents count. By which collation, each text column says.
 //
-//     for (const String& statement : preparations(Dialect::Sqlite)) connection.Execute(statement);
+//     for (const String& statement : preparations(DatabaseProduct::Sqlite)) connection.Execute(statement);
 //     for (const Table& table : tables())
-//       for (const String& statement : createStatements(table, Dialect::Sqlite))
+//       for (const String& statement : createStatements(table, DatabaseProduct::Sqlite))
 //       connection.Execute(statement);
 #pragma once
 
@@ -15,22 +15,22 @@
 
 namespace zqn::host {
 
-enum class Dialect { Sqlite, PostgreSql, MariaDb, SqlServer };
+enum class DatabaseProduct { Sqlite, PostgreSql, MariaDb, SqlServer };
 
 /// What the database needs before its first table: the collation `zqn_text` on PostgreSQL, nothing elsewhere.
 /// Without effect where it is there already.
-std::vector<String> preparations(Dialect dialect);
+std::vector<String> preparations(DatabaseProduct product);
 
 /// CREATE TABLE, then one CREATE INDEX for each indexed column; to be run in this order, one by one. Names
 /// keep their spelling: PostgreSQL has them in quotes, elsewhere they need none. On SQLite each text column
 /// has the collation ZQN_TEXT, which the connection must know by then.
-std::vector<String> createStatements(const Table& table, Dialect dialect);
+std::vector<String> createStatements(const Table& table, DatabaseProduct product);
 
 /// The type of the column as its CREATE TABLE says it, with length and collation.
-String columnType(const Column& column, Dialect dialect);
+String columnType(const Column& column, DatabaseProduct product);
 
 /// INSERT with a `?` for each value of a Row, in its order, for so many rows. The columns are named, so a
 /// Serial gets its number by itself.
-String insertStatement(const Table& table, Dialect dialect, std::size_t rows = 1);
+String insertStatement(const Table& table, DatabaseProduct product, std::size_t rows = 1);
 
 }  // namespace zqn::host

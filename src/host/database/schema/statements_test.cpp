@@ -26,7 +26,7 @@ class Database {
     check(sqlite3_open(":memory:", &handle_));
     check(sqlite3_create_collation(handle_, "ZQN_TEXT", SQLITE_UTF8, nullptr, collate));
     for (const Table& table : tables())
-      for (const String& statement : createStatements(table, Dialect::Sqlite)) run(statement);
+      for (const String& statement : createStatements(table, DatabaseProduct::Sqlite)) run(statement);
   }
   ~Database() {
     for (auto& [name, insert] : inserts_) sqlite3_finalize(insert);
@@ -42,7 +42,7 @@ class Database {
   void insert(const Table& table, const Row& row) {
     sqlite3_stmt*& statement = inserts_[table.name];
     if (!statement)
-      check(sqlite3_prepare_v2(handle_, toUtf8(insertStatement(table, Dialect::Sqlite)).c_str(), -1,
+      check(sqlite3_prepare_v2(handle_, toUtf8(insertStatement(table, DatabaseProduct::Sqlite)).c_str(), -1,
                                &statement, nullptr));
     ASSERT_EQ(sqlite3_bind_parameter_count(statement), static_cast<int>(row.size())) << toUtf8(table.name);
     for (std::size_t position = 0; position < row.size(); ++position)
@@ -150,7 +150,7 @@ TEST(Statements, EachTextColumnComparesWithoutRegardToCaseAndTrailingBlanks) {
     for (const Column& column : table.columns) {
       const bool isText = column.kind == ColumnKind::Text || column.kind == ColumnKind::LongText ||
                           column.kind == ColumnKind::Date14;
-      const String statement = createStatements(table, Dialect::Sqlite).front();
+      const String statement = createStatements(table, DatabaseProduct::Sqlite).front();
       const std::size_t start = statement.find(u" " + String(column.name) + u" ") != String::npos
                                     ? statement.find(u" " + String(column.name) + u" ")
                                     : statement.find(u"(" + String(column.name) + u" ");

@@ -12,10 +12,11 @@
 namespace zqn::host {
 namespace {
 
-/// The statements of the table as UTF-8, with ~ for what each text column of the dialect says.
-std::vector<std::string> statementsOf(StringView name, Dialect dialect, const std::string& collation) {
+/// The statements of the table as UTF-8, with ~ for what each text column of the product says.
+std::vector<std::string> statementsOf(StringView name, DatabaseProduct product,
+                                      const std::string& collation) {
   std::vector<std::string> texts;
-  for (const String& statement : createStatements(table(name), dialect)) {
+  for (const String& statement : createStatements(table(name), product)) {
     std::string text = toUtf8(statement);
     for (auto at = text.find(collation); at != std::string::npos; at = text.find(collation))
       text.replace(at, collation.size(), "~");
@@ -28,11 +29,13 @@ using Texts = std::vector<std::string>;
 
 class PostgreSql : public testing::Test {
  protected:
-  static Texts of(StringView name) { return statementsOf(name, Dialect::PostgreSql, " COLLATE zqn_text"); }
+  static Texts of(StringView name) {
+    return statementsOf(name, DatabaseProduct::PostgreSql, " COLLATE zqn_text");
+  }
 };
 
 TEST_F(PostgreSql, TheCollationIsMadeBeforeTheTables) {
-  EXPECT_EQ(preparations(Dialect::PostgreSql),
+  EXPECT_EQ(preparations(DatabaseProduct::PostgreSql),
             std::vector<String>{u"CREATE COLLATION IF NOT EXISTS zqn_text (provider=icu, "
                                 u"locale='de-u-ks-level2', deterministic=false)"});
 }
@@ -73,11 +76,14 @@ TEST_F(PostgreSql, NumbersThatTheServerGivesAndIndexes) {
 class MariaDb : public testing::Test {
  protected:
   static Texts of(StringView name) {
-    return statementsOf(name, Dialect::MariaDb, " CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_nopad_as_ci");
+    return statementsOf(name, DatabaseProduct::MariaDb,
+                        " CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_nopad_as_ci");
   }
 };
 
-TEST_F(MariaDb, NothingIsNeededBeforeTheTables) { EXPECT_TRUE(preparations(Dialect::MariaDb).empty()); }
+TEST_F(MariaDb, NothingIsNeededBeforeTheTables) {
+  EXPECT_TRUE(preparations(DatabaseProduct::MariaDb).empty());
+}
 
 TEST_F(MariaDb, TextsLongTextsAndNumbers) {
   EXPECT_EQ(of(u"Textbausteine"),
@@ -110,11 +116,13 @@ TEST_F(MariaDb, NumbersThatTheServerGivesAndIndexes) {
 class SqlServer : public testing::Test {
  protected:
   static Texts of(StringView name) {
-    return statementsOf(name, Dialect::SqlServer, " COLLATE Latin1_General_100_CI_AS_SC");
+    return statementsOf(name, DatabaseProduct::SqlServer, " COLLATE Latin1_General_100_CI_AS_SC");
   }
 };
 
-TEST_F(SqlServer, NothingIsNeededBeforeTheTables) { EXPECT_TRUE(preparations(Dialect::SqlServer).empty()); }
+TEST_F(SqlServer, NothingIsNeededBeforeTheTables) {
+  EXPECT_TRUE(preparations(DatabaseProduct::SqlServer).empty());
+}
 
 TEST_F(SqlServer, TextsLongTextsAndNumbers) {
   EXPECT_EQ(of(u"Textbausteine"),

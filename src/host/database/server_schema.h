@@ -2,8 +2,8 @@
 //
 // Which tables and columns a server's database has, held against those of the system.
 //
-//     const ServerCatalogue catalogue = readCatalogue(connection, Dialect::PostgreSql);
-//     for (const std::string& finding : findings(catalogue)) warn(finding);
+//     const ServerSchema schema = readServerSchema(connection, DatabaseProduct::PostgreSql);
+//     for (const std::string& finding : findings(schema)) warn(finding);
 #pragma once
 
 #include <optional>
@@ -25,8 +25,8 @@ struct ServerColumn {
   bool caseCounts = false;
 };
 
-struct ServerCatalogue {
-  Dialect dialect = Dialect::PostgreSql;
+struct ServerSchema {
+  DatabaseProduct product = DatabaseProduct::PostgreSql;
   /// False on a server where a session may have none.
   bool hasDatabase = true;
   /// Those that a statement reaches by the bare name of the table, in any order.
@@ -35,16 +35,16 @@ struct ServerCatalogue {
   String narrow = {};
 };
 
-/// The dialect of a product, as a driver names it; none for a product that is not served.
-std::optional<Dialect> dialectOf(StringView product);
+/// The product that a driver names so; none for one that is not served.
+std::optional<DatabaseProduct> productNamed(StringView product);
 
 /// Asks the server. The provider's errors.
-ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect);
+ServerSchema readServerSchema(ado::Connection& connection, DatabaseProduct product);
 
 /// The tables of the system that the database has, as the system spells them.
-std::vector<StringView> systemTablesIn(const ServerCatalogue& catalogue);
+std::vector<StringView> systemTablesIn(const ServerSchema& schema);
 
 /// A sentence for each thing that a dialog will stumble over, with what would be right.
-std::vector<std::string> findings(const ServerCatalogue& catalogue);
+std::vector<std::string> findings(const ServerSchema& schema);
 
 }  // namespace zqn::host

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/database/server_catalogue.h"
+#include "host/database/server_schema.h"
 
 #include <algorithm>
 #include <map>
@@ -23,7 +23,7 @@ struct Questions {
   StringView database = {};
 };
 
-const Questions& questions(Dialect dialect) {
+const Questions& questions(DatabaseProduct product) {
   static constexpr Questions postgreSql{
       .columns =
           u"SELECT c.relname, a.attname, format_type(a.atttypid, NULL), '', "
@@ -51,8 +51,8 @@ const Questions& questions(Dialect dialect) {
           u"CASE WHEN CHARINDEX('_CI_', COLLATION_NAME) = 0 THEN 1 ELSE 0 END "
           u"FROM INFORMATION_SCHEMA.COLUMNS WHERE TABLE_SCHEMA IN (SCHEMA_NAME(), 'dbo')",
   };
-  if (dialect == Dialect::MariaDb) return mariaDb;
-  return dialect == Dialect::SqlServer ? sqlServer : postgreSql;
+  if (product == DatabaseProduct::MariaDb) return mariaDb;
+  return product == DatabaseProduct::SqlServer ? sqlServer : postgreSql;
 }
 
 String textOf(const ado::Value& value) { return String(value.text); }
@@ -74,8 +74,8 @@ String folded(StringView name) {
 
 class TablesOnServer {
  public:
-  explicit TablesOnServer(const ServerCatalogue& catalogue) {
-    for (const ServerColumn& column : catalogue.columns)
+  explicit TablesOnServer(const ServerSchema& schema) {
+    for (const ServerColumn& column : schema.columns)
       tables_[folded(column.table)][folded(column.name)] = &column;
   }
 
@@ -100,7 +100,7 @@ bool holdsNumbers(const String& type) {
   return numbers.contains(type);
 }
 
-bool fits(ColumnKind kind, const String& type, Dialect dialect) {
+bool fits(ColumnKind kind, const String& type, DatabaseProduct product) {
   switch (kind) {
     case ColumnKind::Text:
     case ColumnKind::LongText:
@@ -112,7 +112,8 @@ bool fits(ColumnKind kind, const String& type, Dialect dialect) {
       return holdsNumbers(type);
     case ColumnKind::Flag:
       // PostgreSQL's bit is a text of ones and zeros.
-      return type == u"boolean" || (type == u"bit" && dialect != Dialect::PostgreSql) || holdsNumbers(type);
+      return type == u"boolean" || (type == u"bit" && product != DatabaseProduct::PostgreSql) ||
+             holdsNumbers(type);
   }
   return false;
 }
@@ -122,15 +123,15 @@ std::string tooNarrow(const String& set, const std::string& right) {
 }
 
 /// "COLLATE ..." as the text columns of the system say it.
-std::string rightCollation(Dialect dialect) {
-  const std::string type = toUtf8(columnType({.name = {}, .length = 1}, dialect));
+std::string rightCollation(DatabaseProduct product) {
+  const std::string type = toUtf8(columnType({.name = {}, .length = 1}, product));
   return type.substr(type.find("COLLATE"));
 }
 
 void addName(std::string& list, StringView name) { list += (list.empty() ? "" : ", ") + toUtf8(name); }
 
 void addColumnFindings(const Table& table, const std::map<String, const ServerColumn*>& found,
-                       Dialect dialect, std::vector<std::string>& findings) {
+                       DatabaseProduct product, std::vector<std::string>& findings) {
   std::map<String, std::string> narrow;
   std::string caseCounts;
   for (const Column& column : table.columns) {
@@ -138,13 +139,13 @@ void addColumnFindings(const Table& table, const std::map<String, const ServerCo
     const auto there = found.find(folded(column.name));
     if (there == found.end()) {
       findings.push_back(place + " is missing; it can be added with: ALTER TABLE " + toUtf8(table.name) +
-                         " ADD " + toUtf8(column.name) + " " + toUtf8(columnType(column, dialect)));
+                         " ADD " + toUtf8(column.name) + " " + toUtf8(columnType(column, product)));
       continue;
     }
     const ServerColumn& present = *there->second;
-    if (!fits(column.kind, folded(present.type), dialect)) {
+    if (!fits(column.kind, folded(present.type), product)) {
       findings.push_back(place + " is of the type " + toUtf8(present.type) + "; " +
-                         toUtf8(columnType(column, dialect)) + " would be right");
+                         toUtf8(columnType(column, product)) + " would be right");
       continue;
     }
     if (!present.narrow.empty()) addName(narrow[present.narrow], column.name);
@@ -153,8 +154,8 @@ void addColumnFindings(const Table& table, const std::map<String, const ServerCo
   }
   if (!caseCounts.empty())
     findings.push_back("table " + toUtf8(table.name) + " tells capital from small letters in its key (" +
-                       caseCounts + "); " + rightCollation(dialect) + " would be right");
-  const std::string right = dialect == Dialect::MariaDb ? "utf8mb4" : "NVARCHAR";
+                       caseCounts + "); " + rightCollation(product) + " would be right");
+  const std::string right = product == DatabaseProduct::MariaDb ? "utf8mb4" : "NVARCHAR";
   for (const auto& each : narrow)
     findings.push_back("table " + toUtf8(table.name) + " keeps texts (" + each.second + ") in " +
                        tooNarrow(each.first, right));
@@ -162,42 +163,42 @@ void addColumnFindings(const Table& table, const std::map<String, const ServerCo
 
 }  // namespace
 
-std::optional<Dialect> dialectOf(StringView product) {
-  if (product == u"PostgreSQL") return Dialect::PostgreSql;
-  if (product == u"MariaDB" || product == u"MySQL") return Dialect::MariaDb;
-  if (product == u"Microsoft SQL Server") return Dialect::SqlServer;
+std::optional<DatabaseProduct> productNamed(StringView product) {
+  if (product == u"PostgreSQL") return DatabaseProduct::PostgreSql;
+  if (product == u"MariaDB" || product == u"MySQL") return DatabaseProduct::MariaDb;
+  if (product == u"Microsoft SQL Server") return DatabaseProduct::SqlServer;
   return std::nullopt;
 }
 
-ServerCatalogue readCatalogue(ado::Connection& connection, Dialect dialect) {
-  const Questions& ask = questions(dialect);
-  ServerCatalogue catalogue{.dialect = dialect, .columns = {}};
-  catalogue.hasDatabase = ask.database.empty() || !answer(connection, ask.database).isNull();
+ServerSchema readServerSchema(ado::Connection& connection, DatabaseProduct product) {
+  const Questions& ask = questions(product);
+  ServerSchema schema{.product = product, .columns = {}};
+  schema.hasDatabase = ask.database.empty() || !answer(connection, ask.database).isNull();
   const ado::RowStore rows = runStatement(connection, ask.columns).rows;
   for (int row = 0; row < rows.rows(); ++row)
-    catalogue.columns.push_back({textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)),
-                                 textOf(rows.at(row, 3)), rows.at(row, 4).integer != 0});
+    schema.columns.push_back({textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)),
+                              textOf(rows.at(row, 3)), rows.at(row, 4).integer != 0});
   if (const Variant encoding = answer(connection, ask.narrow); !encoding.isNull())
-    catalogue.narrow = CStr(encoding);
-  return catalogue;
+    schema.narrow = CStr(encoding);
+  return schema;
 }
 
-std::vector<StringView> systemTablesIn(const ServerCatalogue& catalogue) {
-  const TablesOnServer present(catalogue);
+std::vector<StringView> systemTablesIn(const ServerSchema& schema) {
+  const TablesOnServer present(schema);
   std::vector<StringView> names;
   for (const Table& table : tables())
     if (present.find(table.name) != nullptr) names.push_back(table.name);
   return names;
 }
 
-std::vector<std::string> findings(const ServerCatalogue& catalogue) {
-  const TablesOnServer present(catalogue);
+std::vector<std::string> findings(const ServerSchema& schema) {
+  const TablesOnServer present(schema);
   std::vector<std::string> findings;
-  if (!catalogue.narrow.empty())
-    findings.push_back("the database has the encoding " + tooNarrow(catalogue.narrow, "UTF8"));
+  if (!schema.narrow.empty())
+    findings.push_back("the database has the encoding " + tooNarrow(schema.narrow, "UTF8"));
   for (const Table& table : tables()) {
     if (const auto* columns = present.find(table.name)) {
-      addColumnFindings(table, *columns, catalogue.dialect, findings);
+      addColumnFindings(table, *columns, schema.product, findings);
     } else {
       findings.push_back(
           "table " + toUtf8(table.name) +

@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
       const Desktop::Scope scope(desktop);
       return runDesk(options);
     }
-    script::QtUser hands(desktop);
-    return showDialog(options, desktop, hands);
+    script::QtUser input(desktop);
+    return showDialog(options, desktop, input);
   });
 }

@@ -17,8 +17,8 @@ namespace {
 
 ExitStatus showHeadless(const Options& options) {
   headless::HeadlessDesktop desktop;
-  script::HeadlessUser hands(desktop);
-  return showDialog(options, desktop, hands);
+  script::HeadlessUser input(desktop);
+  return showDialog(options, desktop, input);
 }
 
 void init(const Options& options) {

@@ -89,7 +89,7 @@ script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray 
           .dialogResult = dialog.Result()};
 }
 
-ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& hands) {
+ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& input) {
   warnOfMissingForm(options);
   const ShowOptions& request = options.show;
   std::unique_ptr<std::ifstream> scriptFile;
@@ -121,7 +121,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   host.connection()->observer(&faults);
   std::istream& script = scriptFile ? *scriptFile : std::cin;
   std::ostream& transcript = transcriptFile ? *transcriptFile : std::cout;
-  ScriptedUser user(desktop, hands, host.world(), faults, script, transcript);
+  ScriptedUser user(desktop, input, host.outside(), faults, script, transcript);
   dialog.DblClick = [&](const Variant& key) { user.writeEvent(u"DblClick", key); };
   const script::ScriptedAuskunft auskunft(user);
   script::ShowOutcome outcome;

@@ -3,8 +3,8 @@
 // `zqn-dialog show`: one dialog on a desktop, for a person or for a script.
 //
 //     headless::HeadlessDesktop desktop;
-//     script::HeadlessUser hands(desktop);
-//     return showDialog(options, desktop, hands);
+//     script::HeadlessUser input(desktop);
+//     return showDialog(options, desktop, input);
 #pragma once
 
 #include "forms/desktop.h"
@@ -21,8 +21,8 @@ script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray 
 
 /// Opens the dialog of the options and returns when it is closed. The transcript goes where the options say;
 /// unless it goes to standard output the key is printed there, a text as it is, anything else as in JSON.
-/// With a script the hands act; without one they are not used. CommandFailure when the database or the files
-/// of the options cannot be opened.
-ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& hands);
+/// With a script its user acts by `input`; without one it is not used. CommandFailure when the database or the
+/// files of the options cannot be opened.
+ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& input);
 
 }  // namespace zqn::host

@@ -93,7 +93,7 @@ class List : public ::testing::Test {
 };
 
 /// A database with the sample in a folder of its own.
-class Desk : public ::testing::Test {
+class DeskWindowTest : public ::testing::Test {
  protected:
   void SetUp() override {
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
@@ -197,7 +197,7 @@ TEST_F(List, IsWalkedByTheArrowKeysFromTheSearchBox) {
   EXPECT_EQ(kind(), first);
 }
 
-TEST_F(Desk, WritesDownWhatShowReturned) {
+TEST_F(DeskWindowTest, WritesDownWhatShowReturned) {
   headless::HeadlessDesktop desktop;
   const Desktop::Scope scope(desktop);
   DeskWindow desk(options());
@@ -215,7 +215,7 @@ TEST_F(Desk, WritesDownWhatShowReturned) {
                                 "Result Empty", "Änderungen erlaubt"}));
 }
 
-TEST_F(Desk, OpensPaymentTypesOnTheGenericForm) {
+TEST_F(DeskWindowTest, OpensPaymentTypesOnTheGenericForm) {
   headless::HeadlessDesktop desktop;
   const Desktop::Scope scope(desktop);
   DeskWindow desk(options());
@@ -233,7 +233,7 @@ TEST_F(Desk, OpensPaymentTypesOnTheGenericForm) {
   EXPECT_EQ(log.topLevelItem(0)->child(1)->text(1), "\"LAS\"");
 }
 
-TEST_F(Desk, WritesDownEachPickAsItComes) {
+TEST_F(DeskWindowTest, WritesDownEachPickAsItComes) {
   headless::HeadlessDesktop desktop;
   const Desktop::Scope scope(desktop);
   HostOptions several = options();
@@ -259,7 +259,7 @@ TEST_F(Desk, WritesDownEachPickAsItComes) {
   EXPECT_GE(step, 2);
 }
 
-TEST_F(Desk, WritesTheSameCallForAProgramAndAShell) {
+TEST_F(DeskWindowTest, WritesTheSameCallForAProgramAndAShell) {
   DeskWindow desk(options());
   named<QLineEdit>(desk, "Dialog suchen").setText("stati");
   named<QLineEdit>(desk, "Schlüssel").setText("2 0");
@@ -270,7 +270,7 @@ TEST_F(Desk, WritesTheSameCallForAProgramAndAShell) {
             "zqn-dialog show 21 --db sqlite:" + file() + " -- '2 0'");
 }
 
-TEST_F(Desk, OffersTheImages) {
+TEST_F(DeskWindowTest, OffersTheImages) {
   DeskWindow desk(options());
   QString title;
   QTimer::singleShot(0, [&] {
@@ -283,7 +283,7 @@ TEST_F(Desk, OffersTheImages) {
   EXPECT_EQ(title, "Bilder");
 }
 
-TEST_F(Desk, NamesItsDatabaseAndItsUser) {
+TEST_F(DeskWindowTest, NamesItsDatabaseAndItsUser) {
   HostOptions admin = options();
   admin.admin = true;
   DeskWindow desk(admin);
@@ -292,7 +292,7 @@ TEST_F(Desk, NamesItsDatabaseAndItsUser) {
   EXPECT_TRUE(labels.contains("Benutzer: anna (Administrator)"));
 }
 
-TEST_F(Desk, ChangesTheUserAndTheRights) {
+TEST_F(DeskWindowTest, ChangesTheUserAndTheRights) {
   headless::HeadlessDesktop desktop;
   const Desktop::Scope scope(desktop);
   HostOptions restricted = options();
@@ -320,7 +320,7 @@ TEST_F(Desk, ChangesTheUserAndTheRights) {
   EXPECT_TRUE(labelsOf(desk).contains("Benutzer: berta"));
 }
 
-TEST_F(Desk, KeepsItsDatabaseWhenAnotherCannotBeOpened) {
+TEST_F(DeskWindowTest, KeepsItsDatabaseWhenAnotherCannotBeOpened) {
   DeskWindow desk(options());
   QString told;
   answerInput("DSN=nirgends;PWD=geheim", [&told] { told = textOfTheBox(); });
@@ -330,7 +330,7 @@ TEST_F(Desk, KeepsItsDatabaseWhenAnotherCannotBeOpened) {
   EXPECT_TRUE(labelsOf(desk).contains("Datenbank: " + folder.filePath("waren.sqlite")));
 }
 
-TEST_F(Desk, LivesOnWhenTheSettingsCannotBeRead) {
+TEST_F(DeskWindowTest, LivesOnWhenTheSettingsCannotBeRead) {
   openDatabase(DatabaseAddress::ofFile(file()))
       ->Execute(u"ALTER TABLE Einstellungen RENAME COLUMN Benutzer TO Niemand");
   DeskWindow desk(options());
@@ -340,7 +340,7 @@ TEST_F(Desk, LivesOnWhenTheSettingsCannotBeRead) {
   EXPECT_TRUE(told.startsWith("Die Einstellungen lassen sich nicht lesen.")) << told.toStdString();
 }
 
-TEST_F(Desk, ShowsTheSettingsAndWritesOnlyWhatWasChanged) {
+TEST_F(DeskWindowTest, ShowsTheSettingsAndWritesOnlyWhatWasChanged) {
   Host host(options());
   SettingsStore& store = host.session().settings();
   store.write({u"Probe", u"a", u""}, u"1");
@@ -368,7 +368,7 @@ TEST_F(Desk, ShowsTheSettingsAndWritesOnlyWhatWasChanged) {
   EXPECT_THAT(store.section(u"Probe", u"anna"), IsEmpty());
 }
 
-TEST_F(Desk, RemembersItsWindow) {
+TEST_F(DeskWindowTest, RemembersItsWindow) {
   {
     DeskWindow desk(options());
     desk.resize(700, 500);

@@ -22,48 +22,50 @@ void guarded(EventOwner& owner, StringView event, Act&& act) {
 
 }  // namespace
 
-void HeadlessUser::mouseDown(const Spot& spot) {
-  auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
-  guarded(spot.control, u"MouseDown", [&] {
+void HeadlessUser::mouseDown(const MouseTarget& target) {
+  auto* grid = dynamic_cast<FlexGrid*>(&target.control);
+  guarded(target.control, u"MouseDown", [&] {
     if (grid != nullptr) {
-      pressed_ = headless::pressOn(*grid, {spot.row, spot.col}, spot.button);
+      pressed_ = headless::pressOn(*grid, {target.row, target.col}, target.button);
       return;
     }
-    pressed_ = spot.control.form().mousePressed(spot.control);
-    auto* list = dynamic_cast<TDBList*>(&spot.control);
-    if (pressed_ && list != nullptr) list->userSelect(spot.row);
-    auto* rows = dynamic_cast<ListBox*>(&spot.control);
-    if (pressed_ && rows != nullptr) rows->userPressed(spot.row, spot.shift);
+    pressed_ = target.control.form().mousePressed(target.control);
+    auto* list = dynamic_cast<TDBList*>(&target.control);
+    if (pressed_ && list != nullptr) list->userSelect(target.row);
+    auto* rows = dynamic_cast<ListBox*>(&target.control);
+    if (pressed_ && rows != nullptr) rows->userPressed(target.row, target.shift);
   });
   twice_ = false;
 }
 
-void HeadlessUser::mouseMove(const Spot& spot) {
-  auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
+void HeadlessUser::mouseMove(const MouseTarget& target) {
+  auto* grid = dynamic_cast<FlexGrid*>(&target.control);
   if (!pressed_ || grid == nullptr) return;
-  guarded(spot.control, u"Scroll", [&] { headless::dragTo(*grid, {spot.row, spot.col}); });
+  guarded(target.control, u"Scroll", [&] { headless::dragTo(*grid, {target.row, target.col}); });
 }
 
-void HeadlessUser::mouseUp(const Spot& spot) {
+void HeadlessUser::mouseUp(const MouseTarget& target) {
   if (!pressed_) return;
   pressed_ = false;
-  auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
+  auto* grid = dynamic_cast<FlexGrid*>(&target.control);
   if (grid != nullptr)
-    guarded(spot.control, u"MouseUp", [&] { grid->userReleased({spot.row, spot.col}, spot.button, 0); });
-  if (spot.button != 1 || twice_) return;
-  guarded(spot.control, u"Click", [&] { spot.control.form().mouseReleased(spot.control); });
+    guarded(target.control, u"MouseUp", [&] {
+      grid->userReleased({target.row, target.col}, target.button, 0);
+    });
+  if (target.button != 1 || twice_) return;
+  guarded(target.control, u"Click", [&] { target.control.form().mouseReleased(target.control); });
 }
 
-void HeadlessUser::mouseDownAgain(const Spot& spot) {
-  guarded(spot.control, u"MouseDown", [&] {
-    const bool passes = spot.control.form().mousePressed(spot.control);
+void HeadlessUser::mouseDownAgain(const MouseTarget& target) {
+  guarded(target.control, u"MouseDown", [&] {
+    const bool passes = target.control.form().mousePressed(target.control);
     if (!passes) return;
-    if (auto* list = dynamic_cast<TDBList*>(&spot.control)) list->userDoubleClick(spot.row);
-    if (auto* rows = dynamic_cast<ListBox*>(&spot.control)) rows->userPressed(spot.row, spot.shift);
-    auto* grid = dynamic_cast<FlexGrid*>(&spot.control);
+    if (auto* list = dynamic_cast<TDBList*>(&target.control)) list->userDoubleClick(target.row);
+    if (auto* rows = dynamic_cast<ListBox*>(&target.control)) rows->userPressed(target.row, target.shift);
+    auto* grid = dynamic_cast<FlexGrid*>(&target.control);
     if (grid == nullptr) return;
     pressed_ = twice_ = true;
-    grid->userPressedTwice({spot.row, spot.col});
+    grid->userPressedTwice({target.row, target.col});
   });
 }
 

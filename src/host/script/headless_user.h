@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The scripted user's hands on the desktop without a screen: each movement goes to the form, in the calls
+// The scripted user's input on the desktop without a screen: each movement goes to the form, in the calls
 // that a window would make.
 #pragma once
 
@@ -13,10 +13,10 @@ class HeadlessUser : public UserInput {
  public:
   explicit HeadlessUser(headless::HeadlessDesktop& desktop) : desktop_(desktop) {}
 
-  void mouseDown(const Spot& spot) override;
-  void mouseMove(const Spot& spot) override;
-  void mouseUp(const Spot& spot) override;
-  void mouseDownAgain(const Spot& spot) override;
+  void mouseDown(const MouseTarget& target) override;
+  void mouseMove(const MouseTarget& target) override;
+  void mouseUp(const MouseTarget& target) override;
+  void mouseDownAgain(const MouseTarget& target) override;
   void takeEntry(Control& control, int entry) override;
   void takeItem(Menu& item) override { desktop_.take(&item); }
   void closeMenu() override { desktop_.take(nullptr); }

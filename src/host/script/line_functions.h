@@ -4,40 +4,40 @@
 #pragma once
 
 #include "host/script/arguments.h"
-#include "host/script/scene.h"
+#include "host/script/line_context.h"
 
 namespace zqn::script {
 
 namespace user {
-void click(const Scene& scene, const Arguments& line);
-void focus(const Scene& scene, const Arguments& line);
-void type(const Scene& scene, const Arguments& line);
-void key(const Scene& scene, const Arguments& line);
-void select(const Scene& scene, const Arguments& line);
-void dblclick(const Scene& scene, const Arguments& line);
-void mouse(const Scene& scene, const Arguments& line);
-void drag(const Scene& scene, const Arguments& line);
-void menu(const Scene& scene, const Arguments& line);
-void close(const Scene& scene, const Arguments& line);
-void answer(const Scene& scene, const Arguments& line);
-void wait(const Scene& scene, const Arguments& line);
+void click(const LineContext& context, const Arguments& line);
+void focus(const LineContext& context, const Arguments& line);
+void type(const LineContext& context, const Arguments& line);
+void key(const LineContext& context, const Arguments& line);
+void select(const LineContext& context, const Arguments& line);
+void dblclick(const LineContext& context, const Arguments& line);
+void mouse(const LineContext& context, const Arguments& line);
+void drag(const LineContext& context, const Arguments& line);
+void menu(const LineContext& context, const Arguments& line);
+void close(const LineContext& context, const Arguments& line);
+void answer(const LineContext& context, const Arguments& line);
+void wait(const LineContext& context, const Arguments& line);
 }  // namespace user
 
 namespace probe {
-void get(const Scene& scene, const Arguments& line);
-void list(const Scene& scene, const Arguments& line);
-void dump(const Scene& scene, const Arguments& line);
-void sql(const Scene& scene, const Arguments& line);
-void settings(const Scene& scene, const Arguments& line);
-void statements(const Scene& scene, const Arguments& line);
-void screenshot(const Scene& scene, const Arguments& line);
+void get(const LineContext& context, const Arguments& line);
+void list(const LineContext& context, const Arguments& line);
+void dump(const LineContext& context, const Arguments& line);
+void sql(const LineContext& context, const Arguments& line);
+void settings(const LineContext& context, const Arguments& line);
+void statements(const LineContext& context, const Arguments& line);
+void screenshot(const LineContext& context, const Arguments& line);
 }  // namespace probe
 
-namespace world {
-void exec(const Scene& scene, const Arguments& line);
-void setting(const Scene& scene, const Arguments& line);
-void auskunft(const Scene& scene, const Arguments& line);
-void fail(const Scene& scene, const Arguments& line);
-}  // namespace world
+namespace outside {
+void exec(const LineContext& context, const Arguments& line);
+void setting(const LineContext& context, const Arguments& line);
+void auskunft(const LineContext& context, const Arguments& line);
+void fail(const LineContext& context, const Arguments& line);
+}  // namespace outside
 
 }  // namespace zqn::script

@@ -7,24 +7,24 @@
 #include <span>
 
 #include "host/script/arguments.h"
-#include "host/script/scene.h"
+#include "host/script/line_context.h"
 
 namespace zqn::script {
 
-enum class Actor {
-  User,   ///< a person acts on the dialog
-  Probe,  ///< something is read and written to the transcript
-  World   ///< something changes around the dialog; takes effect before Show when it stands first
+enum class LineGroup {
+  User,    ///< a person acts on the dialog
+  Probe,   ///< something is read and written to the transcript
+  Outside  ///< something changes around the dialog; takes effect before Show when it stands first
 };
 
 struct LineKind {
   /// The member that names the line: {"click":...}.
   const char* name;
-  Actor actor;
+  LineGroup group;
   /// The other members that it may have.
   std::span<const char* const> members;
   /// ScriptError when the line is wrong, Refusal when the user cannot do that.
-  void (*run)(const Scene& scene, const Arguments& line);
+  void (*run)(const LineContext& context, const Arguments& line);
 };
 
 /// The kind of a line. ScriptError when it names none, or two, or has a member that its kind does not know.

@@ -106,7 +106,7 @@ TEST_F(ScriptedBox, MayComeWhileItsFormCloses) {
                      {"answer":"ok"})"),
               ElementsAre(HasSubstr("shown"), HasSubstr("Ende"),
                           R"({"refused":"a message box is open","action":{"click":"btnOK"}})",
-                          R"({"closed":"frmStage"})",
+                          R"({"closed":"frmSample"})",
                           R"({"refused":"no message box is open","action":{"answer":"ok"}})"));
 }
 

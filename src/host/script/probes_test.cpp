@@ -138,7 +138,7 @@ TEST_F(Probe, ScreenshotWritesNothingToTheTranscript) {
   const auto file = std::filesystem::temp_directory_path() / "zqn-script-bild.png";
   std::filesystem::remove(file);
   EXPECT_THAT(acts(R"({"screenshot":")" + file.string() + R"("})"), IsEmpty());
-  EXPECT_EQ(std::filesystem::exists(file), stage->hasScreen());
+  EXPECT_EQ(std::filesystem::exists(file), scriptDesktop->hasScreen());
   std::filesystem::remove(file);
 }
 

@@ -94,46 +94,46 @@ bool showsBox(const QMessageBox& window, const MessageBox& box) {
 
 // ---- mouse
 
-void QtUser::point(const Spot& spot) {
-  QWidget* const widget = desktop_.widgetOf(spot.control);
+void QtUser::point(const MouseTarget& target) {
+  QWidget* const widget = desktop_.widgetOf(target.control);
   if (auto* grid = dynamic_cast<qt::FlexGrid*>(widget)) {
-    grid->scrollToCell({spot.row, spot.col});
-    pointer_ = grid->placeOf({spot.row, spot.col}).value_or(grid->viewport()->rect().center());
+    grid->scrollToCell({target.row, target.col});
+    pointer_ = grid->placeOf({target.row, target.col}).value_or(grid->viewport()->rect().center());
     return;
   }
   auto* const table = qobject_cast<QTableView*>(widget);
   auto* const list = qobject_cast<QListWidget*>(widget);
-  if (table != nullptr && spot.row >= 0) {
-    pointer_ = placeOfRow(*table, spot.row);
-  } else if (list != nullptr && spot.row >= 0) {
-    pointer_ = placeOfRow(*list, spot.row);
+  if (table != nullptr && target.row >= 0) {
+    pointer_ = placeOfRow(*table, target.row);
+  } else if (list != nullptr && target.row >= 0) {
+    pointer_ = placeOfRow(*list, target.row);
   } else {
-    pointer_ = placeOn(*desktop_.mouseAreaOf(spot.control));
+    pointer_ = placeOn(*desktop_.mouseAreaOf(target.control));
   }
 }
 
-void QtUser::mouseDown(const Spot& spot) {
-  point(spot);
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonPress, pointer_, spot.button,
-            heldKeys(spot.shift));
+void QtUser::mouseDown(const MouseTarget& target) {
+  point(target);
+  sendMouse(*desktop_.mouseAreaOf(target.control), QEvent::MouseButtonPress, pointer_, target.button,
+            heldKeys(target.shift));
 }
 
-void QtUser::mouseMove(const Spot& spot) {
-  point(spot);
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseMove, pointer_, spot.button);
+void QtUser::mouseMove(const MouseTarget& target) {
+  point(target);
+  sendMouse(*desktop_.mouseAreaOf(target.control), QEvent::MouseMove, pointer_, target.button);
 }
 
-void QtUser::mouseUp(const Spot& spot) {
+void QtUser::mouseUp(const MouseTarget& target) {
   // A cell may have moved under the pointer meanwhile.
-  const auto* grid = dynamic_cast<qt::FlexGrid*>(desktop_.widgetOf(spot.control));
-  if (grid != nullptr) pointer_ = grid->placeOf({spot.row, spot.col}).value_or(pointer_);
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonRelease, pointer_, spot.button,
-            heldKeys(spot.shift));
+  const auto* grid = dynamic_cast<qt::FlexGrid*>(desktop_.widgetOf(target.control));
+  if (grid != nullptr) pointer_ = grid->placeOf({target.row, target.col}).value_or(pointer_);
+  sendMouse(*desktop_.mouseAreaOf(target.control), QEvent::MouseButtonRelease, pointer_, target.button,
+            heldKeys(target.shift));
 }
 
-void QtUser::mouseDownAgain(const Spot& spot) {
-  sendMouse(*desktop_.mouseAreaOf(spot.control), QEvent::MouseButtonDblClick, pointer_, spot.button,
-            heldKeys(spot.shift));
+void QtUser::mouseDownAgain(const MouseTarget& target) {
+  sendMouse(*desktop_.mouseAreaOf(target.control), QEvent::MouseButtonDblClick, pointer_, target.button,
+            heldKeys(target.shift));
 }
 
 void QtUser::takeEntry(Control& control, int entry) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The scripted user's hands on the desktop of Qt: real mouse and key events for the widgets, on Qt's
+// The scripted user's input on the desktop of Qt: real mouse and key events for the widgets, on Qt's
 // offscreen platform as well as on a display. The models are never touched.
 #pragma once
 
@@ -15,10 +15,10 @@ class QtUser : public UserInput {
  public:
   explicit QtUser(qt::QtDesktop& desktop) : desktop_(desktop) {}
 
-  void mouseDown(const Spot& spot) override;
-  void mouseMove(const Spot& spot) override;
-  void mouseUp(const Spot& spot) override;
-  void mouseDownAgain(const Spot& spot) override;
+  void mouseDown(const MouseTarget& target) override;
+  void mouseMove(const MouseTarget& target) override;
+  void mouseUp(const MouseTarget& target) override;
+  void mouseDownAgain(const MouseTarget& target) override;
   void takeEntry(Control& control, int entry) override;
   void takeItem(Menu& item) override;
   void closeMenu() override;
@@ -30,7 +30,7 @@ class QtUser : public UserInput {
   std::vector<String> differences(Form& form) override;
 
  private:
-  void point(const Spot& spot);
+  void point(const MouseTarget& target);
 
   qt::QtDesktop& desktop_;
   /// Where the pointer is, in the widget: a button comes up there, wherever a list has scrolled meanwhile.

@@ -37,7 +37,7 @@ class Ear : public QObject {
 
 class OnTheWindow : public ScriptTest {
  protected:
-  qt::QtDesktop& desktop() { return dynamic_cast<qt::QtDesktop&>(stage->desktop()); }
+  qt::QtDesktop& desktop() { return dynamic_cast<qt::QtDesktop&>(scriptDesktop->desktop()); }
 };
 
 TEST_F(OnTheWindow, ActionsAreEventsOfTheWidgets) {
@@ -78,7 +78,7 @@ TEST_F(OnTheWindow, AWidgetThatShowsSomethingElseEndsTheScript) {
 }
 
 TEST_F(OnTheWindow, AFormBehindAnotherIsLookedAtToo) {
-  frmStage second;
+  frmSample second;
   form.btnOK.Click = [&] { second.Show(); };
   second.btnOK.Click = [&] {
     auto& label = dynamic_cast<QLabel&>(*desktop().widgetOf(form.lblSecond));

@@ -29,11 +29,11 @@ TEST_F(ScriptEnd, AnswersBoxesWithTheirDefault) {
 }
 
 TEST_F(ScriptEnd, ClosesNestedFormsFromTheTop) {
-  frmStage second;
+  frmSample second;
   second.Caption(u"Zweite");
   form.btnOK.Click = [&] { second.Show(); };
   EXPECT_THAT(acts(R"({"click":"btnOK"})"),
-              ElementsAre(R"({"shown":"frmStage","caption":"Zweite"})", R"({"closed":"frmStage"})"));
+              ElementsAre(R"({"shown":"frmSample","caption":"Zweite"})", R"({"closed":"frmSample"})"));
 }
 
 TEST_F(ScriptEnd, PressesTheCancelButtonOfAFormThatRefusesItsCloseBox) {
@@ -55,7 +55,7 @@ TEST_F(ScriptEnd, PressesTheCancelButtonOfAFormThatRefusesItsCloseBox) {
 TEST_F(ScriptEnd, IsAnErrorWhenAFormCannotBeClosedAtAll) {
   form.QueryUnload = [](int& cancel, int) { cancel = 1; };
   EXPECT_THAT(run(R"({"get":[]})"), ElementsAre(HasSubstr("shown"), HasSubstr("values"),
-                                                R"({"scriptError":"line 1: frmStage refuses to close"})"));
+                                                R"({"scriptError":"line 1: frmSample refuses to close"})"));
   EXPECT_TRUE(failed);
   EXPECT_FALSE(form.Visible());
 }
@@ -63,7 +63,7 @@ TEST_F(ScriptEnd, IsAnErrorWhenAFormCannotBeClosedAtAll) {
 TEST_F(ScriptEnd, WritesTheResultLast) {
   std::istringstream script;
   std::ostringstream transcript;
-  ScriptedUser person(stage->desktop(), stage->input(), {}, faults, script, transcript);
+  ScriptedUser person(scriptDesktop->desktop(), scriptDesktop->input(), {}, faults, script, transcript);
   person.writeEvent(u"DblClick", Variant(u"10"));
   person.writeResult(
       {.returned = Variant(u"10"),
@@ -82,7 +82,7 @@ TEST_F(ScriptEnd, OfATranscriptThatCannotBeWrittenEndsTheScript) {
   transcript.setstate(std::ios::badbit);
   int clicks = 0;
   form.btnOK.Click = [&] { ++clicks; };
-  ScriptedUser person(stage->desktop(), stage->input(), {}, faults, script, transcript);
+  ScriptedUser person(scriptDesktop->desktop(), scriptDesktop->input(), {}, faults, script, transcript);
   person.prepare();
   form.Show();
   EXPECT_TRUE(person.failed());
@@ -141,7 +141,7 @@ TEST_F(ScriptErrors, AnswerAnOpenQuestionInTheNegative) {
 }
 
 TEST_F(ScriptErrors, InsideNestedFormsCloseAllOfThem) {
-  frmStage second;
+  frmSample second;
   form.btnOK.Click = [&] { second.Show(); };
   run(R"({"click":"btnOK"}
          {"click":"nirgends"})");
@@ -160,10 +160,10 @@ TEST_F(ScriptErrors, NameTheLineAndWhatWouldBeRight) {
       errorOf("{}"),
       "line 2: unknown action; there is click, focus, type, key, select, dblclick, mouse, drag, menu, close, "
       "answer, wait, get, list, dump, sql, settings, statements, screenshot, exec, setting, auskunft, fail");
-  EXPECT_EQ(errorOf(R"({"click":"btnOk2"})"), "line 2: frmStage has no control \"btnOk2\"; it has " + names);
-  EXPECT_EQ(errorOf(R"({"list":"Label1"})"), "line 2: frmStage has no control \"Label1\"; it has " + names);
+  EXPECT_EQ(errorOf(R"({"click":"btnOk2"})"), "line 2: frmSample has no control \"btnOk2\"; it has " + names);
+  EXPECT_EQ(errorOf(R"({"list":"Label1"})"), "line 2: frmSample has no control \"Label1\"; it has " + names);
   EXPECT_EQ(errorOf(R"({"mouse":"MSHFlexGrid1","row":1,"col":1})"),
-            "line 2: frmStage has no control \"MSHFlexGrid1\"; it has " + names);
+            "line 2: frmSample has no control \"MSHFlexGrid1\"; it has " + names);
   EXPECT_EQ(errorOf(R"({"click":7})"), R"(line 2: "click" must be a text)");
   EXPECT_EQ(errorOf(R"({"click":"btnOK","type":"x"})"), R"(line 2: unknown member "type"; there is "click")");
   EXPECT_EQ(errorOf(R"({"select":"TDBList1"})"),
@@ -187,7 +187,7 @@ TEST_F(ScriptErrors, NameTheLineAndWhatWouldBeRight) {
   EXPECT_EQ(errorOf(R"({"get":["txtKey.Txt"]})"), R"(line 2: a TextBox has no property "Txt")");
   EXPECT_EQ(errorOf(R"({"get":["Form.Txt"]})"), R"(line 2: a form has no property "Txt")");
   EXPECT_EQ(errorOf(R"({"get":["nirgends.Text"]})"),
-            "line 2: frmStage has no control \"nirgends\"; it has " + names);
+            "line 2: frmSample has no control \"nirgends\"; it has " + names);
   EXPECT_EQ(errorOf(R"({"list":"txtKey"})"), "line 2: txtKey is a TextBox and has no rows");
   EXPECT_EQ(errorOf(R"({"dump":1})"), R"(line 2: "dump" must be true)");
   EXPECT_EQ(errorOf(R"({"fail":{"operation":"Delete","number":5}})"),
@@ -262,7 +262,7 @@ TEST_F(ScriptText, IsReadOnlyAsFarAsItIsNeeded) {
   std::ostringstream transcript;
   std::streamoff position = 0;
   form.btnOK.Click = [&] { position = script.tellg(); };
-  ScriptedUser person(stage->desktop(), stage->input(), {}, faults, script, transcript);
+  ScriptedUser person(scriptDesktop->desktop(), scriptDesktop->input(), {}, faults, script, transcript);
   person.prepare();
   form.Show();
   EXPECT_EQ(position, 29);

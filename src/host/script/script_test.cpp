@@ -27,7 +27,7 @@ constexpr ControlDesign roster[] = {
 };
 // clang-format on
 
-constexpr FormDesign design{u"frmStage", u"Bühne", 5400, 3300, roster};
+constexpr FormDesign design{u"frmSample", u"Bühne", 5400, 3300, roster};
 
 std::filesystem::path freshFolder() {
   std::random_device random;
@@ -36,11 +36,11 @@ std::filesystem::path freshFolder() {
   return folder;
 }
 
-ScriptWorld::Rows rowsOf(const Ref<ado::Connection>& connection, StringView statement) {
+OutsideAccess::Rows rowsOf(const Ref<ado::Connection>& connection, StringView statement) {
   ado::Recordset rs;
   rs.CursorLocation(ado::adUseClient);
   rs.Open(statement, connection, ado::adOpenStatic);
-  ScriptWorld::Rows rows;
+  OutsideAccess::Rows rows;
   for (; !rs.IsEOF(); rs.MoveNext()) {
     std::vector<Variant>& row = rows.emplace_back();
     for (int i = 0; i < rs.Fields().Count(); ++i) row.push_back(rs.Fields(i).Value());
@@ -50,13 +50,13 @@ ScriptWorld::Rows rowsOf(const Ref<ado::Connection>& connection, StringView stat
 
 }  // namespace
 
-frmStage::frmStage() : Form(design) {
+frmSample::frmSample() : Form(design) {
   btnCancel.Click = [this] { UnloadMe(); };
 }
 
 ScriptTest::ScriptTest() : folder_(freshFolder()) {
-  connection = ado::openSqlite(folder_ / "stage.db");
-  second_ = ado::openSqlite(folder_ / "stage.db");
+  connection = ado::openSqlite(folder_ / "stati.db");
+  second_ = ado::openSqlite(folder_ / "stati.db");
   connection->Execute(
       u"CREATE TABLE Stati (Status VARCHAR(3) COLLATE ZQN_TEXT PRIMARY KEY, Name VARCHAR(30) COLLATE "
       u"ZQN_TEXT, "
@@ -80,13 +80,13 @@ void ScriptTest::bindList() {
   form.TDBList1.DataSource(rs);
 }
 
-ScriptWorld ScriptTest::world() {
+OutsideAccess ScriptTest::outside() {
   return {.query = [this](StringView statement) { return rowsOf(second_, statement); },
           .execute = [this](StringView statement) { second_->Execute(statement); },
           .saveSetting = [this](const Setting& setting) { settings.push_back(setting); },
           .settings =
               [this](StringView section) {
-                ScriptWorld::Settings found;
+                OutsideAccess::Settings found;
                 for (const Setting& each : settings) {
                   if (each.section == section) found.emplace_back(each.key, each.value);
                 }
@@ -98,7 +98,7 @@ ScriptTest::Lines ScriptTest::run(const std::string& script, const std::function
   std::istringstream in(script);
   std::ostringstream out;
   {
-    ScriptedUser person(stage->desktop(), stage->input(), world(), faults, in, out);
+    ScriptedUser person(scriptDesktop->desktop(), scriptDesktop->input(), outside(), faults, in, out);
     user = &person;
     person.prepare();
     if (show) {
@@ -118,8 +118,8 @@ ScriptTest::Lines ScriptTest::run(const std::string& script, const std::function
 
 ScriptTest::Lines ScriptTest::acts(const std::string& script) {
   Lines lines = run(script);
-  const bool whole = lines.size() >= 2 && lines.front() == R"({"shown":"frmStage","caption":"Bühne"})" &&
-                     lines.back() == R"({"closed":"frmStage"})";
+  const bool whole = lines.size() >= 2 && lines.front() == R"({"shown":"frmSample","caption":"Bühne"})" &&
+                     lines.back() == R"({"closed":"frmSample"})";
   if (!whole) {
     ADD_FAILURE() << "the form did not open and close: " << ::testing::PrintToString(lines);
     return lines;

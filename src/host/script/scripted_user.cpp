@@ -19,18 +19,19 @@ MsgBoxResult defaultAnswer(const MessageBox& box) {
 
 }  // namespace
 
-ScriptedUser::ScriptedUser(Desktop& desktop, UserInput& input, ScriptWorld world, FaultInjector& faults,
+ScriptedUser::ScriptedUser(Desktop& desktop, UserInput& input, OutsideAccess outside, FaultInjector& faults,
                            std::istream& script, std::ostream& transcript)
     : desktop_(desktop),
       input_(input),
-      world_(std::move(world)),
-      hands_(desktop, input),
-      scene_{desktop, input, hands_, world_, faults, auskunft_, [this](const Json& line) { write(line); }},
+      outside_(std::move(outside)),
+      gestures_(desktop, input),
+      context_{
+          desktop, input, gestures_, outside_, faults, auskunft_, [this](const Json& line) { write(line); }},
       reader_(script),
       transcript_(transcript) {
   desktop_.addListener(this);
   desktop_.whenIdle([this] { step(); });
-  desktop_.clock([this] { return hands_.time(); });
+  desktop_.clock([this] { return gestures_.time(); });
 }
 
 ScriptedUser::~ScriptedUser() {
@@ -43,7 +44,7 @@ ScriptedUser::~ScriptedUser() {
 
 void ScriptedUser::prepare() {
   while (std::optional<PendingLine> pending = nextLine()) {
-    if (pending->kind->actor != Actor::World) {
+    if (pending->kind->group != LineGroup::Outside) {
       ahead_ = std::move(pending);
       return;
     }
@@ -56,11 +57,11 @@ void ScriptedUser::finish() {
 }
 
 void ScriptedUser::step() {
-  if (hands_.letGo()) return;
-  if (failed_) return goHome();
-  if (hands_.restOn() || hands_.typeOn()) return;
+  if (gestures_.letGo()) return;
+  if (failed_) return closeWhatIsOpen();
+  if (gestures_.restOn() || gestures_.typeOn()) return;
   if (const std::optional<PendingLine> pending = nextLine()) return run(*pending);
-  goHome();
+  closeWhatIsOpen();
 }
 
 std::optional<ScriptedUser::PendingLine> ScriptedUser::nextLine() {
@@ -80,7 +81,7 @@ std::optional<ScriptedUser::PendingLine> ScriptedUser::nextLine() {
 void ScriptedUser::run(const PendingLine& pending) {
   const ScriptLine& line = pending.line;
   try {
-    pending.kind->run(scene_, Arguments(line.json));
+    pending.kind->run(context_, Arguments(line.json));
   } catch (const Refusal& refusal) {
     write(refusedLine(refusal.what(), line.json));
   } catch (const ScriptError& wrong) {
@@ -92,7 +93,7 @@ void ScriptedUser::run(const PendingLine& pending) {
 
 // ---- the end of the script
 
-void ScriptedUser::goHome() {
+void ScriptedUser::closeWhatIsOpen() {
   if (const MessageBox* box = desktop_.openMessageBox())
     return input_.answer(failed_ ? box->buttons().back() : defaultAnswer(*box));
   if (desktop_.openPopupMenu() != nullptr) return input_.closeMenu();
@@ -103,7 +104,7 @@ void ScriptedUser::goHome() {
     case 0:
       return input_.closeBox(*form);
     case 1:
-      if (Control* button = headless::cancelButton(*form)) return hands_.click({*button});
+      if (Control* button = headless::cancelButton(*form)) return gestures_.click({*button});
       [[fallthrough]];
     default:
       return fail(reader_.lineNumber(), toUtf8(form->Name()) + " refuses to close");
@@ -148,25 +149,25 @@ void ScriptedUser::writeEvent(StringView event, const Variant& result) { write(e
 void ScriptedUser::writeAuskunft(StringView name, StringView title) { write(auskunftLine(name, title)); }
 
 void ScriptedUser::formShown(Form& form) {
-  hands_.somethingOpened();
+  gestures_.somethingOpened();
   open_.push_back(&form);
   write(shownLine(form));
 }
 
 void ScriptedUser::formClosed(Form& form) {
-  hands_.formClosed(form);
+  gestures_.formClosed(form);
   std::erase(open_, &form);
   closings_.erase(&form);
   write(closedLine(form));
 }
 
 void ScriptedUser::messageBoxOpened(const MessageBox& box) {
-  hands_.somethingOpened();
+  gestures_.somethingOpened();
   write(messageBoxLine(box));
 }
 
 void ScriptedUser::popupMenuOpened(const Menu& menu) {
-  hands_.somethingOpened();
+  gestures_.somethingOpened();
   write(popupLine(menu));
 }
 

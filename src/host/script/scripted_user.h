@@ -3,7 +3,7 @@
 // A person who acts by a script, and the transcript of what happens. The script is read line by line, one
 // line each time the desktop has nothing left to do, so each action sees what the one before has come to.
 //
-//     ScriptedUser user(desktop, input, world, faults, script, transcript);
+//     ScriptedUser user(desktop, input, outside, faults, script, transcript);
 //     user.prepare();
 //     if (!user.failed()) dialog.Show(kind, param);
 //     user.finish();
@@ -22,26 +22,26 @@
 
 #include "forms/desktop.h"
 #include "host/script/fault_injector.h"
-#include "host/script/hands.h"
+#include "host/script/gestures.h"
+#include "host/script/line_context.h"
 #include "host/script/line_kinds.h"
-#include "host/script/scene.h"
+#include "host/script/outside_access.h"
 #include "host/script/script_reader.h"
 #include "host/script/transcript_lines.h"
-#include "host/script/world.h"
 
 namespace zqn::script {
 
 class ScriptedUser : public DesktopListener {
  public:
   /// Takes over the desktop's idle step until the end of its own life. The references must outlive it;
-  /// `faults` is to watch the connection of the dialogs. All functions of `world` must be set.
-  ScriptedUser(Desktop& desktop, UserInput& input, ScriptWorld world, FaultInjector& faults,
+  /// `faults` is to watch the connection of the dialogs. All functions of `outside` must be set.
+  ScriptedUser(Desktop& desktop, UserInput& input, OutsideAccess outside, FaultInjector& faults,
                std::istream& script, std::ostream& transcript);
   ~ScriptedUser() override;
   ScriptedUser(const ScriptedUser&) = delete;
   ScriptedUser& operator=(const ScriptedUser&) = delete;
 
-  /// Before Show: runs the lines about the world that stand before the first user action or probe.
+  /// Before Show: runs the lines about what lies outside the dialog, up to the first user action or probe.
   void prepare();
   /// After Show: runs what is left of the script; nothing is open, so user actions are refused.
   void finish();
@@ -72,7 +72,7 @@ class ScriptedUser : public DesktopListener {
   void step();
   std::optional<PendingLine> nextLine();
   void run(const PendingLine& pending);
-  void goHome();
+  void closeWhatIsOpen();
   void closeWithoutAsking(Form& form);
   void write(const Json& line);
   void put(const Json& line);
@@ -80,10 +80,10 @@ class ScriptedUser : public DesktopListener {
 
   Desktop& desktop_;
   UserInput& input_;
-  ScriptWorld world_;
-  Hands hands_;
+  OutsideAccess outside_;
+  Gestures gestures_;
   AuskunftAnswer auskunft_;
-  Scene scene_;
+  LineContext context_;
   ScriptReader reader_;
   std::ostream& transcript_;
   /// Read by prepare, to be run when the form stands open.

@@ -6,7 +6,7 @@
 
 #include "forms/drop_down.h"
 #include "forms/flex_grid.h"
-#include "host/script/control_kinds.h"
+#include "host/script/control_traits.h"
 #include "host/script/key_names.h"
 #include "host/script/line_functions.h"
 #include "host/script/script_error.h"
@@ -22,12 +22,12 @@ constexpr std::array<std::pair<const char*, MsgBoxResult>, 4> answers{{{"ok", Ms
 
 struct MouseEvent {
   std::string_view name;
-  void (Hands::*act)(const Spot&);
+  void (Gestures::*act)(const MouseTarget&);
 };
-constexpr std::array<MouseEvent, 4> mouseEvents{{{"down", &Hands::mouseDown},
-                                                 {"up", &Hands::mouseUp},
-                                                 {"click", &Hands::click},
-                                                 {"dblclick", &Hands::doubleClick}}};
+constexpr std::array<MouseEvent, 4> mouseEvents{{{"down", &Gestures::mouseDown},
+                                                 {"up", &Gestures::mouseUp},
+                                                 {"click", &Gestures::click},
+                                                 {"dblclick", &Gestures::doubleClick}}};
 
 std::string describe(const Control& control) { return nameOf(control) + " is a " + kindOf(control); }
 
@@ -39,8 +39,8 @@ int freeColumn(const FlexGrid& grid) {
 }
 
 /// A row of a control that a person can click on.
-Spot rowSpot(const Scene& scene, const std::string& name, int row) {
-  Control& control = scene.usableControl(name);
+MouseTarget rowTarget(const LineContext& context, const std::string& name, int row) {
+  Control& control = context.usableControl(name);
   const RowAccess* rows = traitsOf(control).rows;
   if (rows == nullptr || rows->inDropDown) throw Refusal(describe(control) + " and has no rows to click on");
   if (!rows->hasRow(control, row)) throw Refusal(nameOf(control) + " has no row " + std::to_string(row));
@@ -48,7 +48,7 @@ Spot rowSpot(const Scene& scene, const std::string& name, int row) {
   return {control, row, grid != nullptr ? freeColumn(*grid) : -1};
 }
 
-Spot spotOf(Control& control) {
+MouseTarget targetOf(Control& control) {
   const auto* grid = dynamic_cast<const FlexGrid*>(&control);
   if (grid != nullptr && grid->Rows() > 0)
     return {control, std::max(grid->Row(), std::min(grid->FixedRows(), grid->Rows() - 1)), freeColumn(*grid)};
@@ -57,7 +57,7 @@ Spot spotOf(Control& control) {
 }
 
 /// A cell of a grid, or a place beside its cells, that a person can point at.
-Spot cellSpot(FlexGrid& grid, int row, int col, int button) {
+MouseTarget cellTarget(FlexGrid& grid, int row, int col, int button) {
   if (row < -1 || row >= grid.Rows()) throw Refusal(nameOf(grid) + " has no row " + std::to_string(row));
   if (col < -1 || col >= grid.Cols()) throw Refusal(nameOf(grid) + " has no column " + std::to_string(col));
   if (col >= 0 && grid.ColWidth(col) <= 0)
@@ -70,8 +70,8 @@ Spot cellSpot(FlexGrid& grid, int row, int col, int button) {
   return {grid, row, col, button};
 }
 
-FlexGrid& usableGrid(const Scene& scene, const std::string& name) {
-  Control& control = scene.usableControl(name);
+FlexGrid& usableGrid(const LineContext& context, const std::string& name) {
+  Control& control = context.usableControl(name);
   auto* grid = dynamic_cast<FlexGrid*>(&control);
   if (grid == nullptr) throw Refusal(describe(control) + ", which is no grid");
   return *grid;
@@ -88,87 +88,88 @@ std::pair<int, int> cellOf(const Arguments& line, const char* member) {
 }
 
 /// Takes an entry of a drop-down by its number or its text.
-void selectEntry(const Scene& scene, const Arguments& line) {
+void selectEntry(const LineContext& context, const Arguments& line) {
   const int index = line.wholeNumber("index", std::int32_t{-1});
   const std::string text = line.text("text", "");
-  Control& control = scene.usableControl(line.text("select"));
+  Control& control = context.usableControl(line.text("select"));
   const RowAccess* rows = traitsOf(control).rows;
   if (rows == nullptr || !rows->inDropDown) throw Refusal(describe(control) + ", which is no drop-down");
   const int entry = line.has("index") ? index : rows->rowOfText(control, fromUtf8(text));
   if (!rows->hasRow(control, entry))
     throw Refusal(nameOf(control) + " has no entry " + line.any(line.has("index") ? "index" : "text").dump());
-  scene.input.takeEntry(control, entry);
+  context.input.takeEntry(control, entry);
 }
 
 /// Leaves exactly these rows of a list selected: a click on the first, and one with Ctrl on each other.
-void selectRows(const Scene& scene, const Arguments& line) {
+void selectRows(const LineContext& context, const Arguments& line) {
   const std::vector<int> rows = line.wholeNumbers("rows");
   const std::string name = line.text("select");
-  Control& control = scene.usableControl(name);
+  Control& control = context.usableControl(name);
   if (control.kind() != ControlKind::ListBox)
     throw Refusal(describe(control) + ", which takes no several rows");
-  for (const int row : rows) rowSpot(scene, name, row);
+  for (const int row : rows) rowTarget(context, name, row);
   if (rows.empty()) {
     // A click selects one row alone, a second one with Ctrl takes it out.
     if (!traitsOf(control).rows->hasRow(control, 0)) return;
-    scene.hands.click({.control = control, .row = 0});
-    return scene.hands.click({.control = control, .row = 0, .shift = shift::Ctrl});
+    context.gestures.click({.control = control, .row = 0});
+    return context.gestures.click({.control = control, .row = 0, .shift = shift::Ctrl});
   }
   for (const int row : rows) {
     const int held = row == rows.front() ? shift::None : shift::Ctrl;
-    scene.hands.click({.control = control, .row = row, .shift = held});
+    context.gestures.click({.control = control, .row = row, .shift = held});
   }
 }
 
 }  // namespace
 
-void click(const Scene& scene, const Arguments& line) {
-  scene.hands.click(spotOf(scene.usableControl(line.text("click"))));
+void click(const LineContext& context, const Arguments& line) {
+  context.gestures.click(targetOf(context.usableControl(line.text("click"))));
 }
 
-void focus(const Scene& scene, const Arguments& line) {
-  Control& control = scene.usableControl(line.text("focus"));
+void focus(const LineContext& context, const Arguments& line) {
+  Control& control = context.usableControl(line.text("focus"));
   if (!traitsOf(control).entry) throw Refusal(describe(control) + ", which is no entry control");
-  scene.hands.click(spotOf(control));
+  context.gestures.click(targetOf(control));
   // A click opens a drop-down; another one closes it again.
   const auto* drop = dynamic_cast<const DropDown*>(&control);
-  if (drop != nullptr && drop->isOpen()) scene.hands.click(spotOf(control));
+  if (drop != nullptr && drop->isOpen()) context.gestures.click(targetOf(control));
 }
 
-void type(const Scene& scene, const Arguments& line) {
+void type(const LineContext& context, const Arguments& line) {
   const std::string text = line.text("type");
-  scene.hands.type(scene.usableForm(), keysThatType(fromUtf8(text)));
+  context.gestures.type(context.usableForm(), keysThatType(fromUtf8(text)));
 }
 
-void key(const Scene& scene, const Arguments& line) {
+void key(const LineContext& context, const Arguments& line) {
   const std::string name = line.text("key");
   const int shift = line.has("shift") ? line.wholeNumber("shift", 0, 7) : 0;
   const std::optional<Key> key = keyOfName(name, shift);
   if (!key) throw ScriptError("unknown key \"" + name + "\"; there is one character, " + keyNames());
-  const bool overMenu = scene.desktop.openPopupMenu() != nullptr && scene.desktop.openMessageBox() == nullptr;
-  if (overMenu && key->code == key::Escape) return scene.input.closeMenu();
-  scene.hands.press(scene.usableForm(), *key);
+  const bool overMenu =
+      context.desktop.openPopupMenu() != nullptr && context.desktop.openMessageBox() == nullptr;
+  if (overMenu && key->code == key::Escape) return context.input.closeMenu();
+  context.gestures.press(context.usableForm(), *key);
 }
 
-void select(const Scene& scene, const Arguments& line) {
+void select(const LineContext& context, const Arguments& line) {
   if (line.has("row")) {
     const int row = line.wholeNumber("row");
-    scene.hands.click(rowSpot(scene, line.text("select"), row));
+    context.gestures.click(rowTarget(context, line.text("select"), row));
   } else if (line.has("index") || line.has("text")) {
-    selectEntry(scene, line);
+    selectEntry(context, line);
   } else if (line.has("rows")) {
-    selectRows(scene, line);
+    selectRows(context, line);
   } else {
     throw ScriptError(R"("select" needs "row", "rows", "index" or "text")");
   }
 }
 
-void dblclick(const Scene& scene, const Arguments& line) {
+void dblclick(const LineContext& context, const Arguments& line) {
   const int row = line.wholeNumber("row");
-  scene.hands.doubleClick(rowSpot(scene, line.text("dblclick"), row));
+  context.gestures.doubleClick(rowTarget(context, line.text("dblclick"), row));
 }
 
-void mouse(const Scene& scene, const Arguments& line) {
+void mouse(const LineContext& context, const Arguments& line) {
   const std::string name = line.text("mouse");
   const int row = line.wholeNumber("row");
   const int col = line.wholeNumber("col");
@@ -177,56 +178,57 @@ void mouse(const Scene& scene, const Arguments& line) {
   const auto known = std::ranges::find(mouseEvents, event, &MouseEvent::name);
   if (known == mouseEvents.end())
     throw ScriptError("unknown event \"" + event + "\"; there is down, up, click, dblclick");
-  (scene.hands.*known->act)(cellSpot(usableGrid(scene, name), row, col, button));
+  (context.gestures.*known->act)(cellTarget(usableGrid(context, name), row, col, button));
 }
 
-void drag(const Scene& scene, const Arguments& line) {
+void drag(const LineContext& context, const Arguments& line) {
   const std::string name = line.text("drag");
   const auto from = cellOf(line, "from");
   const auto to = cellOf(line, "to");
-  FlexGrid& grid = usableGrid(scene, name);
-  scene.hands.drag(cellSpot(grid, from.first, from.second, 1), cellSpot(grid, to.first, to.second, 1));
+  FlexGrid& grid = usableGrid(context, name);
+  context.gestures.drag(cellTarget(grid, from.first, from.second, 1),
+                        cellTarget(grid, to.first, to.second, 1));
 }
 
-void menu(const Scene& scene, const Arguments& line) {
+void menu(const LineContext& context, const Arguments& line) {
   const std::string name = line.text("menu");
-  const Menu* open = scene.desktop.openPopupMenu();
+  const Menu* open = context.desktop.openPopupMenu();
   if (open == nullptr) {
-    scene.usableForm();
+    context.usableForm();
     throw Refusal("no popup menu is open");
   }
   const std::vector<Menu*> items = open->items();
   const auto item = std::ranges::find_if(items, [&](const Menu* each) { return nameOf(*each) == name; });
   if (item == items.end()) throw Refusal("the popup menu has no item \"" + name + "\"");
   if (!(*item)->Enabled()) throw Refusal(name + " is disabled");
-  scene.input.takeItem(**item);
+  context.input.takeItem(**item);
 }
 
-void close(const Scene& scene, const Arguments& line) {
+void close(const LineContext& context, const Arguments& line) {
   line.requireTrue("close");
-  scene.input.closeBox(scene.usableForm());
+  context.input.closeBox(context.usableForm());
 }
 
-void answer(const Scene& scene, const Arguments& line) {
+void answer(const LineContext& context, const Arguments& line) {
   const std::string word = line.text("answer");
   const auto named = std::ranges::find_if(answers, [&](const auto& each) { return word == each.first; });
   const bool byDefault = word == "default";
   if (named == answers.end() && !byDefault)
     throw ScriptError("unknown answer \"" + word + "\"; there is ok, yes, no, cancel, default");
-  const MessageBox* box = scene.desktop.openMessageBox();
+  const MessageBox* box = context.desktop.openMessageBox();
   if (box == nullptr) throw Refusal("no message box is open");
   const std::vector<MsgBoxResult> buttons = box->buttons();
   const auto button =
       byDefault ? buttons.begin() + (box->defaultButton() - 1) : std::ranges::find(buttons, named->second);
   if (button == buttons.end()) throw Refusal("the message box has no button \"" + word + "\"");
-  scene.input.answer(*button);
+  context.input.answer(*button);
 }
 
-void wait(const Scene& scene, const Arguments& line) {
+void wait(const LineContext& context, const Arguments& line) {
   constexpr int hour = 3'600'000;
   const std::chrono::milliseconds time(line.wholeNumber("wait", 0, hour));
-  scene.form();
-  scene.hands.rest(time);
+  context.form();
+  context.gestures.rest(time);
 }
 
 }  // namespace zqn::script::user

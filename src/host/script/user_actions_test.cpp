@@ -42,7 +42,7 @@ TEST_F(UserAction, ClickSwitchesACheckBoxAndNeverToGrey) {
 
 TEST_F(UserAction, ClickThatClosesTheFormEndsIt) {
   EXPECT_THAT(run(R"({"click":"btnCancel"})"),
-              ElementsAre(R"({"shown":"frmStage","caption":"Bühne"})", R"({"closed":"frmStage"})"));
+              ElementsAre(R"({"shown":"frmSample","caption":"Bühne"})", R"({"closed":"frmSample"})"));
   EXPECT_FALSE(failed);
 }
 
@@ -142,7 +142,7 @@ TEST_F(UserAction, KeysQueuedByAHandlerRunBeforeTheNextKeyTyped) {
   form.KeyPress = [&](int& character) {
     if (character != key::Enter) return;
     character = 0;
-    stage->desktop().sendKeys(u"{Tab}");
+    scriptDesktop->desktop().sendKeys(u"{Tab}");
   };
   EXPECT_THAT(
       acts(R"({"focus":"txtKey"}
@@ -213,12 +213,12 @@ TEST_F(UserAction, TabGoesForwardAndBackward) {
 TEST_F(UserAction, EscapePressesTheCancelButton) {
   EXPECT_THAT(run(R"({"key":"Escape"}
                      {"type":"x"})"),
-              ElementsAre(R"({"shown":"frmStage","caption":"Bühne"})", R"({"closed":"frmStage"})",
+              ElementsAre(R"({"shown":"frmSample","caption":"Bühne"})", R"({"closed":"frmSample"})",
                           R"({"refused":"no form is open","action":{"type":"x"}})"));
 }
 
 TEST_F(UserAction, AFormThatAKeyOpensGetsThatKeysRelease) {
-  frmStage second;
+  frmSample second;
   std::vector<std::string> released;
   form.KeyUp = [&](int code, int) { released.push_back("first " + std::to_string(code)); };
   second.KeyUp = [&](int code, int) { released.push_back("second " + std::to_string(code)); };
@@ -262,7 +262,7 @@ TEST_F(UserAction, TypingEndsWithItsForm) {
   form.txtName.Change = [&] { form.UnloadMe(); };
   EXPECT_THAT(run(R"({"focus":"txtName"}
                      {"type":"abc"})"),
-              ElementsAre(R"({"shown":"frmStage","caption":"Bühne"})", R"({"closed":"frmStage"})"));
+              ElementsAre(R"({"shown":"frmSample","caption":"Bühne"})", R"({"closed":"frmSample"})"));
   EXPECT_EQ(form.txtName.Text(), u"a");
 }
 
@@ -362,7 +362,7 @@ TEST_F(UserAction, CloseIsTheCloseBox) {
   form.QueryUnload = [&](int&, int unloadMode) { mode = unloadMode; };
   EXPECT_THAT(run(R"({"close":true}
                      {"close":true})"),
-              ElementsAre(R"({"shown":"frmStage","caption":"Bühne"})", R"({"closed":"frmStage"})",
+              ElementsAre(R"({"shown":"frmSample","caption":"Bühne"})", R"({"closed":"frmSample"})",
                           R"({"refused":"no form is open","action":{"close":true}})"));
   EXPECT_EQ(mode, static_cast<int>(UnloadMode::CloseBox));
 }
@@ -376,7 +376,7 @@ TEST_F(UserAction, WaitLetsTimePass) {
 }
 
 TEST_F(UserAction, FormsNestAndOnlyTheTopmostCanBeUsed) {
-  frmStage second;
+  frmSample second;
   second.Caption(u"Zweite");
   form.btnOK.Click = [&] { second.Show(); };
   EXPECT_THAT(acts(R"({"click":"btnOK"}
@@ -384,7 +384,7 @@ TEST_F(UserAction, FormsNestAndOnlyTheTopmostCanBeUsed) {
                       {"type":"x"}
                       {"close":true}
                       {"get":["txtName.Text","Form.Caption"]})"),
-              ElementsAre(R"({"shown":"frmStage","caption":"Zweite"})", R"({"closed":"frmStage"})",
+              ElementsAre(R"({"shown":"frmSample","caption":"Zweite"})", R"({"closed":"frmSample"})",
                           R"({"values":{"txtName.Text":"","Form.Caption":"Bühne"}})"));
   EXPECT_EQ(second.txtName.Text(), u"x");
 }

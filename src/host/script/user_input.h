@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What a person's hands and eyes can do at a desktop, one movement each. A desktop with a screen delivers
+// What a person can do and see at a desktop, one movement each. A desktop with a screen delivers
 // real events to its widgets; the headless one feeds the form. Which movements make a click, and what a
-// person may do at all, is decided above (hands.h, user_actions.cpp).
+// person may do at all, is decided above (gestures.h, user_actions.cpp).
 //
 //     input.mouseDown({form.control(u"btnOK")});
 //     input.mouseUp({form.control(u"btnOK")});
@@ -29,7 +29,7 @@ struct Key {
 };
 
 /// Where the pointer is: on a control, and in a list on one of its rows, in a grid on a cell, -1 for none.
-struct Spot {
+struct MouseTarget {
   Control& control;
   int row = -1;
   int col = -1;
@@ -43,13 +43,13 @@ class UserInput {
  public:
   virtual ~UserInput() = default;
 
-  /// The button goes down, or up again at the same spot. A row is scrolled into view first.
-  virtual void mouseDown(const Spot& spot) = 0;
+  /// The button goes down, or up again at the same place. A row is scrolled into view first.
+  virtual void mouseDown(const MouseTarget& target) = 0;
   /// The pointer moves to another cell of a grid while the button is down.
-  virtual void mouseMove(const Spot& spot) = 0;
-  virtual void mouseUp(const Spot& spot) = 0;
+  virtual void mouseMove(const MouseTarget& target) = 0;
+  virtual void mouseUp(const MouseTarget& target) = 0;
   /// The second press of a double click.
-  virtual void mouseDownAgain(const Spot& spot) = 0;
+  virtual void mouseDownAgain(const MouseTarget& target) = 0;
 
   /// Opens a drop-down and takes an entry, which is there.
   virtual void takeEntry(Control& control, int entry) = 0;

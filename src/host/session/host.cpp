@@ -10,9 +10,9 @@ namespace zqn::host {
 
 namespace {
 
-script::ScriptWorld::Rows query(ado::Connection& connection, StringView statement) {
+script::OutsideAccess::Rows query(ado::Connection& connection, StringView statement) {
   const ado::RowStore found = runStatement(connection, statement).rows;
-  script::ScriptWorld::Rows rows;
+  script::OutsideAccess::Rows rows;
   for (int row = 0; row < found.rows(); ++row) rows.push_back(rowValues(found, row));
   return rows;
 }
@@ -49,7 +49,7 @@ void Host::equip(ORBDialog& dialog) const {
   dialog.Multiselect(multiselect_);
 }
 
-script::ScriptWorld Host::world() const {
+script::OutsideAccess Host::outside() const {
   const Ref<ado::Connection> other = openDatabase(address_);
   return {.query = [other](StringView statement) { return query(*other, statement); },
           .execute = [other](StringView statement) { other->Execute(statement); },

@@ -12,7 +12,7 @@
 #include "frontend/orb_dialog.h"
 #include "host/command/command_line.h"
 #include "host/database/database_address.h"
-#include "host/script/world.h"
+#include "host/script/outside_access.h"
 #include "host/session/host_session.h"
 #include "runtime/locale.h"
 
@@ -33,7 +33,7 @@ class Host {
 
   /// What somebody else does to this database while a dialog is open, on a connection of its own. The Host
   /// must outlive it.
-  script::ScriptWorld world() const;
+  script::OutsideAccess outside() const;
 
  private:
   DatabaseAddress address_;

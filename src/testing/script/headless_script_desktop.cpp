@@ -6,7 +6,7 @@ namespace zqn::script {
 
 namespace {
 
-class HeadlessStage : public Stage {
+class HeadlessScriptDesktop : public ScriptDesktop {
  public:
   Desktop& desktop() override { return desktop_; }
   UserInput& input() override { return input_; }
@@ -19,6 +19,6 @@ class HeadlessStage : public Stage {
 
 }  // namespace
 
-std::unique_ptr<Stage> makeStage() { return std::make_unique<HeadlessStage>(); }
+std::unique_ptr<ScriptDesktop> makeScriptDesktop() { return std::make_unique<HeadlessScriptDesktop>(); }
 
 }  // namespace zqn::script

@@ -38,7 +38,7 @@ class Application : public ::testing::Environment {
 
 const ::testing::Environment* const application = ::testing::AddGlobalTestEnvironment(new Application);
 
-class QtStage : public Stage {
+class QtScriptDesktop : public ScriptDesktop {
  public:
   Desktop& desktop() override { return desktop_; }
   UserInput& input() override { return input_; }
@@ -51,6 +51,6 @@ class QtStage : public Stage {
 
 }  // namespace
 
-std::unique_ptr<Stage> makeStage() { return std::make_unique<QtStage>(); }
+std::unique_ptr<ScriptDesktop> makeScriptDesktop() { return std::make_unique<QtScriptDesktop>(); }
 
 }  // namespace zqn::script

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The desktop on which the tests of scripts run. They are built twice, with a headless stage and with one of
+// The desktop on which the tests of scripts run. They are built twice, on the headless desktop and on that of
 // Qt: the same script must come to the same transcript.
 #pragma once
 
@@ -11,15 +11,15 @@
 
 namespace zqn::script {
 
-class Stage {
+class ScriptDesktop {
  public:
-  virtual ~Stage() = default;
+  virtual ~ScriptDesktop() = default;
   virtual Desktop& desktop() = 0;
   virtual UserInput& input() = 0;
   virtual bool hasScreen() const = 0;
 };
 
 /// A new desktop with nothing open.
-std::unique_ptr<Stage> makeStage();
+std::unique_ptr<ScriptDesktop> makeScriptDesktop();
 
 }  // namespace zqn::script

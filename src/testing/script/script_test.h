@@ -29,9 +29,9 @@
 namespace zqn::script {
 
 /// A list, two fields, labels, a check box, and buttons of which one is hidden and one disabled.
-class frmStage : public Form {
+class frmSample : public Form {
  public:
-  frmStage();
+  frmSample();
 
   TDBList& TDBList1 = Get<TDBList>(u"TDBList1");
   TextBox& txtKey = Get<TextBox>(u"txtKey");
@@ -52,15 +52,15 @@ class ScriptTest : public ::testing::Test {
 
   /// Binds the form's list to all rows of Stati.
   void bindList();
-  /// Runs a script from prepare to finish, `show` in between; without one the form stage is shown.
+  /// Runs a script from prepare to finish, `show` in between; without one the form is shown.
   Lines run(const std::string& script, const std::function<void()>& show = {});
   /// The same without the lines `shown` and `closed` of the form, which must be the first and the last.
   Lines acts(const std::string& script);
   /// Values of a query on the second connection, "|" between columns.
   Lines stored(StringView query);
 
-  std::unique_ptr<Stage> stage = makeStage();
-  frmStage form;
+  std::unique_ptr<ScriptDesktop> scriptDesktop = makeScriptDesktop();
+  frmSample form;
   Ref<ado::Connection> connection;
   Ref<ado::Recordset> rs;
   FaultInjector faults;
@@ -70,11 +70,11 @@ class ScriptTest : public ::testing::Test {
   std::vector<Setting> settings;
 
  private:
-  ScriptWorld world();
+  OutsideAccess outside();
 
   std::filesystem::path folder_;
   Ref<ado::Connection> second_;
-  Desktop::Scope scope_{stage->desktop()};
+  Desktop::Scope scope_{scriptDesktop->desktop()};
 };
 
 /// What runs of a script were about, as GoogleTest shows it.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/script/hands.h"
+#include "host/script/gestures.h"
 
 #include <algorithm>
 #include <thread>
@@ -7,34 +7,34 @@
 
 namespace zqn::script {
 
-bool Hands::pressAndRelease(const Spot& spot, void (UserInput::*down)(const Spot&)) {
+bool Gestures::pressAndRelease(const MouseTarget& target, void (UserInput::*down)(const MouseTarget&)) {
   const int before = interruptions_;
-  (input_.*down)(spot);
+  (input_.*down)(target);
   if (interruptions_ != before) return false;
-  input_.mouseUp(spot);
+  input_.mouseUp(target);
   return interruptions_ == before;
 }
 
-void Hands::click(const Spot& spot) { pressAndRelease(spot, &UserInput::mouseDown); }
+void Gestures::click(const MouseTarget& target) { pressAndRelease(target, &UserInput::mouseDown); }
 
-void Hands::doubleClick(const Spot& spot) {
-  if (pressAndRelease(spot, &UserInput::mouseDown)) pressAndRelease(spot, &UserInput::mouseDownAgain);
+void Gestures::doubleClick(const MouseTarget& target) {
+  if (pressAndRelease(target, &UserInput::mouseDown)) pressAndRelease(target, &UserInput::mouseDownAgain);
 }
 
-void Hands::drag(const Spot& from, const Spot& to) {
+void Gestures::drag(const MouseTarget& from, const MouseTarget& to) {
   const int before = interruptions_;
   input_.mouseDown(from);
   if (interruptions_ == before) input_.mouseMove(to);
   if (interruptions_ == before) input_.mouseUp(to);
 }
 
-void Hands::press(Form& form, const Key& key) {
+void Gestures::press(Form& form, const Key& key) {
   held_ = key;
   input_.keyDown(form, key);
   letGo();
 }
 
-bool Hands::letGo() {
+bool Gestures::letGo() {
   const std::optional<Key> key = std::exchange(held_, std::nullopt);
   if (!key) return false;
   Form* form = desktop_.activeForm();
@@ -42,11 +42,11 @@ bool Hands::letGo() {
   return true;
 }
 
-void Hands::type(Form& form, const std::vector<Key>& keys) {
+void Gestures::type(Form& form, const std::vector<Key>& keys) {
   if (!keys.empty()) typing_.push_back({&form, {keys.begin(), keys.end()}});
 }
 
-bool Hands::typeOn() {
+bool Gestures::typeOn() {
   Form* form = desktop_.activeForm();
   if (typing_.empty() || typing_.back().form != form) return false;
   if (desktop_.openMessageBox() != nullptr || !form->Visible()) return false;
@@ -58,9 +58,9 @@ bool Hands::typeOn() {
   return true;
 }
 
-void Hands::rest(std::chrono::milliseconds time) { restsUntil_ = time_ + time; }
+void Gestures::rest(std::chrono::milliseconds time) { restsUntil_ = time_ + time; }
 
-bool Hands::restOn() {
+bool Gestures::restOn() {
   constexpr std::chrono::milliseconds moment{1};
   if (time_ >= restsUntil_) return false;
   std::this_thread::sleep_for(moment);
@@ -68,7 +68,7 @@ bool Hands::restOn() {
   return true;
 }
 
-void Hands::formClosed(const Form& form) {
+void Gestures::formClosed(const Form& form) {
   ++interruptions_;
   std::erase_if(typing_, [&](const Typing& typing) { return typing.form == &form; });
 }

@@ -16,16 +16,16 @@
 
 namespace zqn::script {
 
-class Hands {
+class Gestures {
  public:
-  Hands(Desktop& desktop, UserInput& input) : desktop_(desktop), input_(input) {}
+  Gestures(Desktop& desktop, UserInput& input) : desktop_(desktop), input_(input) {}
 
-  void click(const Spot& spot);
-  void doubleClick(const Spot& spot);
-  void mouseDown(const Spot& spot) { input_.mouseDown(spot); }
-  void mouseUp(const Spot& spot) { input_.mouseUp(spot); }
-  /// Presses on one spot, releases on another one of the same control.
-  void drag(const Spot& from, const Spot& to);
+  void click(const MouseTarget& target);
+  void doubleClick(const MouseTarget& target);
+  void mouseDown(const MouseTarget& target) { input_.mouseDown(target); }
+  void mouseUp(const MouseTarget& target) { input_.mouseUp(target); }
+  /// Presses on one target, releases on another one of the same control.
+  void drag(const MouseTarget& from, const MouseTarget& to);
   void press(Form& form, const Key& key);
   /// Begins to type; typeOn presses key by key, so that what a key sets off is over before the next.
   void type(Form& form, const std::vector<Key>& keys);
@@ -54,7 +54,7 @@ class Hands {
   };
 
   /// The press, and the release unless something came up: False when the click is over.
-  bool pressAndRelease(const Spot& spot, void (UserInput::*down)(const Spot&));
+  bool pressAndRelease(const MouseTarget& target, void (UserInput::*down)(const MouseTarget&));
 
   Desktop& desktop_;
   UserInput& input_;

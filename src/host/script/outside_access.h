@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The world around a dialog, as a script reaches it: rows that somebody else reads and writes, settings, and
+// What a script reaches outside the dialog: rows that somebody else reads and writes, settings, and
 // what the next information dialog answers. The host fills the functions; run-time errors may leave them.
 #pragma once
 
@@ -19,7 +19,7 @@ struct Setting {
   std::int32_t scope = 1;
 };
 
-struct ScriptWorld {
+struct OutsideAccess {
   using Rows = std::vector<std::vector<Variant>>;
   using Settings = std::vector<std::pair<String, String>>;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What one line of a script works with: the desktop and what is open on it, the user's hands, the world, and
-// the transcript. Its functions find what a line names, and refuse what a person could not act on.
+// What one line of a script works with: the desktop and what is open on it, the user's gestures, what lies
+// outside the dialog, and the transcript. Its functions find what a line names, and refuse what a person could not act on.
 #pragma once
 
 #include <functional>
@@ -9,17 +9,17 @@
 
 #include "forms/desktop.h"
 #include "host/script/fault_injector.h"
-#include "host/script/hands.h"
+#include "host/script/gestures.h"
 #include "host/script/json_values.h"
-#include "host/script/world.h"
+#include "host/script/outside_access.h"
 
 namespace zqn::script {
 
-struct Scene {
+struct LineContext {
   Desktop& desktop;
   UserInput& input;
-  Hands& hands;
-  const ScriptWorld& world;
+  Gestures& gestures;
+  const OutsideAccess& outside;
   FaultInjector& faults;
   AuskunftAnswer& auskunft;
   /// Writes one line of the transcript.

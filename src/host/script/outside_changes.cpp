@@ -7,7 +7,7 @@
 #include "host/script/line_functions.h"
 #include "host/script/script_error.h"
 
-namespace zqn::script::world {
+namespace zqn::script::outside {
 
 namespace {
 
@@ -42,23 +42,23 @@ void change(const char* what, Change&& apply) {
 
 }  // namespace
 
-void exec(const Scene& scene, const Arguments& line) {
+void exec(const LineContext& context, const Arguments& line) {
   const std::string statement = line.text("exec");
-  change("the statement", [&] { scene.world.execute(fromUtf8(statement)); });
+  change("the statement", [&] { context.outside.execute(fromUtf8(statement)); });
 }
 
-void setting(const Scene& scene, const Arguments& line) {
+void setting(const LineContext& context, const Arguments& line) {
   constexpr const char* members[] = {"section", "key", "value", "scope"};
   const Arguments given = line.object("setting", members);
   const std::int32_t scope = given.has("scope") ? given.wholeNumber("scope", 0, 1) : 1;
   const Setting setting{fromUtf8(given.text("section")), fromUtf8(given.text("key")),
                         fromUtf8(given.text("value")), scope};
-  change("saving the setting", [&] { scene.world.saveSetting(setting); });
+  change("saving the setting", [&] { context.outside.saveSetting(setting); });
 }
 
-void auskunft(const Scene& scene, const Arguments& line) {
+void auskunft(const LineContext& context, const Arguments& line) {
   if (line.any("auskunft").is_null()) {
-    scene.auskunft = {.missing = true};
+    context.auskunft = {.missing = true};
     return;
   }
   constexpr const char* members[] = {"result", "items"};
@@ -72,10 +72,10 @@ void auskunft(const Scene& scene, const Arguments& line) {
       answer.items.emplace_back(fromUtf8(name), variantOf(value));
     }
   }
-  scene.auskunft = std::move(answer);
+  context.auskunft = std::move(answer);
 }
 
-void fail(const Scene& scene, const Arguments& line) {
+void fail(const LineContext& context, const Arguments& line) {
   constexpr const char* members[] = {"operation", "match", "number", "description", "times"};
   const Arguments given = line.object("fail", members);
   const Op operation = operationOf(given.text("operation"));
@@ -84,7 +84,8 @@ void fail(const Scene& scene, const Arguments& line) {
       given.has("description") ? fromUtf8(given.text("description")) : error::description(number);
   const int times =
       given.has("times") ? given.wholeNumber("times", 1, std::numeric_limits<std::int32_t>::max()) : 1;
-  scene.faults.arm({operation, fromUtf8(given.text("match", "")), RuntimeError(number, description), times});
+  context.faults.arm(
+      {operation, fromUtf8(given.text("match", "")), RuntimeError(number, description), times});
 }
 
-}  // namespace zqn::script::world
+}  // namespace zqn::script::outside

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "host/script/scene.h"
+#include "host/script/line_context.h"
 
-#include "host/script/control_kinds.h"
+#include "host/script/control_traits.h"
 #include "host/script/script_error.h"
 
 namespace zqn::script {
 
-Form& Scene::form() const {
+Form& LineContext::form() const {
   Form* form = desktop.activeForm();
   if (form == nullptr) throw Refusal("no form is open");
   return *form;
 }
 
-Control& Scene::control(const std::string& name) const {
+Control& LineContext::control(const std::string& name) const {
   const Form& owner = form();
   if (Control* control = owner.findControl(fromUtf8(name))) return *control;
   std::string names;
@@ -20,7 +20,7 @@ Control& Scene::control(const std::string& name) const {
   throw ScriptError(toUtf8(owner.Name()) + " has no control \"" + name + "\"; it has " + names);
 }
 
-Form& Scene::usableForm() const {
+Form& LineContext::usableForm() const {
   Form& owner = form();
   if (desktop.openMessageBox() != nullptr) throw Refusal("a message box is open");
   if (desktop.openPopupMenu() != nullptr) throw Refusal("a popup menu is open");
@@ -28,7 +28,7 @@ Form& Scene::usableForm() const {
   return owner;
 }
 
-Control& Scene::usableControl(const std::string& name) const {
+Control& LineContext::usableControl(const std::string& name) const {
   Control& found = control(name);
   usableForm();
   if (!found.isShown()) throw Refusal(nameOf(found) + " is invisible");

@@ -4,9 +4,9 @@
 namespace zqn::script {
 namespace {
 
-class World : public ScriptTest {};
+class OutsideChanges : public ScriptTest {};
 
-TEST_F(World, ExecIsAChangeBySomebodyElse) {
+TEST_F(OutsideChanges, ExecIsAChangeBySomebodyElse) {
   bindList();
   EXPECT_THAT(acts(R"({"get":["TDBList1.Row"]}
                       {"exec":"UPDATE Stati SET Name='Neu' WHERE Status='20'"}
@@ -14,7 +14,7 @@ TEST_F(World, ExecIsAChangeBySomebodyElse) {
               ElementsAre(HasSubstr("values"), R"({"rows":[["Neu"]]})"));
 }
 
-TEST_F(World, LinesBeforeTheFirstActionTakeEffectBeforeShow) {
+TEST_F(OutsideChanges, LinesBeforeTheFirstActionTakeEffectBeforeShow) {
   std::vector<std::string> seen;
   form.Load = [&] {
     seen = stored(u"SELECT Status FROM Stati ORDER BY Status");
@@ -39,7 +39,7 @@ TEST_F(World, LinesBeforeTheFirstActionTakeEffectBeforeShow) {
   EXPECT_THAT(seen, ElementsAre("10", "1", "missing", "-2147217900"));
 }
 
-TEST_F(World, SettingIsSavedInItsScope) {
+TEST_F(OutsideChanges, SettingIsSavedInItsScope) {
   acts(R"({"setting":{"section":"ZQNComDlg","key":"AdminsOnly","value":"1","scope":1}}
           {"setting":{"section":"Belegdruck","key":"OMRLayout","value":"","scope":0}}
           {"setting":{"section":"A","key":"B","value":"C"}})");
@@ -53,7 +53,7 @@ TEST_F(World, SettingIsSavedInItsScope) {
   EXPECT_EQ(settings[2].scope, 1);
 }
 
-TEST_F(World, AuskunftAnswersWhatTheLastLineSaid) {
+TEST_F(OutsideChanges, AuskunftAnswersWhatTheLastLineSaid) {
   std::vector<AuskunftAnswer> asked;
   form.btnOK.Click = [&] {
     user->writeAuskunft(u"AUSK_Kundenauskunft", u"Kundenauskunft");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/script/control_kinds.h"
+#include "host/script/control_traits.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "ado/odbc/wide.h"
+#include "runtime/digits.h"
 
 namespace zqn::load {
 
@@ -16,13 +16,6 @@ namespace {
 
 constexpr SQLULEN BlockRows = 100;
 constexpr std::size_t Width = 260;
-
-template <class Number>
-String digits(Number value) {
-  std::array<char, 32> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-  return String(buffer.data(), end);
-}
 
 }  // namespace
 

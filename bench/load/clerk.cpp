@@ -13,6 +13,7 @@
 #include "bare.h"
 #include "ground.h"
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 #include "workplace.h"
 
 namespace zqn::load {
@@ -57,8 +58,7 @@ class Clerk {
         tally_(tally),
         server_("server " + std::to_string(serverOf(options, number) + 1)),
         order_(options.seed * 10'007U + static_cast<unsigned>(number)),
-        workplace_(options.servers[serverOf(options, number)], u"clerk" + fromUtf8(std::to_string(number)),
-                   tally),
+        workplace_(options.servers[serverOf(options, number)], u"clerk" + digits(number), tally),
         stage_{nameIn(number, 0), {}},
         priceList_{nameIn(number, 0), {}} {
     if (options.bare) bare_.emplace(options.servers[serverOf(options, number)]);

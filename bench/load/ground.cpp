@@ -7,6 +7,7 @@
 #include "host/database/schema/schema.h"
 #include "host/database/server_schema.h"
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 
 namespace zqn::load {
 
@@ -18,7 +19,7 @@ String twoPlaces(int number) {
 }
 
 String inPlaces(int number, std::size_t places) {
-  String digits = fromUtf8(std::to_string(number));
+  String digits = zqn::digits(number);
   return String(places > digits.size() ? places - digits.size() : 0, u'0') + digits;
 }
 

@@ -18,6 +18,7 @@
 #include "host/database/schema/schema.h"
 #include "host/database/server_schema.h"
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 
 namespace zqn::load {
 
@@ -77,8 +78,8 @@ class LongList {
 };
 
 String keyAt(ado::Connection& connection, std::int64_t row) {
-  return CStr(valueOf(connection, u"SELECT Status FROM Vertriebsstati ORDER BY Status LIMIT 1 OFFSET " +
-                                      fromUtf8(std::to_string(row))));
+  return CStr(valueOf(connection,
+                      u"SELECT Status FROM Vertriebsstati ORDER BY Status LIMIT 1 OFFSET " + digits(row)));
 }
 
 void print(std::ostream& out, const char* what, double milliseconds) {

@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
 //
-// A statement with the connection it runs on. After a failed Execute it can get another text and run again.
-//
-//     ado::Command command;
-//     command.ActiveConnection(connection);
-//     command.CommandText(u"Delete From Versandarten WHERE Versandart = " + ado::sql::value(key));
-//     command.Execute();
+// A statement with the connection it runs on.
 #pragma once
 
 #include "ado/connection.h"
 
 namespace zqn::ado {
 
+/// A statement with the connection it runs on. After a failed Execute it can get another text and run again.
+///
+///     ado::Command command;
+///     command.ActiveConnection(connection);
+///     command.CommandText(u"Delete From Versandarten WHERE Versandart = " + ado::sql::value(key));
+///     command.Execute();
 class Command {
  public:
+  /// Nothing at first.
   const Ref<Connection>& ActiveConnection() const noexcept { return connection_; }
   void ActiveConnection(Ref<Connection> connection) { connection_ = std::move(connection); }
+  /// Any text; Execute tells whether it can be run.
   const sql::Text& CommandText() const noexcept { return text_; }
   void CommandText(sql::Text text) { text_ = std::move(text); }
   /// A CommandTypeEnum; it is a text whatever this says.

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// An open database, as recordsets and commands use it. A host makes one from a provider and shares it; a
-// dialog never opens or closes it.
-//
-//     Ref<ado::Connection> connection = ado::openSqlite(path);
-//     connection->Execute(u"DELETE FROM Vertriebsstati WHERE Status =" + ado::sql::value(key));
+// An open database, as recordsets and commands use it.
 #pragma once
 
 #include <cstdint>
@@ -22,10 +18,16 @@ namespace zqn::ado {
 
 class Recordset;
 
+/// An open database, as recordsets and commands use it. A host makes one from a provider and shares it; a
+/// dialog never opens or closes it.
+///
+///     Ref<ado::Connection> connection = ado::openSqlite(path);
+///     connection->Execute(u"DELETE FROM Vertriebsstati WHERE Status =" + ado::sql::value(key));
 class Connection {
  public:
   /// Open from the start. `provider` is not null.
   explicit Connection(std::unique_ptr<Provider> provider);
+  /// Closes the database. Recordsets keep their connection alive, so none is open.
   ~Connection();
   Connection(const Connection&) = delete;
   Connection& operator=(const Connection&) = delete;
@@ -37,6 +39,7 @@ class Connection {
   std::int64_t Execute(const sql::Text& statement, int options = adCmdUnspecified);
   /// Closes its open recordsets, pending edits discarded, and then the database. Error 3704 when closed.
   void Close();
+  /// An ObjectStateEnum.
   int State() const noexcept { return provider_ ? adStateOpen : adStateClosed; }
 
   /// Who is told of every operation on this connection and its recordsets; not owned, nullptr for nobody.
@@ -53,9 +56,11 @@ class Connection {
   void requireRunnable(const sql::Text& statement) const;
   /// Recordsets are told when the connection closes.
   void enlist(Recordset& recordset) { recordsets_.push_back(&recordset); }
+  /// No longer.
   void dismiss(Recordset& recordset) noexcept;
   /// How many recordsets are open on this connection.
   std::size_t openRecordsets() const noexcept { return recordsets_.size(); }
+  /// Tells the observer, and passes on what it throws.
   void before(Operation operation, StringView statement, StringView criterion = {}) const {
     if (observer_) observer_->Before(operation, statement, criterion);
   }

@@ -8,7 +8,8 @@
 #include "ado/enums.h"
 #include "ado/field_values.h"
 #include "ado/raise.h"
-#include "runtime/locale.h"
+#include "runtime/ascii.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado {
 
@@ -24,8 +25,6 @@ StringView withoutBlanks(StringView text) {
   while (!text.empty() && text.back() == u' ') text.remove_suffix(1);
   return text;
 }
-
-bool isWord(StringView text, StringView word) { return compareIgnoringCase(text, word) == 0; }
 
 /// Reads a criterion from its start to its end.
 class Reader {
@@ -70,7 +69,7 @@ Operator Reader::comparisonOperator() {
                                                   {u"LIKE", Operator::Is}}};
   skipBlanks();
   for (const Spelling& spelling : spellings) {
-    if (!isWord(rest_.substr(0, spelling.text.size()), spelling.text)) continue;
+    if (!sameName(rest_.substr(0, spelling.text.size()), spelling.text)) continue;
     rest_.remove_prefix(spelling.text.size());
     return spelling.op;
   }
@@ -81,7 +80,7 @@ String Reader::literal() {
   skipBlanks();
   if (rest_.starts_with(u'\'') || rest_.starts_with(u'#')) return quotedLiteral();
   std::size_t end = 0;
-  while (end < rest_.size() && !isWord(rest_.substr(end, And.size()), And)) ++end;
+  while (end < rest_.size() && !sameName(rest_.substr(end, And.size()), And)) ++end;
   const StringView literal = withoutBlanks(rest_.substr(0, end));
   if (literal.empty() || literal.find(u'\'') != StringView::npos) refuse();
   rest_.remove_prefix(end);
@@ -105,25 +104,25 @@ String Reader::quotedLiteral() {
 bool Reader::conjunction() {
   if (withoutBlanks(rest_).empty()) return false;
   while (rest_.starts_with(u"  ")) rest_.remove_prefix(1);
-  if (!isWord(rest_.substr(0, And.size()), And)) refuse();
+  if (!sameName(rest_.substr(0, And.size()), And)) refuse();
   rest_.remove_prefix(And.size());
   return true;
 }
 
 std::optional<double> asNumber(StringView text) {
-  std::string ascii;
-  for (const char16_t unit : withoutBlanks(text)) ascii += unit < 0x80 ? static_cast<char>(unit) : '?';
-  const std::size_t sign = ascii.find_first_not_of("+-");
-  if (sign > 1 || (ascii[sign] != '.' && (ascii[sign] < '0' || ascii[sign] > '9'))) return {};
+  std::string typed;
+  for (const char16_t unit : withoutBlanks(text)) typed += unit < 0x80 ? static_cast<char>(unit) : '?';
+  const std::size_t sign = typed.find_first_not_of("+-");
+  if (sign > 1 || (typed[sign] != '.' && !ascii::isDigit(static_cast<unsigned char>(typed[sign])))) return {};
   double number = 0;
-  const char* end = ascii.data() + ascii.size();
-  const auto [stop, failure] = std::from_chars(ascii.data() + (ascii.front() == '+'), end, number);
+  const char* end = typed.data() + typed.size();
+  const auto [stop, failure] = std::from_chars(typed.data() + (typed.front() == '+'), end, number);
   return failure == std::errc() && stop == end ? std::optional(number) : std::nullopt;
 }
 
 std::optional<double> asTruth(StringView text) {
-  if (isWord(text, u"True") || isWord(text, u"Wahr")) return 1;
-  if (isWord(text, u"False") || isWord(text, u"Falsch")) return 0;
+  if (sameName(text, u"True") || sameName(text, u"Wahr")) return 1;
+  if (sameName(text, u"False") || sameName(text, u"Falsch")) return 0;
   const auto number = asNumber(text);
   return number ? std::optional<double>(*number != 0) : std::nullopt;
 }
@@ -145,7 +144,7 @@ void readPattern(Comparison& comparison) {
 
 Comparison resolve(StringView name, Operator op, String literal, const Columns& columns) {
   const auto column = std::ranges::find_if(
-      columns, [&](const Column& known) { return !known.hidden && isWord(known.name, name); });
+      columns, [&](const Column& known) { return !known.hidden && sameName(known.name, name); });
   if (column == columns.end()) raise(error::ItemNotFound);
 
   Comparison comparison{

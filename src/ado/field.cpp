@@ -4,7 +4,7 @@
 #include "ado/cursor.h"
 #include "ado/raise.h"
 #include "ado/recordset.h"
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado {
 
@@ -32,8 +32,7 @@ Field Fields::Item(int ordinal) const {
 
 Field Fields::Item(StringView name) const {
   for (int ordinal = 0; ordinal < Count(); ++ordinal) {
-    if (compareIgnoringCase(anchor_->recordset->column(ordinal).name, name) == 0)
-      return Field(anchor_, ordinal);
+    if (sameName(anchor_->recordset->column(ordinal).name, name)) return Field(anchor_, ordinal);
   }
   raise(error::ItemNotFound);
 }

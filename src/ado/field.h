@@ -21,9 +21,10 @@ struct FieldAnchor {
   Recordset* recordset = nullptr;
 };
 
-/// All members raise 3420 once the recordset was closed. Requery keeps its fields.
+/// One column; a small handle. All members raise 3420 once the recordset was closed. Requery keeps its fields.
 class Field {
  public:
+  /// As the statement's result names the column.
   const String& Name() const;
   /// A DataTypeEnum, by the column's declaration.
   int Type() const;
@@ -48,6 +49,7 @@ class Field {
   int ordinal_;
 };
 
+/// All columns of a recordset.
 class Fields {
  public:
   /// 0 for a closed recordset.
@@ -55,6 +57,7 @@ class Fields {
   /// By name, case not counting, or by ordinal from 0. Error 3265 when there is none.
   Field Item(StringView name) const;
   Field Item(int ordinal) const;
+  /// As Item.
   Field operator()(StringView name) const { return Item(name); }
   Field operator()(int ordinal) const { return Item(ordinal); }
 

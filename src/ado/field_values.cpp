@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ado/field_values.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
 #include "ado/enums.h"
 #include "ado/raise.h"
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 
 namespace zqn::ado {
 
@@ -19,12 +18,6 @@ Variant wholeNumber(Number value) {
   using Long = std::numeric_limits<std::int32_t>;
   if (value < Long::min() || value > Long::max()) return static_cast<double>(value);
   return static_cast<std::int32_t>(value);
-}
-
-String digits(std::int64_t value) {
-  std::array<char, 20> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-  return String(buffer.data(), end);
 }
 
 double toNumber(const Variant& value) {

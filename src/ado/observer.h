@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Tracing of a connection: a host that keeps a log of statements, or makes operations fail on purpose, hangs
-// an Observer on it.
-//
-//     struct Log : ado::Observer {
-//       void Before(ado::Operation what, StringView statement, StringView) override { ... }
-//     };
-//     connection->observer(&log);
+// Tracing of a connection: an Observer hears of every operation.
 #pragma once
 
 #include "runtime/string.h"
@@ -17,6 +11,13 @@ namespace zqn::ado {
 /// of a bound list.
 enum class Operation { Open, Execute, Update, AddNew, Requery, Find, Close, Field };
 
+/// Tracing of a connection: a host that keeps a log of statements, or makes operations fail on purpose, hangs
+/// an Observer on it.
+///
+///     struct Log : ado::Observer {
+///       void Before(ado::Operation what, StringView statement, StringView) override { ... }
+///     };
+///     connection->observer(&log);
 class Observer {
  public:
   virtual ~Observer() = default;

@@ -80,6 +80,7 @@ class Keyset {
  public:
   virtual ~Keyset() = default;
 
+  /// Those of the SELECT, and hidden ones behind them.
   virtual std::shared_ptr<const Columns> columns() const = 0;
   /// Adds the next handles, `atMost` of them. False when these were the last.
   virtual bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) = 0;
@@ -99,13 +100,16 @@ class Keyset {
   virtual std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) = 0;
 };
 
+/// What a statement is prepared for.
 enum class Purpose {
+  /// To be run and read.
   Plain,
   /// The rows must be found again: add what identifies a row and is not among the statement's own columns, as
   /// hidden columns.
   Keyed,
 };
 
+/// One database, open for as long as this lives.
 class Provider {
  public:
   virtual ~Provider() = default;

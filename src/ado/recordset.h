@@ -1,20 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A recordset under ADO's names and numbers: rows of a SELECT, one of them current, which can be read and,
-// under an optimistic lock, written.
-//
-//     Ref<Recordset> rs = Ref<Recordset>::make();
-//     rs->Open(u"SELECT * FROM Vertriebsstati WHERE Status=" + sql::value(key), connection, adOpenKeyset,
-//     adLockOptimistic); if (rs->IsEOF()) rs->AddNew(); rs->Fields(u"Status").Value(key); rs->Update();
-//     rs->Close();
-//
-// Position, with the rows A, B, C: after Open on A; MoveNext from C leads to EOF, from where MovePrevious
-// leads back to C; a Find without match leads to EOF, where Bookmark and the next Find raise 3021 until
-// MoveFirst, Bookmark or Requery sets the position anew.
-//
-// With the client's cursor (3) the rows are a snapshot. With the server's cursor (2) the rows are fixed at
-// Open, their values are read as a row becomes current; rows that others delete stay as holes, rows that
-// others add are unseen until Requery.
+// Rows of a SELECT under ADO's names and numbers: read, found, written.
 #pragma once
 
 #include <memory>
@@ -32,8 +18,27 @@ namespace zqn::ado {
 
 class Cursor;
 
+/// A recordset under ADO's names and numbers: rows of a SELECT, one of them current, which can be read and,
+/// under an optimistic lock, written.
+///
+///     Ref<Recordset> rs = Ref<Recordset>::make();
+///     rs->Open(u"SELECT * FROM Vertriebsstati WHERE Status=" + sql::value(key), connection,
+///              adOpenKeyset, adLockOptimistic);
+///     if (rs->IsEOF()) rs->AddNew();
+///     rs->Fields(u"Status").Value(key);
+///     rs->Update();
+///     rs->Close();
+///
+/// Position, with the rows A, B, C: after Open on A; MoveNext from C leads to EOF, from where MovePrevious
+/// leads back to C; a Find without match leads to EOF, where Bookmark and the next Find raise 3021 until
+/// MoveFirst, Bookmark or Requery sets the position anew.
+///
+/// With the client's cursor (3) the rows are a snapshot. With the server's cursor (2) the rows are fixed at
+/// Open, their values are read as a row becomes current; rows that others delete stay as holes, rows that
+/// others add are unseen until Requery.
 class Recordset {
  public:
+  /// Closed, with the server's cursor, forward only and read-only.
   Recordset();
   /// A pending edit is discarded.
   ~Recordset();
@@ -45,8 +50,10 @@ class Recordset {
   /// adUseServer (default) or adUseClient; error 3001 for others.
   int CursorLocation() const noexcept { return location_; }
   void CursorLocation(int location);
+  /// A CursorTypeEnum; what Open is given replaces it. Error 3001 for others.
   int CursorType() const noexcept { return cursorType_; }
   void CursorType(int type);
+  /// A LockTypeEnum; what Open is given replaces it. Error 3001 for others.
   int LockType() const noexcept { return lockType_; }
   void LockType(int type);
 
@@ -60,6 +67,7 @@ class Recordset {
             int lockType = adLockReadOnly, int options = adCmdUnspecified);
   /// Errors 3704 when closed; 3219 while an edit is pending, and the recordset stays open.
   void Close();
+  /// An ObjectStateEnum.
   int State() const noexcept { return cursor_ ? adStateOpen : adStateClosed; }
   /// Runs the same statement again; the first row is current, bookmarks of before are worthless.
   /// If it fails the recordset is closed. Errors 3704, 3219 while an edit is pending.
@@ -70,15 +78,17 @@ class Recordset {
   // ---- position (every member raises 3704 when closed; a move with a pending edit runs Update first and
   // stays when that fails)
 
-  /// EOF and BOF of ADO; C's macro has the name EOF.
+  /// EOF of ADO: behind the last row, or without rows. C's macro has the name EOF.
   bool IsEOF() const;
+  /// BOF of ADO: before the first row, or without rows.
   bool IsBOF() const;
   /// Error 3021 without rows.
   void MoveFirst();
+  /// Reads all keys. Error 3021 without rows.
   void MoveLast();
   /// Error 3021 at EOF.
   void MoveNext();
-  /// Error 3021 at BOF.
+  /// Errors 3021 at BOF, 3219 with a forward-only cursor of the server.
   void MovePrevious();
   /// All rows, holes included; -1 with a forward-only cursor of the server. Reads all keys.
   std::int32_t RecordCount() const;
@@ -108,10 +118,12 @@ class Recordset {
   /// Discards the edit; after AddNew the row of before is current again. Without a pending edit it has no
   /// effect.
   void CancelUpdate();
+  /// An EditModeEnum. Error 3704 when closed.
   int EditMode() const;
 
+  /// The columns; none while it is closed.
   ado::Fields Fields() const;
-  /// As Fields().Item.
+  /// As Fields().Item: by name, case not counting, or by ordinal from 0. Error 3265 when there is none.
   Field Fields(StringView name) const;
   Field Fields(int ordinal) const;
 
@@ -132,9 +144,9 @@ class Recordset {
   String rowText(int row, int column);
   /// The current row, -1 at BOF, EOF, on a row being added, or when closed.
   int currentRow() const noexcept;
-  /// Errors 3001 as Bookmark, 3704.
+  /// The row of a bookmark. Errors 3001 as Bookmark, 3704.
   int rowOf(const Variant& bookmark) const;
-  /// Errors 3021 for a row that is not known, 3704.
+  /// What Bookmark reads on this row. Errors 3021 for a row that is not known, 3704.
   Variant bookmarkOf(int row) const;
 
  private:

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Rows as a provider delivers them and a snapshot keeps them: sixteen bytes a cell, all texts in one buffer.
-// A provider adds cells in the order of the columns, row after row:
-//
-//     rows.addText("10");     // UTF-8, converted on the way in
-//     rows.addInteger(5);
+// Rows as a provider delivers them and a snapshot keeps them.
 #pragma once
 
 #include <cstdint>
@@ -32,6 +28,11 @@ struct Value {
 
 struct RowView;
 
+/// Rows as a provider delivers them and a snapshot keeps them: sixteen bytes a cell, all texts in one buffer.
+/// A provider adds cells in the order of the columns, row after row:
+///
+///     rows.addText("10");     // UTF-8, converted on the way in
+///     rows.addInteger(5);
 class RowStore {
  public:
   /// Columns of a row; at least 1 before cells are added.
@@ -44,9 +45,11 @@ class RowStore {
   /// Drops all rows, keeps the memory.
   void clear(int columns) noexcept;
 
+  /// The next cell.
   void addNull() { cells_.push_back({Value::Kind::Null, 0, {.integer = 0}}); }
   void addInteger(std::int64_t value) { cells_.push_back({Value::Kind::Integer, 0, {.integer = value}}); }
   void addReal(double value) { cells_.push_back({Value::Kind::Real, 0, {.real = value}}); }
+  /// A text, copied.
   void addText(std::string_view utf8);
   void addText(StringView text);
   void add(const Value& value);

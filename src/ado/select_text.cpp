@@ -3,13 +3,11 @@
 
 #include <algorithm>
 
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado::sql {
 
 namespace {
-
-bool sameName(StringView left, StringView right) { return compareIgnoringCase(left, right) == 0; }
 
 /// The ORDER BY refers to the list, by a number or by a name that the list gives.
 bool sortsByList(const PlainSelect& select, const Columns& columns) {

@@ -2,17 +2,15 @@
 #include "ado/sql.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 
 namespace zqn::ado::sql {
 
 namespace {
-
-constexpr bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
 bool staysInside(StringView value) { return value.find_first_of(StringView(u"'\0", 2)) == StringView::npos; }
 
@@ -27,19 +25,13 @@ bool isNumberText(StringView text) {
   skip(blank);
   if (!text.empty() && (text.front() == u'+' || text.front() == u'-')) text.remove_prefix(1);
   skip(blank);
-  std::size_t digits = skip(isDigit);
+  std::size_t digits = skip(ascii::isDigit);
   if (!text.empty() && text.front() == u'.') {
     text.remove_prefix(1);
-    digits += skip(isDigit);
+    digits += skip(ascii::isDigit);
   }
   skip(blank);
   return digits > 0 && text.empty();
-}
-
-String pointText(double value) {
-  std::array<char, 32> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-  return String(buffer.data(), end);
 }
 
 }  // namespace
@@ -67,10 +59,10 @@ Text value(const Variant& value) {
 Text number(const Variant& value) {
   Text literal;
   if (const double* real = value.as<double>()) {
-    literal.text_ = pointText(*real);
+    literal.text_ = digits(*real);
     literal.valid_ = std::isfinite(*real);
   } else if (value.isNumber()) {
-    literal.text_ = pointText(CDbl(value));
+    literal.text_ = digits(CDbl(value));
   } else {
     literal.text_ = concatenate(value);
     literal.valid_ = value.isString() && isNumberText(literal.text_);

@@ -1,14 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Texts of statements and criteria. They are made by concatenation, and nothing is escaped; but a value
-// enters through one function, which writes the apostrophes around it:
-//
-//     sql::Text statement = u"SELECT * FROM Vertriebsstati WHERE Status =" + sql::value(Schluessel.Text());
-//     // SELECT * FROM Vertriebsstati WHERE Status ='10'
-//
-// A value with an apostrophe makes the whole text invalid: Open and Execute then raise -2147217900, Find
-// raises 3001, and nothing reaches the database. So a key can break a statement, and can never smuggle one
-// in.
+// Texts of statements and criteria: values enter them through one function.
 #pragma once
 
 #include "runtime/string.h"
@@ -16,8 +8,18 @@
 
 namespace zqn::ado::sql {
 
+/// Texts of statements and criteria. They are made by concatenation, and nothing is escaped; but a value
+/// enters through one function, which writes the apostrophes around it:
+///
+///     sql::Text statement = u"SELECT * FROM Vertriebsstati WHERE Status =" + sql::value(Schluessel.Text());
+///     // SELECT * FROM Vertriebsstati WHERE Status ='10'
+///
+/// A value with an apostrophe makes the whole text invalid: Open and Execute then raise -2147217900, Find
+/// raises 3001, and nothing reaches the database. So a key can break a statement, and can never smuggle one
+/// in.
 class Text {
  public:
+  /// The empty text; valid.
   Text() = default;
   /// A piece that the program itself wrote. Values that a person or a database supplied go through value,
   /// number or bare.
@@ -32,6 +34,7 @@ class Text {
   /// It holds a bare literal: a criterion, and no statement.
   bool criterionOnly() const noexcept { return criterionOnly_; }
 
+  /// Concatenation: valid when both are, and a criterion when either is one.
   Text& operator+=(const Text& right);
   friend Text operator+(Text left, const Text& right) { return std::move(left += right); }
 

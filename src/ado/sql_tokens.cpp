@@ -4,21 +4,21 @@
 #include <algorithm>
 #include <array>
 
+#include "runtime/ascii.h"
+
 namespace zqn::ado::sql {
 
 namespace {
 
 using Kind = Token::Kind;
 
-constexpr bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-constexpr bool isBlank(char16_t unit) { return unit == u' ' || (unit >= u'\t' && unit <= u'\r'); }
+using ascii::isBlank;
+using ascii::isDigit;
+
 constexpr bool startsWord(char16_t unit) {
   return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') || unit == u'_' || unit >= 0x80;
 }
 constexpr bool continuesWord(char16_t unit) { return startsWord(unit) || isDigit(unit) || unit == u'$'; }
-constexpr char16_t asciiUpper(char16_t unit) {
-  return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 32) : unit;
-}
 
 template <std::size_t N>
 bool isOneOf(const Token& token, const std::array<StringView, N>& keywords) {
@@ -32,9 +32,7 @@ bool isComparison(const Token& token) {
 
 }  // namespace
 
-bool Token::is(StringView keyword) const noexcept {
-  return kind == Kind::Word && std::ranges::equal(text, keyword, {}, asciiUpper);
-}
+bool Token::is(StringView keyword) const noexcept { return kind == Kind::Word && ascii::same(text, keyword); }
 
 String Token::unquoted() const {
   if (kind != Kind::Name && kind != Kind::Literal) return String(text);

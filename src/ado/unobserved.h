@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// Reading that is no statement of a dialog: what a control or a companion fetches for itself. While one
-// lives, the connection's observer hears of nothing.
-//
-//     const ado::Unobserved quiet(*connection);
-//     rs.Open(u"SELECT Status, Bezeichnung FROM Vertriebsstati", connection);
+// Reading that is no statement of a dialog.
 #pragma once
 
 #include "ado/connection.h"
 
 namespace zqn::ado {
 
+/// Reading that is no statement of a dialog: what a control or a companion fetches for itself. While one
+/// lives, the connection's observer hears of nothing.
+///
+///     const ado::Unobserved quiet(*connection);
+///     rs.Open(u"SELECT Status, Bezeichnung FROM Vertriebsstati", connection);
 class Unobserved {
  public:
   /// `connection` outlives it.

@@ -3,7 +3,7 @@
 
 #include <bit>
 
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado {
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 
 namespace zqn {
@@ -24,8 +25,7 @@ void DateInput::Value(const Variant& value) {
 Variant DateInput::day() const {
   if (Value().isNull()) return Null;
   const String digits = Value().as<String>()->substr(0, dayDigits);
-  const bool whole = digits.size() == dayDigits &&
-                     std::ranges::all_of(digits, [](char16_t c) { return c >= u'0' && c <= u'9'; });
+  const bool whole = digits.size() == dayDigits && std::ranges::all_of(digits, ascii::isDigit);
   if (!whole) return Null;
   return readDay(digits.substr(6, 2) + digits.substr(4, 2) + digits.substr(0, 4)).value_or(Variant(Null));
 }

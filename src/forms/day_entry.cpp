@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 
 namespace zqn {
@@ -44,7 +45,7 @@ String DayEntry::editText() const { return dayText(day()); }
 
 bool DayEntry::accepts(StringView text) const {
   return text.size() <= longestDate &&
-         std::ranges::all_of(text, [](char16_t c) { return c == u'.' || (c >= u'0' && c <= u'9'); });
+         std::ranges::all_of(text, [](char16_t c) { return c == u'.' || ascii::isDigit(c); });
 }
 
 std::optional<Variant> DayEntry::read(StringView typed) const {

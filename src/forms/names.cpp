@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/names.h"
 
-#include <algorithm>
-
-#include "runtime/locale.h"
+#include "runtime/ascii.h"
+#include "runtime/collation.h"
 
 namespace zqn {
-
-bool sameName(StringView left, StringView right) noexcept {
-  return std::ranges::equal(left, right, {}, upperUnit, upperUnit);
-}
 
 char16_t accessKey(StringView caption) noexcept {
   for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
@@ -27,7 +22,7 @@ ControlName splitName(StringView fullName) noexcept {
   if (digits.empty() || digits.size() > 4) return {fullName};
   int index = 0;
   for (const char16_t digit : digits) {
-    if (digit < u'0' || digit > u'9') return {fullName};
+    if (!ascii::isDigit(digit)) return {fullName};
     index = index * 10 + (digit - u'0');
   }
   return {fullName.substr(0, open), index};

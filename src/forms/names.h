@@ -4,12 +4,10 @@
 // array is written with its index behind it, "Label1(0)".
 #pragma once
 
+#include "runtime/collation.h"
 #include "runtime/string.h"
 
 namespace zqn {
-
-/// Equal without regard to case.
-bool sameName(StringView left, StringView right) noexcept;
 
 struct ControlName {
   StringView name;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
 
@@ -11,7 +12,7 @@ namespace zqn {
 
 namespace {
 
-bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+using ascii::isDigit;
 
 std::size_t countDigits(StringView pattern) {
   return static_cast<std::size_t>(

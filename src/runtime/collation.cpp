@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "runtime/collation.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -6,7 +8,6 @@
 #include <cstring>
 #include <type_traits>
 
-#include "runtime/locale.h"
 #include "runtime/unicode.h"
 
 namespace zqn {
@@ -165,6 +166,8 @@ char16_t lowerUnit(char16_t unit) noexcept {
 }
 
 int compareIgnoringCase(StringView left, StringView right) noexcept { return compareTexts(left, right); }
+
+bool sameName(StringView left, StringView right) noexcept { return compareIgnoringCase(left, right) == 0; }
 
 int compareCollated(StringView left, StringView right) noexcept {
   return compareTexts(withoutTrailingBlanks(left), withoutTrailingBlanks(right));

@@ -47,6 +47,7 @@ bool IsNumeric(const Variant& value);
 /// when there is none. Knows &H and &O. A type suffix ends the number. Error 94 for Null, 6 when too large;
 /// what is no text is converted to text first, so that a decimal comma ends the number.
 double Val(const Variant& value);
+/// Val of a text.
 double valOfText(StringView text);
 template <std::convertible_to<StringView> Text>
 double Val(const Text& text) {
@@ -86,12 +87,14 @@ zqn::Date Today();
 
 /// Removes U+0020 at both ends, nothing else.
 String Trim(StringView text);
+/// Case by the letters of runtime/collation.h, unit by unit: "ß" stays.
 String UCase(StringView text);
 String LCase(StringView text);
 /// Comparison by the locale without regard to case: -1, 0, 1.
 int StrComp(StringView left, StringView right);
 /// Position of `needle` from 0, or npos; exact comparison.
 std::size_t InStr(StringView text, StringView needle);
+/// Every occurrence, from the left; nothing for an empty `from`.
 String Replace(StringView text, StringView from, StringView to);
 /// The parts between the delimiters, at least one: "" gives one empty part.
 std::vector<String> Split(StringView text, StringView delimiter);

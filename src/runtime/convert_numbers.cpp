@@ -82,7 +82,7 @@ double CDbl(const Variant& value) {
 bool CBool(const Variant& value) {
   if (const String* text = value.as<String>()) {
     const Locale& locale = Locale::current();
-    const auto is = [&](StringView word) { return compareIgnoringCase(*text, word) == 0; };
+    const auto is = [&](StringView word) { return sameName(*text, word); };
     if (is(u"True") || is(locale.trueText)) return true;
     if (is(u"False") || is(locale.falseText)) return false;
   }

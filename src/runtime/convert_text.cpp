@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 #include "runtime/locale.h"
 #include "runtime/number_text.h"
 
@@ -39,9 +40,9 @@ String CStr(const Variant& value) {
     case Variant::Kind::Boolean:
       return *value.as<bool>() ? locale.trueText : locale.falseText;
     case Variant::Kind::Integer:
-      return widened(std::to_string(*value.as<std::int16_t>()));
+      return digits(*value.as<std::int16_t>());
     case Variant::Kind::Long:
-      return widened(std::to_string(*value.as<std::int32_t>()));
+      return digits(*value.as<std::int32_t>());
     case Variant::Kind::Double:
       return numberText(*value.as<double>());
     case Variant::Kind::Date:
@@ -78,7 +79,7 @@ String numberText(double value) {
   if (digits > 1) text += Locale::current().decimal + widened(decimal.digits.substr(1));
   text += exponent < 0 ? u"E-" : u"E+";
   if (std::abs(exponent) < 10) text += u'0';
-  return text + widened(std::to_string(std::abs(exponent)));
+  return text + zqn::digits(std::abs(exponent));
 }
 
 String Trim(StringView text) {

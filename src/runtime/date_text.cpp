@@ -5,6 +5,7 @@
 #include <chrono>
 #include <vector>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 
 namespace zqn {
@@ -15,7 +16,7 @@ constexpr std::size_t LongestNumber = 4;
 constexpr int TwoDigitSwitch = 30;  // "29" is 2029, "30" is 1930
 constexpr std::size_t ShortestName = 3;
 
-bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+using ascii::isDigit;
 bool isBlank(char16_t unit) { return unit == u' ' || unit == u'\t'; }
 bool isLetter(char16_t unit) { return upperUnit(unit) != lowerUnit(unit); }
 
@@ -96,7 +97,7 @@ class Reader {
     std::size_t length = 0;
     while (length < rest_.size() && isLetter(rest_[length])) ++length;
     const StringView word = rest_.substr(0, length);
-    const auto same = [&](StringView name) { return compareIgnoringCase(word, name) == 0; };
+    const auto same = [&](StringView name) { return sameName(word, name); };
     for (std::size_t i = 0; i < locale_.monthNames.size(); ++i) {
       const StringView name = locale_.monthNames[i];
       if (same(locale_.shortMonthNames[i]) || (length >= ShortestName && same(name.substr(0, length)))) {

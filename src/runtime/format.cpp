@@ -5,6 +5,7 @@
 
 #include "runtime/convert.h"
 #include "runtime/date_text.h"
+#include "runtime/digits.h"
 #include "runtime/locale.h"
 #include "runtime/number_text.h"
 
@@ -59,9 +60,8 @@ bool isDatePattern(Symbols symbols) {
 }
 
 String padded(int number, std::size_t width) {
-  const std::string digits = std::to_string(number);
-  return String(width > digits.size() ? width - digits.size() : 0, u'0') +
-         String(digits.begin(), digits.end());
+  const String text = digits(number);
+  return String(width > text.size() ? width - text.size() : 0, u'0') + text;
 }
 
 String formatDate(Date date, Symbols symbols) {

@@ -1,41 +1,29 @@
 // SPDX-License-Identifier: MIT
 //
-// What depends on country and day, in one place. Every conversion takes it from Locale::current(); a test
-// sets the day or the decimal sign once, for a scope:
-//
-//     Locale fixed = Locale::german();
-//     fixed.now = [] { return dateSerial(2026, 3, 5); };
-//     Locale::Scope scope(fixed);
+// What depends on country and day, in one place.
 #pragma once
 
 #include <array>
 #include <functional>
 #include <memory>
 
+#include "runtime/collation.h"
 #include "runtime/string.h"
 #include "runtime/variant.h"
 
 namespace zqn {
 
-/// Folds one UTF-16 unit to upper case: Latin, Greek and Cyrillic letters; every other unit is itself.
-char16_t upperUnit(char16_t unit) noexcept;
-char16_t lowerUnit(char16_t unit) noexcept;
-
-/// The order of texts on the embedded database and in criteria: case does not count, accents do, a letter
-/// with an accent sorts behind its plain letter; trailing blanks do not count, but a text of blanks only is
-/// one blank and greater than the empty text. Below 0, 0 or above 0. Takes UTF-8 or UTF-16; ASCII is compared
-/// without conversion.
-int compareCollated(StringView left, StringView right) noexcept;
-int compareCollated(std::string_view left, std::string_view right) noexcept;
-/// Two texts that compare as equal have the same hash.
-std::size_t hashCollated(StringView text) noexcept;
-/// The same order, but every blank counts: the comparison of the dialog language.
-int compareIgnoringCase(StringView left, StringView right) noexcept;
-
 /// Local day and time of the system's clock, in whole seconds.
 Date systemNow();
 
+/// What depends on country and day, in one place. Every conversion takes it from Locale::current(); a test
+/// sets the day or the decimal sign once, for a scope:
+///
+///     Locale fixed = Locale::german();
+///     fixed.now = [] { return dateSerial(2026, 3, 5); };
+///     Locale::Scope scope(fixed);
 struct Locale {
+  /// In which order a date of three numbers is read.
   enum class DateOrder { DayMonthYear, MonthDayYear, YearMonthDay };
 
   char16_t decimal = u',';
@@ -56,7 +44,9 @@ struct Locale {
   /// The present moment.
   std::function<Date()> now = systemNow;
 
+  /// The default.
   static Locale german();
+  /// The one of the innermost Scope, else the German one.
   static const Locale& current() noexcept;
 
   /// Makes a locale the current one until the end of the scope. Scopes nest; one thread.

@@ -6,15 +6,17 @@
 #include <cmath>
 #include <limits>
 
+#include "runtime/ascii.h"
+
 namespace zqn {
 
 namespace {
 
 constexpr double Infinite = std::numeric_limits<double>::infinity();
 
-bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+using ascii::isDigit;
 bool isExponentSign(char16_t unit) { return unit == u'e' || unit == u'E' || unit == u'd' || unit == u'D'; }
-bool isWhite(char16_t unit) { return unit == u' ' || (unit >= u'\t' && unit <= u'\r') || unit == u'\u00A0'; }
+bool isWhite(char16_t unit) { return ascii::isBlank(unit) || unit == u'\u00A0'; }
 
 int digitValue(char16_t unit) {
   if (isDigit(unit)) return unit - u'0';

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A value of the dialog language that carries its kind. A Variant converts nothing by itself; the functions
-// of runtime/convert.h do, and say which errors they raise.
-//
-//     Variant key = u"10";
-//     if (key.isNull()) ...
-//     String text = CStr(key);
+// A value of the dialog language that carries its kind, and an array of such values.
 #pragma once
 
 #include <cstdint>
@@ -30,8 +25,15 @@ class Object {
   virtual ~Object() = default;
 };
 
+/// A value of the dialog language that carries its kind. A Variant converts nothing by itself; the functions
+/// of runtime/convert.h do, and say which errors they raise.
+///
+///     Variant key = u"10";
+///     if (key.isNull()) ...
+///     String text = CStr(key);
 class Variant {
  public:
+  /// In this order everywhere; `Missing` is an argument that was left out.
   enum class Kind : std::uint8_t {
     Empty,
     Null,
@@ -44,6 +46,7 @@ class Variant {
     Object,
     Missing
   };
+  /// The types of the literals `Null` and `Missing`.
   struct NullValue {
     bool operator==(const NullValue&) const = default;
   };
@@ -51,6 +54,7 @@ class Variant {
     bool operator==(const MissingValue&) const = default;
   };
 
+  /// Empty; the others hold what they are given, as the kind of that type.
   Variant() = default;
   Variant(NullValue value) : value_(value) {}
   Variant(MissingValue value) : value_(value) {}
@@ -70,6 +74,7 @@ class Variant {
   Variant& operator=(Variant&&) noexcept = default;
   ~Variant();
 
+  /// What it holds.
   Kind kind() const noexcept { return static_cast<Kind>(value_.index()); }
   bool isEmpty() const noexcept { return kind() == Kind::Empty; }
   bool isNull() const noexcept { return kind() == Kind::Null; }
@@ -103,6 +108,7 @@ inline constexpr Variant::MissingValue Missing{};
 /// single elements.
 class VariantArray {
  public:
+  /// Without elements.
   VariantArray() = default;
   VariantArray(std::initializer_list<Variant> elements) : elements_(elements) {}
   explicit VariantArray(std::vector<Variant> elements, int dimensions = 1)
@@ -112,7 +118,9 @@ class VariantArray {
   /// one dimension.
   Variant& at(std::size_t index);
   const Variant& at(std::size_t index) const;
+  /// Elements in all dimensions.
   std::size_t size() const noexcept { return elements_.size(); }
+  /// 1 unless the host has handed over another array.
   int dimensions() const noexcept { return dimensions_; }
   const std::vector<Variant>& elements() const noexcept { return elements_; }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 
 namespace zqn {
@@ -33,8 +34,7 @@ std::array<String, 3> dateFields(StringView text) {
 
 /// The digits of a year as typed; "" for none. A number in another form ("1e3") counts by its value.
 String yearDigits(const String& typed) {
-  const auto isDigit = [](char16_t unit) { return unit >= u'0' && unit <= u'9'; };
-  if (std::ranges::all_of(typed, isDigit)) {
+  if (std::ranges::all_of(typed, ascii::isDigit)) {
     const bool tooEarly = typed.size() == 4 && typed.starts_with(u"00");
     return tooEarly ? typed.substr(2) : typed;
   }

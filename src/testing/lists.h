@@ -6,6 +6,7 @@
 #include "ado/recordset.h"
 #include "ado/sqlite/sqlite.h"
 #include "forms/tdb_list.h"
+#include "runtime/digits.h"
 #include "testing/forms.h"
 
 namespace zqn::testing {
@@ -32,8 +33,7 @@ class ListTest : public FormTest {
   }
   /// Rows "00001" to `count`, in one statement.
   void insertMany(int count) {
-    execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
-            fromUtf8(std::to_string(count)) +
+    execute(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " + digits(count) +
             u") INSERT INTO Stati SELECT printf('%05d', i), 'Text', NULL FROM n");
   }
   Ref<ado::Recordset> open(StringView statement = u"SELECT * FROM Stati ORDER BY Status") {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
 
@@ -28,10 +29,7 @@ bool kindFits(ColumnKind column, Variant::Kind value) {
   return false;
 }
 
-bool isDate14(const String& text) {
-  return text.size() == 14 &&
-         std::ranges::all_of(text, [](char16_t unit) { return unit >= u'0' && unit <= u'9'; });
-}
+bool isDate14(const String& text) { return text.size() == 14 && std::ranges::all_of(text, ascii::isDigit); }
 
 }  // namespace
 

@@ -13,6 +13,8 @@
 
 #include "ado/odbc/connection_string.h"
 #include "ado/odbc/odbc.h"
+#include "runtime/ascii.h"
+#include "runtime/digits.h"
 #include "runtime/locale.h"
 #include "testing/provider_suite/suite.h"
 
@@ -47,7 +49,7 @@ class ServerContext : public suite::Context {
 
   Ref<Connection> connect() override { return openOdbc(address_); }
   String textColumn(int size) const override {
-    return u"VARCHAR(" + fromUtf8(std::to_string(size)) +
+    return u"VARCHAR(" + digits(size) +
            (isPostgreSql() ? u") COLLATE zqn_text"
                            : u") CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_nopad_as_ci");
   }
@@ -56,11 +58,7 @@ class ServerContext : public suite::Context {
                           : u"INTEGER AUTO_INCREMENT PRIMARY KEY";
   }
   String resultName(StringView declared) const override {
-    String name(declared);
-    if (!isPostgreSql()) return name;
-    for (char16_t& unit : name)
-      if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
-    return name;
+    return isPostgreSql() ? ascii::lower(declared) : String(declared);
   }
   bool ignoresTrailingBlanks() const override { return false; }
   bool updatesWithoutKey() const override { return false; }

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "runtime/ascii.h"
+
 namespace zqn::ado::odbc {
 
 namespace {
@@ -15,22 +17,10 @@ struct Piece {
   ConnectionPair pair;
 };
 
-bool isBlank(char16_t unit) { return unit == u' ' || unit == u'\t' || unit == u'\r' || unit == u'\n'; }
+using ascii::isBlank;
+using ascii::trimmed;
 
-StringView trimmed(StringView text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
-
-bool sameKey(StringView left, StringView right) {
-  const auto lower = [](char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-  };
-  return std::ranges::equal(left, right, {}, lower, lower);
-}
-
-bool isPassword(StringView key) { return sameKey(key, u"PWD") || sameKey(key, u"Password"); }
+bool isPassword(StringView key) { return ascii::same(key, u"PWD") || ascii::same(key, u"Password"); }
 
 /// Reads on behind an opening brace, up to the closing one, or to the end of a text that has none.
 std::size_t readBraces(StringView text, std::size_t at, String& value) {
@@ -99,7 +89,7 @@ String connectionString(const std::vector<ConnectionPair>& pairs) {
 
 String connectionValue(StringView connectionString, StringView key) {
   for (const Piece& piece : pieces(connectionString))
-    if (sameKey(piece.pair.key, key)) return piece.pair.value;
+    if (ascii::same(piece.pair.key, key)) return piece.pair.value;
   return {};
 }
 

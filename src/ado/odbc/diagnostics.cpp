@@ -5,6 +5,7 @@
 #include <array>
 
 #include "ado/odbc/wide.h"
+#include "runtime/ascii.h"
 
 namespace zqn::ado::odbc {
 
@@ -39,7 +40,7 @@ String plainWords(StringView words) {
   }
   String line;
   for (const char16_t unit : words) {
-    const bool blank = unit == u' ' || (unit >= u'\t' && unit <= u'\r');
+    const bool blank = ascii::isBlank(unit);
     if (!blank) line += unit;
     if (blank && !line.empty() && line.back() != u' ') line += u' ';
   }

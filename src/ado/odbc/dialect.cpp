@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "runtime/locale.h"
+#include "runtime/ascii.h"
 
 namespace zqn::ado::odbc {
 
@@ -60,7 +60,7 @@ const std::array<Dialect, 5>& dialects() {
 const Dialect& dialectOf(StringView product) {
   const auto& rows = dialects();
   const auto row = std::ranges::find_if(
-      rows, [&](const Dialect& dialect) { return compareIgnoringCase(dialect.product, product) == 0; });
+      rows, [&](const Dialect& dialect) { return ascii::same(dialect.product, product); });
   return row == rows.end() ? rows.front() : *row;
 }
 

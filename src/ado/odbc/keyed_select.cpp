@@ -3,15 +3,14 @@
 
 #include <algorithm>
 
-#include "runtime/locale.h"
+#include "runtime/collation.h"
+#include "runtime/digits.h"
 
 namespace zqn::ado::odbc {
 
 namespace {
 
 using Kind = sql::Token::Kind;
-
-bool sameName(StringView left, StringView right) { return compareIgnoringCase(left, right) == 0; }
 
 const Column* baseOf(const Columns& columns, StringView baseColumn) {
   const auto found =
@@ -28,10 +27,10 @@ String joined(const std::vector<String>& columns, StringView behindEach, StringV
 
 }  // namespace
 
-std::optional<KeyedSelect> KeyedSelect::of(StringView text, Catalogue& catalogue) {
+std::optional<KeyedSelect> KeyedSelect::of(StringView text, Tables& tables) {
   const auto select = sql::plainSelect(text);
   if (!select) return {};
-  const TableInfo* table = catalogue.table(select->table);
+  const TableInfo* table = tables.table(select->table);
   if (!table || table->key.empty()) return {};
   return KeyedSelect(text, *table);
 }
@@ -49,8 +48,7 @@ std::vector<String> KeyedSelect::key() const {
 }
 
 std::vector<String> KeyedSelect::renamed(std::vector<String> columns) {
-  for (std::size_t i = 0; i < columns.size(); ++i)
-    columns[i] += u" AS zqn_key_" + fromUtf8(std::to_string(i));
+  for (std::size_t i = 0; i < columns.size(); ++i) columns[i] += u" AS zqn_key_" + digits(i);
   return columns;
 }
 

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "ado/odbc/session.h"
+#include "ado/odbc/server.h"
 #include "ado/select_text.h"
 
 namespace zqn::ado::odbc {
@@ -13,7 +13,7 @@ namespace zqn::ado::odbc {
 class KeyedSelect {
  public:
   /// No value for another kind of statement, and for a table without a primary key.
-  static std::optional<KeyedSelect> of(StringView text, Catalogue& catalogue);
+  static std::optional<KeyedSelect> of(StringView text, Tables& tables);
 
   /// The columns of the key, in quotes, in their order.
   std::vector<String> key() const;

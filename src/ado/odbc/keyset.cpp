@@ -5,6 +5,7 @@
 
 #include "ado/field_values.h"
 #include "ado/odbc/query.h"
+#include "runtime/digits.h"
 
 namespace zqn::ado::odbc {
 
@@ -15,17 +16,15 @@ constexpr std::size_t Growth = 8;
 constexpr std::size_t LargestPage = FirstPage * Growth * Growth * Growth;
 constexpr std::size_t AllAtOnce = 0;
 
-String number(std::size_t value) { return fromUtf8(std::to_string(value)); }
-
 }  // namespace
 
-std::unique_ptr<OdbcKeyset> OdbcKeyset::make(std::shared_ptr<Session> session, StringView text,
+std::unique_ptr<OdbcKeyset> OdbcKeyset::make(std::shared_ptr<Server> server, StringView text,
                                              std::shared_ptr<const Columns> known) {
-  auto select = KeyedSelect::of(text, session->catalogue());
+  auto select = KeyedSelect::of(text, server->tables());
   if (!select) return nullptr;
   if (!known) {
     const auto describe = [&](const std::vector<String>& hidden) {
-      Query& query = session->kept(session->translated(select->oneRow(hidden)).text);
+      Query& query = server->kept(server->translated(select->oneRow(hidden)).text);
       query.describe();
       return query.columns();
     };
@@ -42,13 +41,12 @@ std::unique_ptr<OdbcKeyset> OdbcKeyset::make(std::shared_ptr<Session> session, S
     if (!select->mark(columns, hidden.size())) return nullptr;
     known = std::make_shared<const Columns>(std::move(columns));
   }
-  return std::unique_ptr<OdbcKeyset>(
-      new OdbcKeyset(std::move(session), std::move(*select), std::move(known)));
+  return std::unique_ptr<OdbcKeyset>(new OdbcKeyset(std::move(server), std::move(*select), std::move(known)));
 }
 
-OdbcKeyset::OdbcKeyset(std::shared_ptr<Session> session, KeyedSelect select,
+OdbcKeyset::OdbcKeyset(std::shared_ptr<Server> server, KeyedSelect select,
                        std::shared_ptr<const Columns> columns)
-    : session_(std::move(session)),
+    : server_(std::move(server)),
       select_(std::move(select)),
       columns_(std::move(columns)),
       keyColumns_(select_.positions(*columns_)),
@@ -59,10 +57,10 @@ OdbcKeyset::~OdbcKeyset() { end(); }
 void OdbcKeyset::begin() {
   begun_ = true;
   keysOnly_ = select_.keysInOrder(*columns_);
-  Link& link = session_->link();
+  Link& link = server_->link();
   // What the caller has not committed yet, another connection does not see.
   const bool inPages =
-      !session_->dialect().snapshot.empty() && !select_.isLimited() && !session_->inTransaction();
+      !server_->dialect().snapshot.empty() && !select_.isLimited() && !server_->inTransaction();
   if (!inPages) return readPage(link, AllAtOnce);
   readPage(link, FirstPage + 1);
   if (read_.size() <= FirstPage) return;
@@ -73,28 +71,28 @@ void OdbcKeyset::begin() {
 }
 
 bool OdbcKeyset::beginSnapshot() {
-  if (session_->reading) session_->reading->readAll();
+  if (server_->reading) server_->reading->readAll();
   try {
-    Link& reader = session_->reader();
-    for (const StringView statement : session_->dialect().snapshot) reader.run(statement);
+    Link& reader = server_->reader();
+    for (const StringView statement : server_->dialect().snapshot) reader.run(statement);
   } catch (const RuntimeError&) {
     // The server has no connection left for us, or forbids the transaction: the list is read all the same.
     return false;
   }
-  session_->reading = this;
+  server_->reading = this;
   reading_ = true;
   pageSize_ = FirstPage;
   return true;
 }
 
 void OdbcKeyset::readPage(Link& link, std::size_t count) {
-  String text = session_->translated(keysOnly_.text).text;
-  if (count != AllAtOnce) text += u"\nLIMIT " + number(count) + u" OFFSET " + number(read_.size());
+  String text = server_->translated(keysOnly_.text).text;
+  if (count != AllAtOnce) text += u"\nLIMIT " + digits(count) + u" OFFSET " + digits(read_.size());
   // The beginning of a list is asked for again and again.
-  const bool again = &link == &session_->link();
+  const bool again = &link == &server_->link();
   std::optional<Query> once;
-  if (!again) once.emplace(*session_, link, text);
-  Query& query = again ? session_->kept(text) : *once;
+  if (!again) once.emplace(*server_, link, text);
+  Query& query = again ? server_->kept(text) : *once;
   query.open();
   RowStore rows(static_cast<int>(query.columns().size()));
   std::vector<Value> key(keyColumns_.size());
@@ -112,7 +110,7 @@ void OdbcKeyset::readPage(Link& link, std::size_t count) {
 void OdbcKeyset::nextPage() {
   const std::size_t before = read_.size();
   try {
-    readPage(session_->reader(), pageSize_);
+    readPage(server_->reader(), pageSize_);
   } catch (const RuntimeError& failure) {
     read_.resize(before);
     failure_ = failure;
@@ -129,10 +127,10 @@ void OdbcKeyset::readAll() {
 void OdbcKeyset::end() noexcept {
   if (!reading_) return;
   reading_ = false;
-  if (session_->reading == this) session_->reading = nullptr;
+  if (server_->reading == this) server_->reading = nullptr;
   try {
     // A connection that has dropped has ended the transaction by itself.
-    if (!session_->reader().dropped()) session_->reader().run(u"ROLLBACK");
+    if (!server_->reader().dropped()) server_->reader().run(u"ROLLBACK");
   } catch (const RuntimeError&) {
   }
 }
@@ -166,9 +164,9 @@ std::optional<RowHandle> OdbcKeyset::inserted(const std::vector<Variant>& values
       continue;
     }
     // The database has counted: one column can be told.
-    if (given.rows() > 0 || session_->dialect().lastNumber.empty()) return {};
+    if (given.rows() > 0 || server_->dialect().lastNumber.empty()) return {};
     try {
-      Query& last = session_->kept(String(session_->dialect().lastNumber));
+      Query& last = server_->kept(String(server_->dialect().lastNumber));
       last.open();
       last.fetch(given, 1);
       last.close();
@@ -194,9 +192,9 @@ bool OdbcKeyset::readRow(RowHandle row, RowStore& rows) {
     std::vector<String> hidden;
     for (const Column& column : *columns_)
       if (column.hidden) hidden.push_back(sql::quoted(column.baseColumn));
-    rowText_ = session_->translated(select_.oneRow(hidden)).text;
+    rowText_ = server_->translated(select_.oneRow(hidden)).text;
   }
-  Query& query = session_->kept(rowText_);
+  Query& query = server_->kept(rowText_);
   query.open(keys_.key(row));
   const int before = rows.rows();
   query.fetch(rows, 1);
@@ -211,7 +209,7 @@ std::optional<std::vector<RowHandle>> OdbcKeyset::rowsWhere(std::span<const Colu
     columns.push_back(sql::quoted((*columns_)[static_cast<std::size_t>(comparison.column)].baseColumn));
     values.push_back(comparison.value);
   }
-  Query& query = session_->kept(session_->translated(select_.keysWhere(columns)).text);
+  Query& query = server_->kept(server_->translated(select_.keysWhere(columns)).text);
   query.open(values);
   RowStore rows(static_cast<int>(keyColumns_.size()));
   while (query.fetch(rows, FirstPage)) {

@@ -13,7 +13,7 @@ namespace zqn::ado::odbc {
 class OdbcKeyset : public Keyset {
  public:
   /// nullptr where the statement's rows have no key.
-  static std::unique_ptr<OdbcKeyset> make(std::shared_ptr<Session> session, StringView text,
+  static std::unique_ptr<OdbcKeyset> make(std::shared_ptr<Server> server, StringView text,
                                           std::shared_ptr<const Columns> known);
   ~OdbcKeyset() override;
 
@@ -26,7 +26,7 @@ class OdbcKeyset : public Keyset {
   std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) override;
 
  private:
-  OdbcKeyset(std::shared_ptr<Session> session, KeyedSelect select, std::shared_ptr<const Columns> columns);
+  OdbcKeyset(std::shared_ptr<Server> server, KeyedSelect select, std::shared_ptr<const Columns> columns);
 
   void begin();
   /// Takes the second connection; false where it cannot be had.
@@ -37,7 +37,7 @@ class OdbcKeyset : public Keyset {
   void readAll();
   void end() noexcept;
 
-  std::shared_ptr<Session> session_;
+  std::shared_ptr<Server> server_;
   KeyedSelect select_;
   std::shared_ptr<const Columns> columns_;
   std::vector<int> keyColumns_;  // where each column of the key stands among them

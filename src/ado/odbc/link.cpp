@@ -6,7 +6,7 @@
 
 #include "ado/odbc/connection_string.h"
 #include "ado/odbc/wide.h"
-#include "runtime/locale.h"
+#include "runtime/ascii.h"
 
 #ifdef ZQN_SANITIZE
 /// The driver of PostgreSQL keeps some memory for the life of the process.
@@ -34,8 +34,8 @@ String completed(StringView connectionString, const Dialect& dialect) {
   std::vector<ConnectionPair> pairs = connectionPairs(connectionString);
   for (const auto& [key, value] : dialect.connection) {
     const StringView name = key;
-    const bool given = std::ranges::any_of(
-        pairs, [&](const ConnectionPair& pair) { return compareIgnoringCase(pair.key, name) == 0; });
+    const bool given =
+        std::ranges::any_of(pairs, [&](const ConnectionPair& pair) { return ascii::same(pair.key, name); });
     if (!given) pairs.push_back({String(key), String(value)});
   }
   return odbc::connectionString(pairs);

@@ -14,35 +14,35 @@ namespace {
 
 class OdbcProvider : public Provider {
  public:
-  explicit OdbcProvider(std::shared_ptr<odbc::Session> session) : session_(std::move(session)) {}
+  explicit OdbcProvider(std::shared_ptr<odbc::Server> server) : server_(std::move(server)) {}
 
   std::unique_ptr<Statement> prepare(StringView text, Purpose purpose) override {
-    return std::make_unique<odbc::OdbcStatement>(session_, text, purpose);
+    return std::make_unique<odbc::OdbcStatement>(server_, text, purpose);
   }
   std::unique_ptr<Keyset> keyset(StringView text, std::shared_ptr<const Columns> known) override {
-    return odbc::OdbcKeyset::make(session_, text, std::move(known));
+    return odbc::OdbcKeyset::make(server_, text, std::move(known));
   }
   Condition sameValue(const Column& column, const Value& read) const override {
     const String name = quoted(column.baseColumn);
     if (read.kind == Value::Kind::Null) return {name + u" IS NULL", {}};
     const String equal = name + u"=?";
     if (!isTextType(column.type) || read.kind != Value::Kind::Text) return {equal, {read}};
-    const odbc::Dialect& dialect = session_->dialect();
+    const odbc::Dialect& dialect = server_->dialect();
     const String exact = String(dialect.exactBefore) + name + String(dialect.exactBehind) + u"=?";
     // The plain comparison of a key lets the server find the row by its index.
     if (!column.key) return {exact, {read}};
     return {equal + u" AND " + exact, {read, read}};
   }
-  String name() const override { return session_->link().product(); }
+  String name() const override { return server_->link().product(); }
 
  private:
-  std::shared_ptr<odbc::Session> session_;
+  std::shared_ptr<odbc::Server> server_;
 };
 
 }  // namespace
 
 std::unique_ptr<Provider> odbcProvider(StringView connectionString, const OdbcOptions& options) {
-  return std::make_unique<OdbcProvider>(std::make_shared<odbc::Session>(connectionString, options));
+  return std::make_unique<OdbcProvider>(std::make_shared<odbc::Server>(connectionString, options));
 }
 
 Ref<Connection> openOdbc(StringView connectionString, const OdbcOptions& options) {

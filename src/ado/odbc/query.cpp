@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "ado/enums.h"
-#include "ado/odbc/session.h"
+#include "ado/odbc/server.h"
 #include "ado/odbc/wide.h"
+#include "runtime/digits.h"
 
 namespace zqn::ado::odbc {
 
@@ -57,17 +57,10 @@ int typeOf(SQLSMALLINT type, const Dialect& dialect) {
   }
 }
 
-template <class Number>
-String digits(Number value) {
-  std::array<char, 32> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-  return String(buffer.data(), end);
-}
-
 }  // namespace
 
-Query::Query(Session& session, Link& link, StringView text)
-    : session_(session), link_(link), text_(wellFormed(text)) {}
+Query::Query(Server& server, Link& link, StringView text)
+    : server_(server), link_(link), text_(wellFormed(text)) {}
 
 void Query::fail() {
   const RuntimeError error = link_.failure(handle_);
@@ -84,7 +77,7 @@ void Query::makeHandle() {
 
 void Query::prepare() {
   if (prepared_) return;
-  session_.tell(text_);
+  server_.tell(text_);
   const SQLRETURN result = SQLPrepareW(handle_.get(), asWide(text_), static_cast<SQLINTEGER>(text_.size()));
   if (!SQL_SUCCEEDED(result)) fail();
   prepared_ = true;
@@ -109,7 +102,7 @@ void Query::open(std::span<const Value> parameters) {
                          link_.product());
     bind(parameters);
   }
-  session_.tellRun(text_, parameters);
+  server_.tellRun(text_, parameters);
   execute(prepared);
   if (!described_) readDescription();
   open_ = !columns_.empty();
@@ -163,7 +156,7 @@ void Query::bind(std::span<const Value> values) {
 }
 
 void Query::execute(bool prepared) {
-  if (!prepared) session_.tell(text_);
+  if (!prepared) server_.tell(text_);
   const auto run = [&] {
     return prepared ? SQLExecute(handle_.get())
                     : SQLExecDirectW(handle_.get(), asWide(text_), static_cast<SQLINTEGER>(text_.size()));

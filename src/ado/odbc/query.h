@@ -3,7 +3,7 @@
 // Inside the ODBC provider: one statement handle, prepared once and run again, its rows read in blocks. The
 // statement is in the server's words already.
 //
-//     Query query(session, session.link(), u"SELECT status FROM vertriebsstati WHERE status=?");
+//     Query query(server, server.link(), u"SELECT status FROM vertriebsstati WHERE status=?");
 //     query.open(key);
 //     while (query.fetch(rows, 100)) ...
 #pragma once
@@ -16,11 +16,11 @@
 
 namespace zqn::ado::odbc {
 
-class Session;
+class Server;
 
 class Query {
  public:
-  Query(Session& session, Link& link, StringView text);
+  Query(Server& server, Link& link, StringView text);
 
   /// Prepares it without running it: the server says what columns there will be.
   void describe();
@@ -59,7 +59,7 @@ class Query {
   Source sourceOf(SQLSMALLINT type, SQLULEN size, bool stored) const;
   [[noreturn]] void fail();
 
-  Session& session_;
+  Server& server_;
   Link& link_;
   String text_;
   Handle handle_;

@@ -3,6 +3,7 @@
 // What a database server adds to the rules of recordsets: drops, locks, types, long texts, what is sent.
 #include <algorithm>
 
+#include "runtime/digits.h"
 #include "runtime/locale.h"
 #include "testing/server_context.h"
 
@@ -357,10 +358,9 @@ TEST_F(Server, LongListIsReadAtOnceWhereTheServerHasNoSecondConnection) {
 
 TEST_F(Server, TellsEachRunWithItsParameters) {
   std::vector<String> runs;
-  const auto on =
-      openOdbc(context.address(), {.runs = [&](StringView text, std::span<const Value> values) {
-                 runs.push_back(String(text.substr(0, 6)) + u" " + fromUtf8(std::to_string(values.size())));
-               }});
+  const auto on = openOdbc(context.address(), {.runs = [&](StringView text, std::span<const Value> values) {
+                             runs.push_back(String(text.substr(0, 6)) + u" " + digits(values.size()));
+                           }});
   for (int time = 0; time < 2; ++time) {
     const auto rs = open(on, RowA);
     rs->Fields(u"Zahl").Value(5.0 + time);

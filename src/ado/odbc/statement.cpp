@@ -5,16 +5,16 @@
 
 namespace zqn::ado::odbc {
 
-OdbcStatement::OdbcStatement(std::shared_ptr<Session> session, StringView text, Purpose purpose)
-    : session_(std::move(session)),
+OdbcStatement::OdbcStatement(std::shared_ptr<Server> server, StringView text, Purpose purpose)
+    : server_(std::move(server)),
       text_(text),
       purpose_(purpose),
-      translation_(session_->translated(text)),
-      query_(std::make_unique<Query>(*session_, session_->link(), translation_.text)) {}
+      translation_(server_->translated(text)),
+      query_(std::make_unique<Query>(*server_, server_->link(), translation_.text)) {}
 
 void OdbcStatement::open(std::span<const Value> parameters) {
   rowsAffected_ = 0;
-  if (!session_->mayRun(translation_)) return;
+  if (!server_->mayRun(translation_)) return;
   if (outdated_) renew();
   run(parameters);
   if (query_->descriptions() != description_) learnColumns(parameters);
@@ -26,17 +26,17 @@ void OdbcStatement::run(std::span<const Value> parameters) {
   try {
     query_->open(parameters);
   } catch (const RuntimeError& failure) {
-    session_->ran(translation_, true);
+    server_->ran(translation_, true);
     outdated_ = failure.number() == error::TableNotFound;
-    if (outdated_) session_->forgetTables();
+    if (outdated_) server_->forgetTables();
     throw;
   }
-  session_->ran(translation_, false);
+  server_->ran(translation_, false);
 }
 
 void OdbcStatement::renew() {
-  translation_ = session_->translated(text_);
-  query_ = std::make_unique<Query>(*session_, session_->link(), translation_.text);
+  translation_ = server_->translated(text_);
+  query_ = std::make_unique<Query>(*server_, server_->link(), translation_.text);
   description_ = 0;
   outdated_ = false;
 }
@@ -44,12 +44,12 @@ void OdbcStatement::renew() {
 void OdbcStatement::learnColumns(std::span<const Value> parameters) {
   Columns columns = query_->columns();
   if (purpose_ == Purpose::Keyed && !columns.empty()) {
-    const auto keyed = KeyedSelect::of(text_, session_->catalogue());
+    const auto keyed = KeyedSelect::of(text_, server_->tables());
     const auto hidden = keyed ? keyed->missing(columns) : std::vector<String>();
     if (!hidden.empty()) {
-      const Translation completed = session_->translated(keyed->withHidden(hidden));
+      const Translation completed = server_->translated(keyed->withHidden(hidden));
       query_->close();
-      query_ = std::make_unique<Query>(*session_, session_->link(), completed.text);
+      query_ = std::make_unique<Query>(*server_, server_->link(), completed.text);
       query_->open(parameters);
       columns = query_->columns();
     }

@@ -4,13 +4,13 @@
 #pragma once
 
 #include "ado/odbc/query.h"
-#include "ado/odbc/session.h"
+#include "ado/odbc/server.h"
 
 namespace zqn::ado::odbc {
 
 class OdbcStatement : public Statement {
  public:
-  OdbcStatement(std::shared_ptr<Session> session, StringView text, Purpose purpose);
+  OdbcStatement(std::shared_ptr<Server> server, StringView text, Purpose purpose);
 
   void open(std::span<const Value> parameters) override;
   bool fetch(RowStore& rows, std::size_t atMost) override { return query_->fetch(rows, atMost); }
@@ -25,7 +25,7 @@ class OdbcStatement : public Statement {
   /// After the first run, and whenever the table has changed: what the columns are, with those of the key.
   void learnColumns(std::span<const Value> parameters);
 
-  std::shared_ptr<Session> session_;
+  std::shared_ptr<Server> server_;
   String text_;
   Purpose purpose_;
   Translation translation_;

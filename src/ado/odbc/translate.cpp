@@ -5,9 +5,10 @@
 #include <array>
 #include <optional>
 
-#include "ado/odbc/catalogue.h"
+#include "ado/odbc/tables.h"
 #include "ado/sql_tokens.h"
-#include "runtime/locale.h"
+#include "runtime/ascii.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado::odbc {
 
@@ -61,13 +62,6 @@ bool isKeyword(const Token& token) {
       u"HAVING", u"IN",   u"INSERT",   u"INTO",   u"IS",      u"JOIN",   u"LIKE",  u"NOT",     u"NULL",
       u"ON",     u"OR",   u"ORDER",    u"SELECT", u"SET",     u"THEN",   u"TRUE",  u"WHEN",    u"WHERE"};
   return isOneOf(token, words);
-}
-
-String lowerCase(StringView name) {
-  String lower(name);
-  for (char16_t& unit : lower)
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
-  return lower;
 }
 
 bool isName(const Token& token) { return token.kind == Kind::Word || token.kind == Kind::Name; }
@@ -227,7 +221,7 @@ class Translator {
     } else if (dialect_.lowerCaseNames && token.kind == Kind::Word && !isKeyword(token) &&
                (table || !at(i + 1).isSymbol(u"("))) {
       const auto name = stored(i, table);
-      if (name && *name != lowerCase(token.text)) replace(i, i, sql::quoted(*name));
+      if (name && *name != ascii::lower(token.text)) replace(i, i, sql::quoted(*name));
     }
   }
 
@@ -235,8 +229,7 @@ class Translator {
   bool isTable(std::size_t i) const {
     const bool qualifies = isName(tokens_[i]) && at(i + 1).isSymbol(u".");
     return std::ranges::any_of(tables_, [&](std::size_t table) {
-      return table == i ||
-             (qualifies && compareIgnoringCase(tokens_[table].unquoted(), tokens_[i].unquoted()) == 0);
+      return table == i || (qualifies && sameName(tokens_[table].unquoted(), tokens_[i].unquoted()));
     });
   }
 
@@ -246,8 +239,7 @@ class Translator {
     const bool meant = sorting_ || (i > 0 && at(i - 1).is(u"AS")) || at(i + 1).isSymbol(u".");
     if (!meant) return nullptr;
     const String name = tokens_[i].unquoted();
-    const auto found = std::ranges::find_if(
-        aliases_, [&](const String& one) { return compareIgnoringCase(one, name) == 0; });
+    const auto found = std::ranges::find_if(aliases_, [&](const String& one) { return sameName(one, name); });
     return found == aliases_.end() ? nullptr : &*found;
   }
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ado/odbc/catalogue.h"
+#include "ado/odbc/tables.h"
 #include "runtime/locale.h"
 #include "testing/runtime.h"
 

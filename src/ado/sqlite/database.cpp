@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ado/sqlite/database.h"
 
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado::sqlite {
 

@@ -16,17 +16,17 @@ bool inMainDatabase(sqlite3_stmt* statement, int column) {
 
 }  // namespace
 
-std::unique_ptr<SqliteKeyset> SqliteKeyset::make(std::shared_ptr<Session> session, StringView text) {
-  auto keyed = keyedSelect(*session->database, text, RowsOf::OneHandle);
+std::unique_ptr<SqliteKeyset> SqliteKeyset::make(std::shared_ptr<OpenFile> file, StringView text) {
+  auto keyed = selectWithHandle(*file->database, text, RowsOf::OneHandle);
   if (!keyed || sqlite3_bind_parameter_count(keyed->statement.get()) != 1) return nullptr;
-  auto keyset = std::unique_ptr<SqliteKeyset>(new SqliteKeyset(std::move(session), *keyed));
+  auto keyset = std::unique_ptr<SqliteKeyset>(new SqliteKeyset(std::move(file), *keyed));
   keyset->columns_ = std::make_shared<const Columns>(std::move(keyed->columns));
   keyset->rowStatement_ = std::move(keyed->statement);
   return keyset;
 }
 
-SqliteKeyset::SqliteKeyset(std::shared_ptr<Session> session, const KeyedSelect& keyed)
-    : session_(std::move(session)),
+SqliteKeyset::SqliteKeyset(std::shared_ptr<OpenFile> file, const SelectWithHandle& keyed)
+    : file_(std::move(file)),
       keysOnly_(sql::keysOnly(keyed.select, keyed.columns, {keyed.rowId})),
       from_(keyed.select.from),
       rowId_(keyed.rowId) {}
@@ -35,7 +35,7 @@ SqliteKeyset::~SqliteKeyset() { end(); }
 
 void SqliteKeyset::begin() {
   if (!beginThroughReader()) {
-    keyDatabase_ = session_->database;
+    keyDatabase_ = file_->database;
     keyStatement_ = keyDatabase_->prepare(keysOnly_.text);
     advance();
     readAll();
@@ -44,24 +44,23 @@ void SqliteKeyset::begin() {
 }
 
 bool SqliteKeyset::beginThroughReader() {
-  const Database& database = *session_->database;
+  const Database& database = *file_->database;
   const auto handle = std::ranges::find_if(*columns_, &Column::rowHandle);
-  const bool sameRows = !session_->path.empty() && sqlite3_get_autocommit(database.get()) != 0 &&
+  const bool sameRows = !file_->path.empty() && sqlite3_get_autocommit(database.get()) != 0 &&
                         inMainDatabase(rowStatement_.get(), static_cast<int>(handle - columns_->begin()));
   if (!sameRows) return false;
   // A statement that is still open would lend this one its view of the file, which may be out of date.
-  if (session_->reading) session_->reading->readAll();
+  if (file_->reading) file_->reading->readAll();
   try {
-    if (!session_->reader) {
-      session_->reader =
-          std::make_shared<Database>(session_->path, SQLITE_OPEN_READONLY, session_->busyMilliseconds);
+    if (!file_->reader) {
+      file_->reader = std::make_shared<Database>(file_->path, SQLITE_OPEN_READONLY, file_->busyMilliseconds);
     }
-    keyDatabase_ = session_->reader;
+    keyDatabase_ = file_->reader;
     keyStatement_ = keyDatabase_->prepare(keysOnly_.text);
   } catch (const RuntimeError&) {
     return false;
   }
-  session_->reading = this;
+  file_->reading = this;
   advance();
   const bool readable = !failure_;
   failure_.reset();
@@ -88,7 +87,7 @@ void SqliteKeyset::readAll() {
 void SqliteKeyset::end() noexcept {
   keyStatement_.reset();
   keyDatabase_.reset();
-  if (session_->reading == this) session_->reading = nullptr;
+  if (file_->reading == this) file_->reading = nullptr;
 }
 
 bool SqliteKeyset::fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) {
@@ -114,7 +113,7 @@ RowHandle SqliteKeyset::handleOf(const RowView& row) {
 }
 
 bool SqliteKeyset::readRow(RowHandle row, RowStore& rows) {
-  const Database& database = *session_->database;
+  const Database& database = *file_->database;
   sqlite3_stmt* const statement = rowStatement_.get();
   sqlite3_bind_int64(statement, 1, row);
   const bool there = database.step(statement);
@@ -124,7 +123,7 @@ bool SqliteKeyset::readRow(RowHandle row, RowStore& rows) {
 }
 
 std::optional<std::vector<RowHandle>> SqliteKeyset::rowsWhere(std::span<const ColumnEquals> comparisons) {
-  const Database& database = *session_->database;
+  const Database& database = *file_->database;
   if (!std::ranges::equal(comparisons, whereColumns_, {}, &ColumnEquals::column)) {
     String text = u"SELECT " + rowId_ + u" FROM " + from_ + u"\nWHERE 1";
     whereColumns_.clear();

@@ -13,7 +13,7 @@ namespace zqn::ado::sqlite {
 class SqliteKeyset;
 
 /// The connections to one file.
-struct Session {
+struct OpenFile {
   std::shared_ptr<Database> database;
   /// Path for a second connection; empty when a second one would not see the same rows (in memory, or without
   /// a write-ahead log).
@@ -28,28 +28,28 @@ struct Session {
 class SqliteKeyset : public Keyset {
  public:
   /// nullptr where the statement has no handles.
-  static std::unique_ptr<SqliteKeyset> make(std::shared_ptr<Session> session, StringView text);
+  static std::unique_ptr<SqliteKeyset> make(std::shared_ptr<OpenFile> file, StringView text);
   ~SqliteKeyset() override;
 
   std::shared_ptr<const Columns> columns() const override { return columns_; }
   bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) override;
   RowHandle handleOf(const RowView& row) override;
   std::optional<RowHandle> inserted(const std::vector<Variant>&) override {
-    return sqlite3_last_insert_rowid(session_->database->get());
+    return sqlite3_last_insert_rowid(file_->database->get());
   }
   void written(RowHandle, const std::vector<Variant>&) override {}
   bool readRow(RowHandle row, RowStore& rows) override;
   std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) override;
 
  private:
-  SqliteKeyset(std::shared_ptr<Session> session, const KeyedSelect& keyed);
+  SqliteKeyset(std::shared_ptr<OpenFile> file, const SelectWithHandle& keyed);
   void begin();
   bool beginThroughReader();
   void advance();
   void readAll();
   void end() noexcept;
 
-  std::shared_ptr<Session> session_;
+  std::shared_ptr<OpenFile> file_;
   std::shared_ptr<const Columns> columns_;
   sql::KeysOnly keysOnly_;
   String from_, rowId_;

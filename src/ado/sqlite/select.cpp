@@ -6,15 +6,14 @@
 
 #include "ado/enums.h"
 #include "ado/select_text.h"
-#include "runtime/locale.h"
+#include "runtime/ascii.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado::sqlite {
 
 namespace {
 
 String asText(const char* utf8) { return utf8 ? fromUtf8(utf8) : String(); }
-
-bool sameName(StringView left, StringView right) { return compareIgnoringCase(left, right) == 0; }
 
 /// Type and size from a declaration such as "VARCHAR(30)".
 void readDeclaration(Column& column, const char* declaration) {
@@ -24,7 +23,7 @@ void readDeclaration(Column& column, const char* declaration) {
   for (const char* at = declaration ? declaration : ""; *at; ++at) {
     if (*at == '(' || *at == ',') {
       inside = !inside && *at == '(';
-    } else if (inside && *at >= '0' && *at <= '9') {
+    } else if (inside && ascii::isDigit(static_cast<unsigned char>(*at))) {
       size = size * 10 + (*at - '0');
     } else if (!inside && size == 0) {
       name += static_cast<char>(*at >= 'a' && *at <= 'z' ? *at - 32 : *at);
@@ -108,11 +107,11 @@ Columns describe(sqlite3_stmt* statement) {
   return columns;
 }
 
-std::optional<KeyedSelect> keyedSelect(const Database& database, StringView text, RowsOf rows) {
+std::optional<SelectWithHandle> selectWithHandle(const Database& database, StringView text, RowsOf rows) {
   const auto select = sql::plainSelect(text);
   if (!select) return {};
   const Table table = tableInfo(database, select->table);
-  KeyedSelect keyed{*select, nullptr, {}, table.rowId};
+  SelectWithHandle keyed{*select, nullptr, {}, table.rowId};
 
   std::vector<String> hidden;
   const auto prepare = [&] {

@@ -16,7 +16,7 @@ Columns describe(sqlite3_stmt* statement);
 
 /// A plain SELECT over one table of the database, with its row handle and those columns of the primary key
 /// that it does not name, as hidden columns behind its own.
-struct KeyedSelect {
+struct SelectWithHandle {
   sql::PlainSelect select;
   StatementHandle statement;
   Columns columns;
@@ -28,6 +28,6 @@ struct KeyedSelect {
 enum class RowsOf { Statement, OneHandle };  // OneHandle: the row whose handle is the parameter
 
 /// No value when the statement is not of that kind, or does not prepare. `text` must outlive the result.
-std::optional<KeyedSelect> keyedSelect(const Database& database, StringView text, RowsOf rows);
+std::optional<SelectWithHandle> selectWithHandle(const Database& database, StringView text, RowsOf rows);
 
 }  // namespace zqn::ado::sqlite

@@ -14,17 +14,17 @@ using sqlite::Database;
 
 class SqliteProvider : public Provider {
  public:
-  explicit SqliteProvider(std::shared_ptr<sqlite::Session> session) : session_(std::move(session)) {}
+  explicit SqliteProvider(std::shared_ptr<sqlite::OpenFile> file) : file_(std::move(file)) {}
   ~SqliteProvider() override {
     // What a recordset still holds of them must not keep the file open.
-    session_->reader.reset();
+    file_->reader.reset();
   }
 
   std::unique_ptr<Statement> prepare(StringView text, Purpose purpose) override {
-    return std::make_unique<sqlite::SqliteStatement>(session_->database, text, purpose);
+    return std::make_unique<sqlite::SqliteStatement>(file_->database, text, purpose);
   }
   std::unique_ptr<Keyset> keyset(StringView text, std::shared_ptr<const Columns>) override {
-    return sqlite::SqliteKeyset::make(session_, text);
+    return sqlite::SqliteKeyset::make(file_, text);
   }
   Condition sameValue(const Column& column, const Value& read) const override {
     if (column.rowHandle) return {column.baseColumn + u"=?", {read}};
@@ -34,7 +34,7 @@ class SqliteProvider : public Provider {
   String name() const override { return sqlite::SourceName; }
 
  private:
-  std::shared_ptr<sqlite::Session> session_;
+  std::shared_ptr<sqlite::OpenFile> file_;
 };
 
 [[noreturn]] void refuse(std::int32_t number, const std::filesystem::path& path, StringView rest) {
@@ -124,21 +124,21 @@ bool prepareFile(const Database& database, const std::filesystem::path& path, Mo
 }  // namespace
 
 std::unique_ptr<Provider> sqliteProvider(const std::filesystem::path& path, const SqliteOptions& options) {
-  auto session = std::make_shared<sqlite::Session>();
-  session->busyMilliseconds = static_cast<int>(options.busyTimeout.count());
+  auto open = std::make_shared<sqlite::OpenFile>();
+  open->busyMilliseconds = static_cast<int>(options.busyTimeout.count());
   if (path == ":memory:") {
-    session->database = openFile(":memory:", path, options);
-    session->database->run("PRAGMA foreign_keys=ON");
-    return std::make_unique<SqliteProvider>(std::move(session));
+    open->database = openFile(":memory:", path, options);
+    open->database->run("PRAGMA foreign_keys=ON");
+    return std::make_unique<SqliteProvider>(std::move(open));
   }
   // An absolute path is never taken for a URI.
   const std::filesystem::path file = std::filesystem::absolute(path);
   checkPath(file, options.mode);
   const std::u8string utf8 = file.u8string();
   const std::string name(utf8.begin(), utf8.end());
-  session->database = openFile(name, file, options);
-  if (prepareFile(*session->database, file, options.mode)) session->path = name;
-  return std::make_unique<SqliteProvider>(std::move(session));
+  open->database = openFile(name, file, options);
+  if (prepareFile(*open->database, file, options.mode)) open->path = name;
+  return std::make_unique<SqliteProvider>(std::move(open));
 }
 
 Ref<Connection> openSqlite(const std::filesystem::path& path, const SqliteOptions& options) {

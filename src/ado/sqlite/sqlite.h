@@ -5,7 +5,7 @@
 //
 //     Ref<ado::Connection> connection = ado::openSqlite("/home/anna/Stammdaten.db");
 //
-// Its texts compare by the collation ZQN_TEXT (compareCollated of runtime/locale.h: without case and trailing
+// Its texts compare by the collation ZQN_TEXT (compareCollated of runtime/collation.h: without case and trailing
 // blanks), which a schema names on each text column: `Status VARCHAR(10) COLLATE ZQN_TEXT PRIMARY KEY`.
 #pragma once
 

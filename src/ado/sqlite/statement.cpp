@@ -18,7 +18,7 @@ SqliteStatement::SqliteStatement(std::shared_ptr<Database> database, StringView 
 
 void SqliteStatement::prepare() {
   if (purpose_ == Purpose::Keyed) {
-    if (auto keyed = keyedSelect(*database_, text_, RowsOf::Statement)) {
+    if (auto keyed = selectWithHandle(*database_, text_, RowsOf::Statement)) {
       statement_ = std::move(keyed->statement);
       columns_ = std::make_shared<const Columns>(std::move(keyed->columns));
       return;

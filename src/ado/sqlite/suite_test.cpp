@@ -2,6 +2,7 @@
 //
 // The rules of recordsets on SQLite.
 #include "testing/provider_suite/suite.h"
+#include "runtime/digits.h"
 #include "testing/temporary_file.h"
 
 namespace zqn::ado::suite {
@@ -11,9 +12,7 @@ namespace {
 class SqliteContext : public Context {
  public:
   Ref<Connection> connect() override { return openSqlite(file_.path()); }
-  String textColumn(int size) const override {
-    return u"VARCHAR(" + fromUtf8(std::to_string(size)) + u") COLLATE ZQN_TEXT";
-  }
+  String textColumn(int size) const override { return u"VARCHAR(" + digits(size) + u") COLLATE ZQN_TEXT"; }
   String countedKey() const override { return u"INTEGER PRIMARY KEY"; }
   bool ignoresTrailingBlanks() const override { return true; }
   bool updatesWithoutKey() const override { return true; }

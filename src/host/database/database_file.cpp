@@ -8,7 +8,7 @@
 #include "host/database/failure.h"
 #include "host/database/rows.h"
 #include "host/database/schema/schema.h"
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::host {
 
@@ -75,7 +75,7 @@ std::vector<String> systemTablesIn(const fs::path& file) {
   for (int row = 0; row < names.rows.rows(); ++row) {
     const StringView name = names.rows.at(row, 0).text;
     for (const Table& table : tables())
-      if (compareIgnoringCase(name, table.name) == 0) found.emplace_back(name);
+      if (sameName(name, table.name)) found.emplace_back(name);
   }
   return found;
 }

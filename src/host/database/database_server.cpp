@@ -8,7 +8,7 @@
 #include "ado/odbc/odbc.h"
 #include "host/database/failure.h"
 #include "host/database/server_schema.h"
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::host {
 
@@ -35,7 +35,7 @@ std::string driverHint(const DatabaseAddress& address) {
   const String name = ado::odbc::connectionValue(address.connectionString(), u"Driver");
   if (name.empty() && !ado::odbc::connectionValue(address.connectionString(), u"DSN").empty()) return "";
   const std::vector<String> installed = ado::odbcDrivers();
-  const auto isNamed = [&](const String& driver) { return compareIgnoringCase(driver, name) == 0; };
+  const auto isNamed = [&](const String& driver) { return sameName(driver, name); };
   // A driver may also be named by the path of its library.
   if (name.find(u'/') != String::npos || std::ranges::any_of(installed, isNamed)) return "";
   std::string hint = name.empty() ? "; write Driver={...}" : "; there is no driver '" + toUtf8(name) + "'";

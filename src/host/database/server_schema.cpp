@@ -7,6 +7,7 @@
 
 #include "host/database/rows.h"
 #include "host/database/schema/schema.h"
+#include "runtime/ascii.h"
 #include "runtime/convert.h"
 
 namespace zqn::host {
@@ -64,24 +65,16 @@ Variant answer(ado::Connection& connection, StringView question) {
   return rows.rows() == 0 ? Variant(Null) : rowValues(rows, 0).front();
 }
 
-/// Lower case as servers fold names: plain letters only.
-String folded(StringView name) {
-  String lower(name);
-  for (char16_t& unit : lower)
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
-  return lower;
-}
-
 class TablesOnServer {
  public:
   explicit TablesOnServer(const ServerSchema& schema) {
     for (const ServerColumn& column : schema.columns)
-      tables_[folded(column.table)][folded(column.name)] = &column;
+      tables_[ascii::lower(column.table)][ascii::lower(column.name)] = &column;
   }
 
   /// Columns by their folded names; nullptr when a dialog does not find the table.
   const std::map<String, const ServerColumn*>* find(StringView name) const {
-    const auto found = tables_.find(folded(name));
+    const auto found = tables_.find(ascii::lower(name));
     return found == tables_.end() ? nullptr : &found->second;
   }
 
@@ -136,14 +129,14 @@ void addColumnFindings(const Table& table, const std::map<String, const ServerCo
   std::string caseCounts;
   for (const Column& column : table.columns) {
     const std::string place = "column " + toUtf8(column.name) + " of table " + toUtf8(table.name);
-    const auto there = found.find(folded(column.name));
+    const auto there = found.find(ascii::lower(column.name));
     if (there == found.end()) {
       findings.push_back(place + " is missing; it can be added with: ALTER TABLE " + toUtf8(table.name) +
                          " ADD " + toUtf8(column.name) + " " + toUtf8(columnType(column, product)));
       continue;
     }
     const ServerColumn& present = *there->second;
-    if (!fits(column.kind, folded(present.type), product)) {
+    if (!fits(column.kind, ascii::lower(present.type), product)) {
       findings.push_back(place + " is of the type " + toUtf8(present.type) + "; " +
                          toUtf8(columnType(column, product)) + " would be right");
       continue;

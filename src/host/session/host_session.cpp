@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "runtime/convert.h"
+#include "runtime/digits.h"
 
 namespace zqn::host {
 
@@ -57,7 +58,7 @@ String loginName() {
   for (const char* variable : {"LOGNAME", "USER"})
     if (const char* name = std::getenv(variable); name && *name) return fromUtf8(name);
   if (const passwd* entry = getpwuid(geteuid())) return fromUtf8(entry->pw_name);
-  return fromUtf8(std::to_string(geteuid()));
+  return digits(geteuid());
 }
 
 }  // namespace zqn::host

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "runtime/digits.h"
 #include "runtime/locale.h"
 #include "testing/provider_suite/suite.h"
 
@@ -82,10 +83,9 @@ TEST_P(RecordsetTest, AllTextsComeBackAsTheyWereWritten) {
   const String texts[] = {u"Müßig – ÿÿÿ €",       u"😀 außerhalb",        u"",         u" Rand ",
                           u"Zeile\r\nZeile\tTab", u"O'Neill \"x\" %_[]", u"кириллица"};
   for (std::size_t i = 0; i < std::size(texts); ++i) {
-    const auto rs =
-        openForWrite(u"SELECT * FROM Texte WHERE Schluessel=" + sql::value(fromUtf8(std::to_string(i))));
+    const auto rs = openForWrite(u"SELECT * FROM Texte WHERE Schluessel=" + sql::value(digits(i)));
     rs->AddNew();
-    rs->Fields(u"Schluessel").Value(fromUtf8(std::to_string(i)));
+    rs->Fields(u"Schluessel").Value(digits(i));
     rs->Fields(u"Wert").Value(texts[i]);
     rs->Update();
     rs->Requery();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/database/schema/statements.h"
 
+#include "runtime/digits.h"
+
 namespace zqn::host {
 
 namespace {
@@ -94,8 +96,7 @@ StringView spellingOf(ColumnKind kind, const Spelling& words) {
 
 String typeOf(const Column& column, const Spelling& words) {
   String type(spellingOf(column.kind, words));
-  if (const auto mark = type.find(u'#'); mark != String::npos)
-    type.replace(mark, 1, fromUtf8(std::to_string(column.length)));
+  if (const auto mark = type.find(u'#'); mark != String::npos) type.replace(mark, 1, digits(column.length));
   return type;
 }
 

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "ado/odbc/catalogue.h"
+#include "ado/odbc/tables.h"
 
 #include <algorithm>
 #include <array>
 
 #include "ado/odbc/wide.h"
-#include "runtime/locale.h"
+#include "runtime/collation.h"
 
 namespace zqn::ado::odbc {
 
 namespace {
 
 /// The rows that a catalogue function of ODBC gives, column by column from 1 in ascending order.
-class CatalogueRows {
+class DriverRows {
  public:
-  explicit CatalogueRows(Link& link) : link_(link), handle_(link.statement()) {}
+  explicit DriverRows(Link& link) : link_(link), handle_(link.statement()) {}
 
   SQLHSTMT handle() const noexcept { return handle_.get(); }
   void require(SQLRETURN result) {
@@ -58,33 +58,32 @@ bool isNumber(int type) {
 }  // namespace
 
 const TableInfo::Column* TableInfo::column(StringView asked) const {
-  const auto found = std::ranges::find_if(
-      columns, [&](const Column& one) { return compareIgnoringCase(one.name, asked) == 0; });
+  const auto found =
+      std::ranges::find_if(columns, [&](const Column& one) { return sameName(one.name, asked); });
   return found == columns.end() ? nullptr : &*found;
 }
 
-const TableInfo* Catalogue::table(StringView asked) {
-  const auto known = tables_.find(asked);
-  if (known != tables_.end()) return known->second ? &*known->second : nullptr;
+const TableInfo* Tables::table(StringView asked) {
+  const auto known = known_.find(asked);
+  if (known != known_.end()) return known->second ? &*known->second : nullptr;
   const auto& all = names();
   auto found = std::ranges::find(all, asked, &Name::table);
   if (found == all.end())
-    found = std::ranges::find_if(all,
-                                 [&](const Name& one) { return compareIgnoringCase(one.table, asked) == 0; });
-  auto& place = tables_[String(asked)];
+    found = std::ranges::find_if(all, [&](const Name& one) { return sameName(one.table, asked); });
+  auto& place = known_[String(asked)];
   if (found == all.end()) return nullptr;
   place = read(*found);
   return &*place;
 }
 
-void Catalogue::forget() noexcept {
+void Tables::forget() noexcept {
   names_.reset();
-  tables_.clear();
+  known_.clear();
 }
 
-const std::vector<Catalogue::Name>& Catalogue::names() {
+const std::vector<Tables::Name>& Tables::names() {
   if (names_) return *names_;
-  CatalogueRows rows(link_);
+  DriverRows rows(link_);
   static constexpr StringView types = u"TABLE,VIEW";
   rows.require(SQLTablesW(rows.handle(), nullptr, 0, nullptr, 0, nullptr, 0, asWide(types), length(types)));
   std::vector<Name> names;
@@ -96,10 +95,10 @@ const std::vector<Catalogue::Name>& Catalogue::names() {
   return names_.emplace(std::move(names));
 }
 
-TableInfo Catalogue::read(const Name& name) {
+TableInfo Tables::read(const Name& name) {
   TableInfo table{name.table, {}, {}};
   {
-    CatalogueRows rows(link_);
+    DriverRows rows(link_);
     rows.require(SQLColumnsW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
                              asWide(name.table), length(name.table), nullptr, 0));
     while (rows.next()) {
@@ -110,7 +109,7 @@ TableInfo Catalogue::read(const Name& name) {
       table.columns.push_back({column, type == SQL_BIT, isNumber(type)});
     }
   }
-  CatalogueRows rows(link_);
+  DriverRows rows(link_);
   rows.require(SQLPrimaryKeysW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
                                asWide(name.table), length(name.table)));
   std::vector<std::pair<int, String>> key;

@@ -8,9 +8,9 @@
 #include <list>
 #include <unordered_map>
 
-#include "ado/odbc/catalogue.h"
 #include "ado/odbc/link.h"
 #include "ado/odbc/odbc.h"
+#include "ado/odbc/tables.h"
 #include "ado/odbc/translate.h"
 
 namespace zqn::ado::odbc {
@@ -18,14 +18,14 @@ namespace zqn::ado::odbc {
 class OdbcKeyset;
 class Query;
 
-class Session {
+class Server {
  public:
-  Session(StringView connectionString, const OdbcOptions& options);
-  ~Session();
+  Server(StringView connectionString, const OdbcOptions& options);
+  ~Server();
 
   Link& link() noexcept { return link_; }
   const Dialect& dialect() const noexcept { return link_.dialect(); }
-  Catalogue& catalogue() noexcept { return catalogue_; }
+  Tables& tables() noexcept { return tables_; }
 
   /// The connection for a long list's keys: it stands in a transaction of its own. Connected when it is first
   /// needed.
@@ -63,7 +63,7 @@ class Session {
   std::function<void(StringView, std::span<const Value>)> runs_;
   Link link_;
   std::unique_ptr<Link> reader_;
-  Catalogue catalogue_;
+  Tables tables_;
   bool inTransaction_ = false;
   int begunOn_ = 0;  // the connection of the transaction: a row that is read connects again, too
   std::unordered_map<String, Translation> translated_;         // until the schema changes

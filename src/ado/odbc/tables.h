@@ -28,9 +28,10 @@ struct TableInfo {
   const Column* column(StringView asked) const;
 };
 
-class Catalogue {
+/// What is known of the tables of one database. Asked of the driver when it is first needed, and kept.
+class Tables {
  public:
-  explicit Catalogue(Link& link) : link_(link) {}
+  explicit Tables(Link& link) : link_(link) {}
 
   /// A table or view by the name that a statement gives it, without quotes: the one that has it exactly, else
   /// the one that has it in another case. nullptr when there is none. Valid until `forget`.
@@ -47,7 +48,7 @@ class Catalogue {
 
   Link& link_;
   std::optional<std::vector<Name>> names_;
-  std::map<String, std::optional<TableInfo>, std::less<>> tables_;  // by the name asked for
+  std::map<String, std::optional<TableInfo>, std::less<>> known_;  // by the name asked for
 };
 
 }  // namespace zqn::ado::odbc

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ado/odbc/session.h"
+#include "ado/odbc/server.h"
 
 #include <algorithm>
 
@@ -13,37 +13,36 @@ constexpr std::size_t KeptTranslations = 256;
 constexpr std::size_t LongestKept = 2000;
 }  // namespace
 
-Session::Session(StringView connectionString, const OdbcOptions& options)
+Server::Server(StringView connectionString, const OdbcOptions& options)
     : connectionString_(connectionString),
       loginTimeout_(options.loginTimeout),
       ran_(options.ran),
       runs_(options.runs),
       link_(connectionString_, loginTimeout_),
-      catalogue_(link_) {}
+      tables_(link_) {}
 
-Session::~Session() = default;
+Server::~Server() = default;
 
-Link& Session::reader() {
+Link& Server::reader() {
   if (!reader_) reader_ = std::make_unique<Link>(connectionString_, loginTimeout_);
   return *reader_;
 }
 
-Translation Session::translated(StringView statement) {
+Translation Server::translated(StringView statement) {
   const String text(statement);
   if (const auto known = translated_.find(text); known != translated_.end()) return known->second;
-  Translation made =
-      translate(statement, dialect(), [this](StringView name) { return catalogue_.table(name); });
+  Translation made = translate(statement, dialect(), [this](StringView name) { return tables_.table(name); });
   if (text.size() > LongestKept) return made;
   if (translated_.size() >= KeptTranslations) translated_.clear();
   return translated_[text] = std::move(made);
 }
 
-void Session::forgetTables() noexcept {
-  catalogue_.forget();
+void Server::forgetTables() noexcept {
+  tables_.forget();
   translated_.clear();
 }
 
-bool Session::mayRun(const Translation& statement) {
+bool Server::mayRun(const Translation& statement) {
   if (!inTransaction_ || (!link_.dropped() && link_.generation() == begunOn_)) return true;
   const bool ends = statement.effect == Effect::Commit || statement.effect == Effect::Rollback;
   if (ends) inTransaction_ = false;
@@ -53,7 +52,7 @@ bool Session::mayRun(const Translation& statement) {
                      link_.product());
 }
 
-void Session::ran(const Translation& statement, bool failed) {
+void Server::ran(const Translation& statement, bool failed) {
   if (statement.effect == Effect::Commit || statement.effect == Effect::Rollback) {
     inTransaction_ = false;
   } else if (statement.effect == Effect::Begin) {
@@ -65,7 +64,7 @@ void Session::ran(const Translation& statement, bool failed) {
   }
 }
 
-Query& Session::kept(const String& text) {
+Query& Server::kept(const String& text) {
   const auto known = std::ranges::find_if(kept_, [&](const auto& entry) { return entry.first == text; });
   if (known != kept_.end()) {
     kept_.splice(kept_.begin(), kept_, known);

@@ -38,21 +38,4 @@ function(zqn_library name)
   zqn_precompile(zqn_${name} product ${ARG_USES} ${ARG_LINKS})
 endfunction()
 
-find_package(GTest REQUIRED)
-include(GoogleTest)
-
-# Tests are compiled for a quick turn: what they drive is optimized, they themselves need not be.
-add_library(zqn_test_flags INTERFACE)
-target_compile_options(zqn_test_flags INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0> $<$<CONFIG:RelWithDebInfo>:-g1>)
-
-# zqn_test(name sources... [USES folders] [LINKS libraries]): a GoogleTest program <name>_test, one ctest entry a case.
-function(zqn_test name)
-  cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
-  add_executable(${name}_test ${ARG_UNPARSED_ARGUMENTS})
-  foreach(used IN LISTS ARG_USES)
-    target_link_libraries(${name}_test PRIVATE zqn_${used})
-  endforeach()
-  target_link_libraries(${name}_test PRIVATE zqn_flags zqn_test_flags ${ARG_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
-  zqn_precompile(${name}_test test ${ARG_USES} ${ARG_LINKS})
-  gtest_discover_tests(${name}_test TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/tests.cmake)

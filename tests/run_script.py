@@ -8,6 +8,7 @@
 
     --ui headless|qt            on this desktop alone
     --server NAME --state DIR   on a database server that servers.py has started in DIR, instead of SQLite
+    --part N/M                  the Nth of M parts of the scripts
 
 A script is scripts/NAME.jsonl, its approved transcript scripts/NAME.approved.jsonl; without names all scripts
 are meant. Comment lines at the top of a script say how the command is called:
@@ -19,13 +20,16 @@ are meant. Comment lines at the top of a script say how the command is called:
 
 Each run has a new database, and a folder of its own as its application folder. Without --ui a script runs on both
 desktops, and on every desktop and every database it must come to the same transcript; SQLite's is the one to
-approve where a script runs there. Whatever the command writes to standard error fails the run. The environment variable ZQN_DIALOG names the command, build/zqn-dialog unless set.
+approve where a script runs there. Whatever the command writes to standard error fails the run. The environment variable
+ZQN_DIALOG names the command, build/zqn-dialog unless set; ZQN_CASES a file for the count of the runs, see cases.py.
 """
 
 import argparse
+import atexit
 import contextlib
 import difflib
 import fcntl
+import functools
 import hashlib
 import json
 import os
@@ -38,6 +42,7 @@ from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE))
+import cases
 import database_servers
 from server_processes import ServerFailure
 
@@ -134,6 +139,15 @@ def init(folder, database, arguments, server=None):
         raise Failure("the database cannot be made")
 
 
+@functools.cache
+def sample_file(command):
+    """The file with the sample that a command makes, made when it is first asked for."""
+    made = Path(tempfile.mkdtemp(prefix="zqn-sample-"))
+    atexit.register(shutil.rmtree, made)
+    init(made, "sqlite:sample.sqlite", SAMPLE)
+    return made / "sample.sqlite"
+
+
 def sample_on(server, folder):
     """The template with the sample that this command makes, made when it is first asked for."""
     file = os.stat(command())
@@ -152,9 +166,11 @@ def database_for(name, desktop, server, folder):
     """Makes the database of one run; the address that the command takes."""
     wanted = header(name, "init", SAMPLE)
     if server is None:
-        address = "sqlite:stage.sqlite"
-        init(folder, address, wanted)
-        yield address
+        if wanted == SAMPLE:
+            shutil.copy(sample_file(command()), folder / "stage.sqlite")
+        else:
+            init(folder, "sqlite:stage.sqlite", wanted)
+        yield "sqlite:stage.sqlite"
         return
     database = database_servers.database_name(f"{name}.{desktop}")
     template = sample_on(server, folder) if wanted == SAMPLE else None
@@ -190,6 +206,7 @@ def difference(before, after, before_name, after_name):
 
 
 def check(name, desktops, server):
+    """Holds the transcript of each desktop against the approved one."""
     if not approved_file(name).exists():
         raise Failure(f"nobody has approved a transcript; see it with 'show {name}', accept it with 'approve {name}'")
     approved = approved_file(name).read_bytes().decode("utf-8")
@@ -215,6 +232,13 @@ def show(name, desktops, server):
     sys.stdout.write(transcript_of(name, desktops[0], server))
 
 
+def part(text):
+    number, _, parts = text.partition("/")
+    if not 1 <= int(number) <= int(parts):
+        raise ValueError
+    return int(number), int(parts)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("action", choices=("check", "approve", "show"))
@@ -222,6 +246,7 @@ def main():
     parser.add_argument("--ui", choices=DESKTOPS)
     parser.add_argument("--server", metavar="NAME", choices=DATABASES[1:])
     parser.add_argument("--state", metavar="DIR")
+    parser.add_argument("--part", metavar="N/M", type=part, default=(1, 1))
     options = parser.parse_intermixed_args()
     if (options.server is None) != (options.state is None):
         parser.error("--server and --state belong together")
@@ -229,18 +254,21 @@ def main():
     desktops = (options.ui,) if options.ui else DESKTOPS
     server = database_servers.server(options.server, options.state) if options.server else None
 
-    failed = 0
-    for name in options.names or all_names():
+    number, parts = options.part
+    passed = failed = 0
+    for name in (options.names or all_names())[number - 1::parts]:
         try:
             if not script_file(name).exists():
                 raise Failure(f"there is no script {script_file(name)}")
             if runs_on(name, server):
                 act(name, desktops, server)
+                passed += 1
             elif options.names:
                 raise Failure(f"does not run on {options.server or 'sqlite'}, as it says itself")
         except (Failure, ServerFailure) as failure:
             failed += 1
             print(f"{name}: {failure}\n", file=sys.stderr)
+    cases.leave(passed, failed)
     return 1 if failed else 0
 
 

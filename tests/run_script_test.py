@@ -3,6 +3,7 @@
 
 import contextlib
 import io
+import json
 import os
 import sys
 import tempfile
@@ -21,6 +22,9 @@ with open(here / "calls", "a", encoding="utf-8") as calls:
     drivers = " with drivers" if os.environ.get("ODBCSYSINI") == str(here) else ""
     calls.write(arguments[0] + " " + arguments[arguments.index("--db") + 1] + drivers + "\\n")
 if arguments[0] == "init":
+    kind, _, file = arguments[arguments.index("--db") + 1].partition(":")
+    if kind == "sqlite":
+        pathlib.Path(file).touch()
     sys.exit(0)
 desktop = arguments[arguments.index("--ui") + 1]
 target = arguments[arguments.index("--transcript") + 1]
@@ -145,6 +149,36 @@ class RunScript(unittest.TestCase):
         self.script('{"get":[]}\n# args: show 21\n')
         self.assertIn("# args:", self.run_script("check", "name")[1] + self.run_script("approve", "name")[1])
         self.assertEqual(self.run_script("check", "nirgends")[0], 1)
+
+    def test_the_sample_is_made_once_for_all_runs(self):
+        self.run_script("approve", "name")
+        self.run_script("check", "name")
+        self.assertEqual(self.calls(), ["init sqlite:sample.sqlite", *4 * ["show sqlite:stage.sqlite"]])
+        self.script("# args: show 21 10\n# init: --rows 7\n")
+        self.run_script("check", "--ui", "qt", "name")
+        self.assertEqual(self.calls(), ["init sqlite:stage.sqlite", "show sqlite:stage.sqlite"])
+
+    def test_the_parts_of_the_scripts_are_all_of_them_once(self):
+        for name in "abcde":
+            (self.folder / f"{name}.jsonl").write_text("# args: show 21\n# init: " + name + "\n", encoding="utf-8")
+            (self.folder / f"{name}.approved.jsonl").write_text(DONE, encoding="utf-8")
+        (self.folder / "name.jsonl").unlink()
+        counts = []
+        for part in ("1/2", "2/2"):
+            with mock.patch.dict(os.environ, ZQN_CASES=str(self.folder / "count")):
+                self.assertEqual(self.run_script("check", "--ui", "headless", "--part", part), (0, ""))
+            counts.append(json.loads((self.folder / "count").read_text()))
+        self.assertEqual(counts, [{"passed": 3, "failed": 0, "skipped": 0}, {"passed": 2, "failed": 0, "skipped": 0}])
+        self.assertEqual(len(self.calls()), 10)
+
+    def test_a_script_that_fails_is_named_and_counted(self):
+        self.run_script("approve", "name")
+        self.behave(headless=DONE.replace("frm", "Frm"))
+        with mock.patch.dict(os.environ, ZQN_CASES=str(self.folder / "count")):
+            status, said = self.run_script("check", "name")
+        self.assertEqual(status, 1)
+        self.assertTrue(said.startswith("name: "))
+        self.assertEqual(json.loads((self.folder / "count").read_text()), {"passed": 0, "failed": 1, "skipped": 0})
 
     def serve(self):
         """A server stands ready from now on; the arguments that lead there."""

@@ -5,11 +5,13 @@ import os
 import pathlib
 import shutil
 import subprocess
-import tempfile
 import unittest
+from concurrent.futures import ThreadPoolExecutor
 
 BUILD = pathlib.Path(os.environ["ZQN_BUILD"])
 SOURCE = pathlib.Path(os.environ["ZQN_SOURCE"])
+# A compiler cache, or nothing.
+LAUNCHER = [part for part in os.environ.get("ZQN_LAUNCHER", "").split(" ") if part]
 
 
 def run(*command, **options):
@@ -22,8 +24,10 @@ def run(*command, **options):
 class Package(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.folder = pathlib.Path(tempfile.mkdtemp())
-        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        # Always the same place: a compiler cache then knows what was compiled before.
+        cls.folder = BUILD / "package-test"
+        shutil.rmtree(cls.folder, ignore_errors=True)
+        cls.folder.mkdir()
         cls.prefix = cls.folder / "prefix"
         run("cmake", "--install", BUILD, "--prefix", cls.prefix)
         cls.library = next(cls.prefix.glob("lib*/**/libzqnComDlg.so")).parent
@@ -31,10 +35,14 @@ class Package(unittest.TestCase):
     def environment(self):
         return os.environ | {"LD_LIBRARY_PATH": str(self.library), "QT_QPA_PLATFORM": "offscreen"}
 
+    def configure(self, project, built):
+        run("cmake", "-G", "Ninja", "-S", project, "-B", built, f"-DCMAKE_PREFIX_PATH={self.prefix}",
+            f"-DCMAKE_CXX_COMPILER={os.environ['CXX']}", f"-DCMAKE_CXX_COMPILER_LAUNCHER={';'.join(LAUNCHER)}")
+
     def test_a_host_builds_against_it(self):
         """The examples, configured as a project of their own."""
         built = self.folder / "examples"
-        run("cmake", "-G", "Ninja", "-S", SOURCE / "examples", "-B", built, f"-DCMAKE_PREFIX_PATH={self.prefix}")
+        self.configure(SOURCE / "examples", built)
         run("cmake", "--build", built)
         host = subprocess.run([built / "pick_status", "nowhere/waren.sqlite"], capture_output=True, text=True,
                               env=self.environment(), check=False)
@@ -53,7 +61,7 @@ class Package(unittest.TestCase):
             "cmake_minimum_required(VERSION 3.25)\nproject(server LANGUAGES CXX)\n"
             "find_package(zqnComDlg REQUIRED COMPONENTS odbc)\n"
             "add_executable(host host.cpp)\ntarget_link_libraries(host PRIVATE zqnComDlg::odbc)\n")
-        run("cmake", "-G", "Ninja", "-S", project, "-B", project / "build", f"-DCMAKE_PREFIX_PATH={self.prefix}")
+        self.configure(project, project / "build")
         run("cmake", "--build", project / "build")
         self.assertEqual(run(project / "build" / "host", env=self.environment()), "-2147467259")
 
@@ -61,12 +69,17 @@ class Package(unittest.TestCase):
         include = self.prefix / "include" / "zqnComDlg"
         headers = sorted(include.glob("**/*.h"))
         self.assertGreater(len(headers), 20)
-        core = [h for h in headers if "desktop/qt" not in str(h)]
-        everything = self.folder / "every_header.cpp"
-        for header in core:
-            everything.write_text(f'#include "{header.relative_to(include)}"\n')
-            run(os.environ["CXX"], "-std=c++20", "-Wall", "-Wextra", "-Wpedantic", "-Werror", "-fsyntax-only", f"-I{include}",
-                everything)
+
+        def compile_alone(header):
+            name = header.relative_to(include).as_posix()
+            source = self.folder / (name.replace("/", "_") + ".cpp")
+            source.write_text(f'#include "{name}"\n')
+            run(*LAUNCHER, os.environ["CXX"], "-std=c++20", "-Wall", "-Wextra", "-Wpedantic", "-Werror", f"-I{include}", "-c",
+                source, "-o", source.with_suffix(".o"))
+
+        with ThreadPoolExecutor(os.cpu_count()) as together:
+            for _ in together.map(compile_alone, [header for header in headers if "desktop/qt" not in str(header)]):
+                pass
 
     def test_an_unknown_component_is_named(self):
         project = self.folder / "unknown"
@@ -78,6 +91,28 @@ class Package(unittest.TestCase):
                               capture_output=True, text=True, check=False)
         self.assertNotEqual(done.returncode, 0)
         self.assertIn("no component 'gtk'", done.stderr)
+
+    def test_a_component_that_is_only_wished_for_may_be_missing(self):
+        project = self.folder / "wished"
+        project.mkdir()
+        (project / "CMakeLists.txt").write_text(
+            "cmake_minimum_required(VERSION 3.25)\nproject(wished LANGUAGES CXX)\n"
+            "find_package(zqnComDlg REQUIRED COMPONENTS sqlite OPTIONAL_COMPONENTS qt gtk)\n"
+            "foreach(component core sqlite qt gtk)\n  message(\"${component}: ${zqnComDlg_${component}_FOUND}\")\nendforeach()\n")
+        configure = ["cmake", "-S", project, f"-DCMAKE_PREFIX_PATH={self.prefix}"]
+        for qt, options in (("TRUE", []), ("FALSE", ["-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON"])):
+            done = subprocess.run([*configure, "-B", project / qt, *options], capture_output=True, text=True, check=False)
+            self.assertEqual(done.returncode, 0, done.stderr)
+            said = [line for line in done.stderr.splitlines() if ": " in line]
+            self.assertEqual(said, ["core: TRUE", "sqlite: TRUE", f"qt: {qt}", "gtk: FALSE"])
+
+    def test_the_headers_are_those_that_are_stated(self):
+        """Each of them, and none besides."""
+        include = self.prefix / "include" / "zqnComDlg"
+        installed = {header.relative_to(include).as_posix() for header in include.glob("**/*.h")}
+        stated = run("python3", "-B", SOURCE / "tools" / "project_check.py", "--public").split()
+        self.assertGreater(len(stated), 20)
+        self.assertEqual(installed, {name.removeprefix("src/") for name in stated})
 
     def test_only_our_names_leave_the_libraries(self):
         for library in sorted(self.library.glob("libzqnComDlg*.so")):

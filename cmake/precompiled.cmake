@@ -13,7 +13,7 @@ set(widgets <QApplication> <QLabel> <QLineEdit> <QPainter> <QPushButton> <QTable
 
 function(zqn_precompiled kind)
   cmake_parse_arguments(ARG "" "" "HEADERS;LINKS" ${ARGN})
-  set(source ${CMAKE_BINARY_DIR}/precompiled_${kind}.cpp)
+  set(source ${PROJECT_BINARY_DIR}/precompiled_${kind}.cpp)
   if(NOT EXISTS ${source})
     file(WRITE ${source} "")
   endif()

@@ -1,6 +1,16 @@
 # ctest starts a test program once, or in a few parts side by side, not once a case: a failing case is named in its output. How many
 # cases a test has run stands afterwards in a file under cases/, which tests/count_cases.py sums.
 
+if(NOT ZQN_TESTS)
+  function(zqn_test)
+  endfunction()
+  function(zqn_test_program)
+  endfunction()
+  function(zqn_run_cases)
+  endfunction()
+  return()
+endif()
+
 find_package(GTest REQUIRED)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 

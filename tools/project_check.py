@@ -2,14 +2,19 @@
 # SPDX-License-Identifier: MIT
 """Holds the tree against the rules of the project that no compiler knows.
 
-Each rule is a function that yields complaints; the exit status is 1 when there is one. Only files under
-version control, or about to be, are looked at.
+    project_check.py            prints complaints; the exit status is 1 when there is one
+    project_check.py --public   prints the public headers
+
+Each rule is a function that yields complaints; what folders state about themselves is read by folders.py. Only files
+under version control, or about to be, are looked at.
 """
 
 import re
 import subprocess
 import sys
 from pathlib import Path
+
+import folders
 
 ROOT = Path(__file__).resolve().parent.parent
 
@@ -154,8 +159,13 @@ def commit_messages():
 
 
 def main():
-    complaints = list(commit_messages())
     files = [(path, text) for path in tracked_files() if (text := text_of(path)) is not None]
+    tree = folders.Tree(ROOT / "src", files)
+    if sys.argv[1:] == ["--public"]:
+        print("\n".join(f"src/{header}" for header in sorted(tree.public)))
+        return 0
+    complaints = list(commit_messages())
+    complaints += (f"{path.relative_to(ROOT)}:{line}: {what}" for path, line, what in tree.public_headers())
     for path, text in files:
         for rule in (floors, header_shape, length, words, white_space):
             complaints += (f"{path.relative_to(ROOT)}:{line}: {what}" for line, what in rule(path, text))

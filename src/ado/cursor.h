@@ -27,6 +27,8 @@ class Cursor {
   /// A known row; an empty view when it is gone. `buffer` may be used to hold it. Valid until the next call
   /// that is not const.
   virtual RowView row(int row, RowStore& buffer) = 0;
+  /// The same, read afresh where its key can be told.
+  virtual RowView refresh(int row, RowStore& buffer) = 0;
   /// Rows are read from the database each time: a list keeps those that it draws.
   virtual bool readsRows() const noexcept = 0;
   /// The first row from `from` on, a known one, that the criterion fits; -1 for none. `buffer` as in row.

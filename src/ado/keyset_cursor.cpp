@@ -60,6 +60,11 @@ RowView KeysetCursor::row(int row, RowStore& buffer) {
   return there ? RowView{&buffer, 0} : RowView{};
 }
 
+RowView KeysetCursor::refresh(int row, RowStore& buffer) {
+  first_.clear(0);
+  return this->row(row, buffer);
+}
+
 int KeysetCursor::find(const Criterion& criterion, int from, int direction, RowStore& buffer) {
   std::vector<ColumnEquals> equalities = criterion.equalities();
   std::erase_if(equalities, [&](const ColumnEquals& one) {

@@ -25,6 +25,7 @@ class KeysetCursor : public Cursor {
   bool complete() const noexcept override { return complete_; }
   void fetch(int atMost) override;
   RowView row(int row, RowStore& buffer) override;
+  RowView refresh(int row, RowStore& buffer) override;
   bool readsRows() const noexcept override { return true; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;

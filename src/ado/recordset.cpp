@@ -48,6 +48,7 @@ void Recordset::Open(const sql::Text& source, const Ref<Connection>& connection,
                      int) {
   if (!connection.isNothing()) connection->before(Operation::Open, source.text());
   requireClosed();
+  mayReopen_ = false;
   if (connection.isNothing() || connection->State() == adStateClosed) raise(error::InvalidConnection);
   CursorType(cursorType);
   LockType(lockType);
@@ -96,13 +97,15 @@ void Recordset::Close() {
 }
 
 void Recordset::Requery(int) {
-  requireOpen();
+  if (!mayReopen_) requireOpen();
   if (editMode_ != adEditNone) raise(error::IllegalOperation);
+  mayReopen_ = true;
   try {
     before(Operation::Requery);
     drawn_.clear();
     cursor_.reset();
     execute();
+    mayReopen_ = false;
   } catch (...) {
     shut();
     throw;

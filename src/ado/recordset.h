@@ -69,8 +69,9 @@ class Recordset {
   void Close();
   /// An ObjectStateEnum.
   int State() const noexcept { return cursor_ ? adStateOpen : adStateClosed; }
-  /// Runs the same statement again; the first row is current, bookmarks of before are worthless.
-  /// If it fails the recordset is closed. Errors 3704, 3219 while an edit is pending.
+  /// Runs the same statement again; the first row is current, bookmarks of before are worthless. If it fails
+  /// the recordset is closed, but keeps its statement: the next Requery opens it again. Errors 3704 when it was
+  /// never opened, or closed otherwise, 3219 while an edit is pending, 3709 when its connection is closed.
   void Requery(int options = adCmdUnspecified);
   /// The text it was opened with, "" before.
   const String& Source() const noexcept { return source_; }
@@ -140,6 +141,11 @@ class Recordset {
   /// The value of a known row, as Field::Value reads it; Null for a row that is gone. Rows last asked for are
   /// kept. Errors 3704 when closed, 3021 for a row that is not known, 3265 for a column that is not there.
   Variant rowValue(int row, int column);
+  /// Reads a known row afresh, its values as the database holds them now; Fields of the current row follow.
+  /// False when the row is gone: it is a hole from now on. A row stays as it is, and this is True, while it is
+  /// being edited, and where its key cannot be told (an expression, a join, a client's list without the key).
+  /// Errors as rowValue, and the provider's.
+  bool refreshRow(int row);
   /// The value as text, Null as "".
   String rowText(int row, int column);
   /// The current row, -1 at BOF, EOF, on a row being added, or when closed.
@@ -176,6 +182,9 @@ class Recordset {
   Variant fieldValue(int ordinal) const;
   void fieldValue(int ordinal, const Variant& value);
 
+  /// What a list draws of the row from now on; no values for one that is gone.
+  const std::vector<Variant>& keepDrawn(int row, const RowView& read);
+
   void requireUpdatable() const;
   void insertRow();
   void updateRow();
@@ -190,6 +199,7 @@ class Recordset {
   std::unique_ptr<Cursor> cursor_;
   int fieldCount_ = 0;  // columns of the statement, hidden ones not counted
   std::shared_ptr<FieldAnchor> anchor_;
+  bool mayReopen_ = false;               // closed by a Requery that failed
   mutable std::int64_t generation_ = 0;  // of the bookmarks; given when the first one is asked for
 
   Place place_ = Place::Empty;

@@ -68,21 +68,38 @@ void Recordset::fetchKeys(int atMost) {
 
 int Recordset::currentRow() const noexcept { return cursor_ && place_ == Place::Row ? row_ : -1; }
 
+const std::vector<Variant>& Recordset::keepDrawn(int row, const RowView& read) {
+  std::vector<Variant> values;
+  if (read) {
+    values.reserve(static_cast<std::size_t>(fieldCount_));
+    for (int i = 0; i < fieldCount_; ++i) values.push_back(readAs(column(i), read.at(i)));
+  }
+  return drawn_.put(row, std::move(values));
+}
+
 Variant Recordset::rowValue(int row, int ordinal) {
   requireOpen();
   if (row < 0 || row >= knownRows()) raise(error::NoCurrentRecord);
   const Column& asked = column(ordinal);
-  if (!cursor_->readsRows()) return readAs(asked, cursor_->row(row, scratch_).at(ordinal));
-  const std::vector<Variant>* values = drawn_.find(row);
-  if (!values) {
-    std::vector<Variant> read;
-    if (const RowView view = cursor_->row(row, scratch_)) {
-      read.reserve(static_cast<std::size_t>(fieldCount_));
-      for (int i = 0; i < fieldCount_; ++i) read.push_back(readAs(column(i), view.at(i)));
-    }
-    values = &drawn_.put(row, std::move(read));
+  if (!cursor_->readsRows()) {
+    const RowView view = cursor_->row(row, scratch_);
+    return view ? readAs(asked, view.at(ordinal)) : Variant(Null);
   }
+  const std::vector<Variant>* values = drawn_.find(row);
+  if (!values) values = &keepDrawn(row, cursor_->row(row, scratch_));
   return values->empty() ? Null : (*values)[static_cast<std::size_t>(ordinal)];
+}
+
+bool Recordset::refreshRow(int row) {
+  requireOpen();
+  if (row < 0 || row >= knownRows()) raise(error::NoCurrentRecord);
+  if (editMode_ != adEditNone && row == row_) return true;
+  drawn_.drop(row);
+  const RowView read = cursor_->refresh(row, scratch_);
+  if (row == row_) current_ = {};
+  if (!cursor_->readsRows()) return static_cast<bool>(read);
+  keepDrawn(row, read);
+  return static_cast<bool>(read);
 }
 
 String Recordset::rowText(int row, int column) { return concatenate(rowValue(row, column)); }

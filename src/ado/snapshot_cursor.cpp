@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ado/snapshot_cursor.h"
 
+#include <algorithm>
+
 #include "ado/field_values.h"
 
 namespace zqn::ado {
@@ -16,7 +18,39 @@ SnapshotCursor::SnapshotCursor(Connection& connection, StringView statement,
 
 RowView SnapshotCursor::row(int row, RowStore&) {
   if (unread_ && row == rows_.rows() - 1) readInserted();
-  return {&rows_, row};
+  return gone_.contains(row) ? RowView{} : RowView{&rows_, row};
+}
+
+RowView SnapshotCursor::refresh(int row, RowStore& buffer) {
+  if (unread_) readInserted();
+  if (readAgain(row)) {
+    gone_.erase(row);
+  } else {
+    gone_.insert(row);
+  }
+  return this->row(row, buffer);
+}
+
+bool SnapshotCursor::readAgain(int row) {
+  if (!reader_) reader_ = connection_.provider().keyset(statement_);
+  if (!reader_) return true;
+  const Columns& columns = *reader_->columns();
+  std::vector<ColumnEquals> key;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (!columns[i].key || columns[i].rowHandle) continue;
+    const int column = static_cast<int>(i);
+    if (column >= rows_.columns()) return true;
+    key.push_back({column, rows_.at(row, column)});
+  }
+  if (key.empty()) return true;
+  const auto found = reader_->rowsWhere(key);
+  if (!found) return true;
+  RowStore read(static_cast<int>(columns.size()));
+  if (found->empty() || !reader_->readRow(found->front(), read)) return false;
+  indexes_.clear();
+  for (int column = 0; column < std::min(rows_.columns(), read.columns()); ++column)
+    rows_.set(row, column, read.at(0, column));
+  return true;
 }
 
 const ValueIndex& SnapshotCursor::index(int column) {
@@ -31,7 +65,7 @@ int SnapshotCursor::find(const Criterion& criterion, int from, int direction, Ro
   const ValueIndex& rows = index(equalities.front().column);
   if (!rows.usable()) return scan(criterion, from, direction, buffer);
   return rows.first(equalities.front().value, from, direction, [&](int candidate) {
-    return criterion.holds({&rows_, candidate});
+    return !gone_.contains(candidate) && criterion.holds({&rows_, candidate});
   });
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 
 #include "ado/cursor.h"
 #include "ado/value_index.h"
@@ -22,6 +23,7 @@ class SnapshotCursor : public Cursor {
   bool complete() const noexcept override { return true; }
   void fetch(int) override {}
   RowView row(int row, RowStore& buffer) override;
+  RowView refresh(int row, RowStore& buffer) override;
   bool readsRows() const noexcept override { return false; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;
@@ -30,6 +32,8 @@ class SnapshotCursor : public Cursor {
  private:
   const ValueIndex& index(int column);
   void readInserted();
+  /// Reads a row of the snapshot again; false when it is gone.
+  bool readAgain(int row);
 
   Connection& connection_;
   String statement_;
@@ -39,6 +43,7 @@ class SnapshotCursor : public Cursor {
   /// The last row, inserted and not read back so far, with what can read it.
   std::optional<RowHandle> unread_;
   std::unique_ptr<Keyset> reader_;
+  std::set<int> gone_;  // rows that were deleted when they were read again
 };
 
 }  // namespace zqn::ado

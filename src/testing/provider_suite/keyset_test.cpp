@@ -264,4 +264,71 @@ TEST_P(SnapshotTest, FindInALongListMeetsTheNextMatch) {
   EXPECT_EQ(rs->currentRow(), 9042);
 }
 
+// ---- a row is read afresh
+
+TEST_P(RecordsetTest, ReadsARowAfreshThatSomebodyElseHasChanged) {
+  const auto rs = list();
+  EXPECT_EQ(rs->rowText(0, 1), u"Anfrage");
+  EXPECT_EQ(rs->rowText(1, 1), u"Angebot");
+  context->connect()->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='Neu'");
+  EXPECT_TRUE(rs->refreshRow(0));
+  EXPECT_TRUE(rs->refreshRow(1));
+  EXPECT_EQ(rs->rowText(0, 1), u"Neu");
+  EXPECT_EQ(rs->rowText(1, 1), u"Neu");
+  EXPECT_EQ(CStr(rs->Fields(1).Value()), u"Neu") << "the current row, too";
+  rs->Find(u"Bezeichnung='Neu'", 1);
+  EXPECT_EQ(rs->currentRow(), 1);
+}
+
+TEST_P(RecordsetTest, ARowThatIsGoneReadsAfreshAsEmpty) {
+  const auto rs = list();
+  EXPECT_EQ(rs->rowText(1, 1), u"Angebot");
+  context->connect()->Execute(u"DELETE FROM Vertriebsstati WHERE Status<>'30'");
+  EXPECT_FALSE(rs->refreshRow(1));
+  EXPECT_EQ(rs->rowText(1, 0), u"");
+  EXPECT_TRUE(rs->rowValue(1, 0).isNull());
+  EXPECT_FALSE(rs->refreshRow(0));
+  EXPECT_EQ(errorNumberOf([&] { rs->Fields(0).Value(); }), error::NoCurrentRecord);
+  EXPECT_TRUE(rs->refreshRow(2));
+  EXPECT_EQ(rs->rowText(2, 0), u"30");
+  EXPECT_EQ(rs->RecordCount(), 3) << "a hole stays";
+}
+
+TEST_P(RecordsetTest, ReadsARowAfreshByWhateverKeyTheStatementNames) {
+  connection->Execute(u"CREATE TABLE Texte (Art " + context->textColumn(5) + u" NOT NULL, Nummer " +
+                      u"INTEGER NOT NULL, Inhalt " + context->textColumn(30) +
+                      u", PRIMARY KEY (Art, Nummer))");
+  connection->Execute(u"INSERT INTO Texte VALUES ('A', 1, 'eins'), ('A', 2, 'zwei'), ('B', 1, 'drei')");
+  const auto rs = open(u"SELECT Inhalt, Nummer, Art FROM Texte ORDER BY Inhalt");
+  EXPECT_EQ(rs->rowText(2, 0), u"zwei");
+  context->connect()->Execute(u"UPDATE Texte SET Inhalt='Zwei!' WHERE Art='A' AND Nummer=2");
+  EXPECT_TRUE(rs->refreshRow(2));
+  EXPECT_EQ(rs->rowText(2, 0), u"Zwei!");
+  EXPECT_TRUE(rs->refreshRow(1));
+  EXPECT_EQ(rs->rowText(1, 0), u"eins");
+}
+
+TEST_P(RecordsetTest, LeavesTheRowThatIsBeingEditedAsItWasRead) {
+  const auto rs = openForWrite(u"SELECT * FROM Vertriebsstati ORDER BY Status");
+  rs->Fields(u"Bezeichnung").Value(u"Meins");
+  context->connect()->Execute(u"UPDATE Vertriebsstati SET Bezeichnung='Ihres' WHERE Status='10'");
+  EXPECT_TRUE(rs->refreshRow(0));
+  EXPECT_EQ(errorNumberOf([&] { rs->Update(); }), error::RowConflict);
+}
+
+TEST_P(RecordsetTest, ReadsAfreshOnlyARowThatIsKnown) {
+  const auto rs = list();
+  EXPECT_EQ(errorNumberOf([&] { rs->refreshRow(3); }), error::NoCurrentRecord);
+  EXPECT_EQ(errorNumberOf([&] { rs->refreshRow(-1); }), error::NoCurrentRecord);
+  rs->Close();
+  EXPECT_EQ(errorNumberOf([&] { rs->refreshRow(0); }), error::ObjectClosed);
+}
+
+TEST_P(SnapshotTest, CannotReadAfreshWhatHasNoKey) {
+  const auto rs = open(u"SELECT count(*) AS Anzahl FROM Vertriebsstati");
+  context->connect()->Execute(u"DELETE FROM Vertriebsstati");
+  EXPECT_TRUE(rs->refreshRow(0));
+  EXPECT_EQ(rs->rowText(0, 0), u"3") << "it stays as it was";
+}
+
 }  // namespace zqn::ado::suite

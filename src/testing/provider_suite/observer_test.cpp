@@ -132,6 +132,14 @@ TEST_P(RecordsetTest, FailedAddNewChangesNothing) {
   EXPECT_EQ(rs->currentRow(), 1);
 }
 
+TEST_P(RecordsetTest, RequeryAfterAFailedOneIsTold) {
+  Recorder recorder(connection);
+  const auto rs = list();
+  EXPECT_EQ(recorder.failing(Operation::Requery, [&] { rs->Requery(); }), Recorder::Fault);
+  EXPECT_EQ(recorder.during([&] { rs->Requery(); }), Operations{Operation::Requery});
+  EXPECT_EQ(keysFrom(*rs), u"10 20 30");
+}
+
 TEST_P(RecordsetTest, FailedRequeryCloses) {
   Recorder recorder(connection);
   const auto rs = openForWrite(All);

@@ -192,6 +192,38 @@ TEST_P(RecordsetTest, IsClosedWhenRequeryFails) {
   EXPECT_EQ(rs->State(), adStateClosed);
 }
 
+TEST_P(RecordsetTest, RequeryOpensAgainWhatAFailedRequeryHasClosed) {
+  const auto rs = list();
+  connection->Execute(u"DROP TABLE Vertriebsstati");
+  EXPECT_EQ(errorNumberOf([&] { rs->Requery(); }), error::TableNotFound);
+  EXPECT_EQ(errorNumberOf([&] { rs->Requery(); }), error::TableNotFound) << "as often as it is tried";
+  EXPECT_EQ(rs->State(), adStateClosed);
+  EXPECT_EQ(errorNumberOf([&] { rs->MoveFirst(); }), error::ObjectClosed);
+  connection->Execute(u"CREATE TABLE Vertriebsstati (Status " + context->textColumn(10) +
+                      u" NOT NULL PRIMARY KEY, Bezeichnung " + context->textColumn(30) + u")");
+  connection->Execute(u"INSERT INTO Vertriebsstati VALUES ('40', 'Auftrag')");
+  rs->Requery();
+  EXPECT_EQ(keysFrom(*rs), u"40");
+  EXPECT_EQ(connection->openRecordsets(), 1u);
+}
+
+TEST_P(RecordsetTest, KeepsItsStatementUntilItIsOpenedAnew) {
+  const auto rs = list();
+  connection->Execute(u"DROP TABLE Vertriebsstati");
+  EXPECT_EQ(errorNumberOf([&] { rs->Requery(); }), error::TableNotFound);
+  EXPECT_EQ(errorNumberOf([&] { rs->Close(); }), error::ObjectClosed);
+  EXPECT_EQ(errorNumberOf([&] { rs->Open(u"SELECT * FROM Fehlt", connection); }), error::TableNotFound);
+  EXPECT_EQ(errorNumberOf([&] { rs->Requery(); }), error::ObjectClosed) << "a failed Open keeps nothing";
+}
+
+TEST_P(RecordsetTest, RequeryBehindAClosedConnectionIsRefused) {
+  const auto rs = list();
+  connection->Execute(u"DROP TABLE Vertriebsstati");
+  EXPECT_EQ(errorNumberOf([&] { rs->Requery(); }), error::TableNotFound);
+  connection->Close();
+  EXPECT_EQ(errorNumberOf([&] { rs->Requery(); }), error::InvalidConnection);
+}
+
 TEST_P(RecordsetTest, RequeryMakesOldBookmarksWorthless) {
   const auto rs = list();
   const Variant old = rs->Bookmark();

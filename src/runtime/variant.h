@@ -4,11 +4,11 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <variant>
 #include <vector>
 
 #include "runtime/error.h"
+#include "runtime/ref.h"
 #include "runtime/string.h"
 
 namespace zqn {
@@ -66,7 +66,9 @@ class Variant {
   Variant(zqn::String value) : value_(std::move(value)) {}
   Variant(StringView value) : value_(zqn::String(value)) {}
   Variant(const char16_t* value) : value_(zqn::String(value)) {}
-  Variant(std::shared_ptr<zqn::Object> value) : value_(std::move(value)) {}
+  Variant(Ref<zqn::Object> value) : value_(std::move(value)) {}
+  template <SharedPointerTo<zqn::Object> Pointer>
+  Variant(Pointer value) : value_(Ref<zqn::Object>(std::move(value))) {}
   Variant(const void*) = delete;
   Variant(const Variant&) = default;
   Variant(Variant&&) noexcept = default;
@@ -84,7 +86,7 @@ class Variant {
   bool isNumber() const noexcept { return kind() >= Kind::Boolean && kind() <= Kind::Double; }
 
   /// The held value; nullptr when the kind is another one. T is bool, std::int16_t, std::int32_t, double,
-  /// Date, String or std::shared_ptr<Object>.
+  /// Date, String or Ref<Object>.
   template <class T>
   const T* as() const noexcept {
     return std::get_if<T>(&value_);
@@ -97,7 +99,7 @@ class Variant {
  private:
   // The order is that of Kind.
   std::variant<std::monostate, NullValue, bool, std::int16_t, std::int32_t, double, zqn::Date, zqn::String,
-               std::shared_ptr<zqn::Object>, MissingValue>
+               Ref<zqn::Object>, MissingValue>
       value_;
 };
 

@@ -77,7 +77,7 @@ TEST_F(Preislisten, TheInformationIsAskedByF4AloneAndHasTheSession) {
     EXPECT_TRUE(auskunft.asked.empty());
     press(key::F4);
     EXPECT_EQ(auskunft.asked.size(), 1u);
-    EXPECT_EQ(auskunft.session.shared(), session);
+    EXPECT_EQ(auskunft.session.get(), session.get());
   });
 }
 

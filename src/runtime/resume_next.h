@@ -19,14 +19,41 @@
 
 namespace zqn {
 
+/// Hears of what the routines of a thread pass over, from its making to its end; an inner one hears in place
+/// of those around it.
+class PassedOverListener {
+ public:
+  PassedOverListener(const PassedOverListener&) = delete;
+  PassedOverListener& operator=(const PassedOverListener&) = delete;
+
+  /// The innermost listener of the calling thread; nullptr when nobody listens.
+  static PassedOverListener* current() noexcept;
+
+  /// A statement or a test has failed and was passed over. Must not raise.
+  virtual void passedOver(const RuntimeError& failure) = 0;
+
+ protected:
+  PassedOverListener() noexcept;
+  ~PassedOverListener();
+
+ private:
+  PassedOverListener* outer_;
+};
+
 class ResumeNext {
  public:
+  /// Statements are passed over when they fail; in the mode `Raise` they are not, and `step` adds nothing to
+  /// plain code. For a routine whose error mode is decided elsewhere.
+  enum class Mode { PassOver, Raise };
+  explicit ResumeNext(Mode mode = Mode::PassOver) noexcept : mode_(mode) {}
+
   /// Runs one statement; a run-time error ends the statement and is remembered.
   template <class Statement>
   void operator()(Statement&& statement) {
     try {
       std::forward<Statement>(statement)();
     } catch (const RuntimeError& failure) {
+      if (mode_ == Mode::Raise) throw;
       remember(failure);
     }
   }
@@ -38,6 +65,7 @@ class ResumeNext {
     try {
       return static_cast<bool>(std::forward<Condition>(condition)());
     } catch (const RuntimeError& failure) {
+      if (mode_ == Mode::Raise) throw;
       remember(failure);
       return true;
     }
@@ -53,11 +81,9 @@ class ResumeNext {
   }
 
  private:
-  void remember(const RuntimeError& failure) {
-    number_ = failure.number();
-    description_ = failure.description();
-  }
+  void remember(const RuntimeError& failure);
 
+  Mode mode_;
   std::int32_t number_ = 0;
   String description_;
 };

@@ -48,11 +48,12 @@ void Connection::dismiss(Recordset& recordset) noexcept { std::erase(recordsets_
 
 void Connection::requireRunnable(const sql::Text& statement) const {
   if (!statement.valid()) {
-    throw RuntimeError(error::CommandText, u"Unclosed quotation mark in the statement: " + statement.text(),
+    throw RuntimeError(error::CommandText, u"Ungültiger Wert in der Anweisung: " + statement.text(),
                        provider().name());
   }
   if (statement.criterionOnly()) {
-    throw RuntimeError(error::CommandText, u"A value without quotes in the statement: " + statement.text(),
+    throw RuntimeError(error::CommandText,
+                       u"Wert ohne Anführungszeichen in der Anweisung: " + statement.text(),
                        provider().name());
   }
 }

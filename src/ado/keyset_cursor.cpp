@@ -35,7 +35,8 @@ KeysetCursor::KeysetCursor(Provider& provider, StringView statement, std::shared
 Keyset& KeysetCursor::keyset() {
   if (!keyset_) keyset_ = provider_.keyset(statement_);
   if (!keyset_)
-    throw RuntimeError(error::ProviderFailure, u"The rows of this statement cannot be read by their keys.");
+    throw RuntimeError(error::ProviderFailure,
+                       u"Die Zeilen dieser Anweisung lassen sich nicht über ihre Schlüssel lesen.");
   return *keyset_;
 }
 

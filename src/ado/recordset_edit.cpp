@@ -67,8 +67,8 @@ void Recordset::requireUpdatable() const {
       columns, [&](const Column& column) { return column.baseTable.empty() || column.baseTable == table; });
   if (lockType_ == adLockReadOnly || !keyed || !oneTable) {
     raise(error::FeatureNotAvailable,
-          u"Current Recordset does not support updating. This may be a limitation of the provider, or of the "
-          u"selected locktype.");
+          u"Diese Datensatzgruppe lässt sich nicht ändern: Die Abfrage oder die Art der Sperre erlaubt es "
+          u"nicht.");
   }
 }
 

@@ -56,6 +56,8 @@ constexpr std::int32_t IntegrityViolation = -2147217873;  // duplicate key, Null
 constexpr std::int32_t RowConflict = -2147217864;         // the row is gone or has changed since it was read
 constexpr std::int32_t MultipleStep = -2147217887;        // the field could not be set (too long, read-only)
 constexpr std::int32_t ProviderDataOverflow = -2147217833;
+constexpr std::int32_t ConversionFailed = -2147217913;
+constexpr std::int32_t NoValueForParameter = -2147217904;
 constexpr std::int32_t PermissionDenied = -2147217911;
 constexpr std::int32_t ProviderTypeMismatch = -2147352571;  // "abc" into a number column
 constexpr std::int32_t ProviderFailure =
@@ -65,7 +67,7 @@ constexpr std::int32_t ProviderFailure =
 
 class RuntimeError : public std::exception {
  public:
-  /// The error with the platform's own words for `number` (error::description).
+  /// The error with the words for `number` (error::description).
   explicit RuntimeError(std::int32_t number);
   RuntimeError(std::int32_t number, String description, String source = {});
 
@@ -73,7 +75,7 @@ class RuntimeError : public std::exception {
   const String& description() const noexcept { return description_; }
   /// Who raised it: "ADODB", a provider's name, or empty for the language itself.
   const String& source() const noexcept { return source_; }
-  /// "3021: Either BOF or EOF is True, ..." in UTF-8, for logs and test output.
+  /// "3021: BOF oder EOF ist True, ..." in UTF-8, for logs and test output.
   const char* what() const noexcept override { return what_.c_str(); }
 
  private:
@@ -84,8 +86,7 @@ class RuntimeError : public std::exception {
 };
 
 namespace error {
-/// The platform's words for a number: German for the language and the forms, ADO's English texts for 3001 and
-/// above; "" if the number has none.
+/// The German words for a number of the list above; "" for another one.
 String description(std::int32_t number);
 }  // namespace error
 

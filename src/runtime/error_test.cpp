@@ -3,7 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <regex>
 #include <stdexcept>
+#include <string>
 
 #include "runtime/ref.h"
 #include "runtime/resume_next.h"
@@ -12,7 +18,7 @@
 namespace zqn {
 namespace {
 
-TEST(RuntimeErrorText, IsGermanForTheLanguageAndEnglishForAdo) {
+TEST(RuntimeErrorText, IsGerman) {
   struct Row {
     std::int32_t number;
     const char16_t* text;
@@ -27,52 +33,60 @@ TEST(RuntimeErrorText, IsGermanForTheLanguageAndEnglishForAdo) {
       {94, u"Unzulässige Verwendung von Null"},
       {364, u"Objekt wurde entladen"},
       {380, u"Ungültiger Eigenschaftswert"},
-      {3001,
-       u"Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."},
       {3021,
-       u"Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a "
-       u"current record."},
-      {3219, u"Operation is not allowed in this context."},
-      {3251, u"Object or provider is not able to perform requested operation."},
-      {3265, u"Item cannot be found in the collection corresponding to the requested name or ordinal."},
-      {3420, u"Object is no longer valid."},
-      {3421, u"Application uses a value of the wrong type for the current operation."},
-      {3704, u"Operation is not allowed when the object is closed."},
-      {3705, u"Operation is not allowed when the object is open."},
-      {3709,
-       u"The connection cannot be used to perform this operation. It is either closed or invalid in this "
-       u"context."},
+       u"BOF oder EOF ist True, oder der aktuelle Datensatz ist gelöscht. Der Vorgang braucht einen "
+       u"aktuellen Datensatz."},
+      {3704, u"Der Vorgang ist nicht zulässig, wenn das Objekt geschlossen ist."},
       {-2147217864,
-       u"Row cannot be located for updating. Some values may have been changed since it was last read."},
-      {-2147217887, u"Multiple-step operation generated errors. Check each status value."},
-      {-2147352571, u"Type mismatch."},
+       u"Der Datensatz wurde nicht gefunden. Er ist gelöscht oder seit dem Lesen geändert worden."},
       {4711, u""},
   };
   for (const Row& row : rows) EXPECT_EQ(error::description(row.number), row.text) << row.number;
 }
 
+// ---- every number and every text in the sources of the library
+
+std::string read(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+const std::filesystem::path sources = std::filesystem::path(__FILE__).parent_path().parent_path();
+
 TEST(RuntimeErrorText, EveryNumberOfTheHeaderHasWords) {
-  using namespace error;
-  for (const std::int32_t number : {InvalidProcedureCall, Overflow,
-                                    SubscriptOutOfRange,  DivisionByZero,
-                                    TypeMismatch,         ObjectNotSet,
-                                    InvalidUseOfNull,     NoSuchControl,
-                                    ObjectUnloaded,       UnableToUnload,
-                                    InvalidPropertyValue, InvalidPropertyArrayIndex,
-                                    PropertyIsReadOnly,   FormAlreadyDisplayed,
-                                    ObjectRequired,       CannotCreateObject,
-                                    NoSuchMember,         InvalidArgument,
-                                    NoCurrentRecord,      IllegalOperation,
-                                    FeatureNotAvailable,  ItemNotFound,
-                                    ObjectNotValid,       DataConversion,
-                                    ObjectClosed,         ObjectOpen,
-                                    InvalidConnection,    CommandText,
-                                    TableNotFound,        IntegrityViolation,
-                                    RowConflict,          MultipleStep,
-                                    ProviderDataOverflow, PermissionDenied,
-                                    ProviderTypeMismatch, ProviderFailure}) {
-    EXPECT_NE(description(number), u"") << number;
+  const std::string header = read(sources / "runtime/error.h");
+  const std::regex constant(R"(constexpr std::int32_t (\w+)\s*=\s*(-?\d+);)");
+  int numbers = 0;
+  for (std::sregex_iterator each(header.begin(), header.end(), constant), end; each != end; ++each) {
+    EXPECT_NE(error::description(std::stoi((*each)[2])), u"") << (*each)[1];
+    ++numbers;
   }
+  EXPECT_GE(numbers, 38);
+}
+
+/// What stands in most English sentences and in no German one.
+const std::regex english(R"(\b(the|is|are|of|not|cannot|has|or|and|there|no|by|for|to)\b)");
+
+TEST(RuntimeErrorText, IsGermanWhereverALibraryMakesOne) {
+  const std::regex raised(R"re((?:RuntimeError|raise|refuse|raiseGridError)\([^;]*?;)re");
+  const std::regex literal(R"re(u"((?:[^"\\]|\\.)*)")re");
+  int texts = 0;
+  for (const char* folder : {"runtime", "ado", "forms", "contract", "frontend", "dialog", "definitions",
+                             "catalogues", "sales", "split", "desktop"}) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(sources / folder)) {
+      const std::string name = entry.path().filename().string();
+      if (entry.path().extension() != ".cpp" || name.ends_with("_test.cpp")) continue;
+      const std::string source = read(entry.path());
+      for (std::sregex_iterator call(source.begin(), source.end(), raised), end; call != end; ++call) {
+        const std::string statement = call->str();
+        for (std::sregex_iterator text(statement.begin(), statement.end(), literal); text != end; ++text) {
+          ++texts;
+          EXPECT_FALSE(std::regex_search((*text)[1].str(), english)) << name << ": " << (*text)[1];
+        }
+      }
+    }
+  }
+  EXPECT_GE(texts, 20);
 }
 
 TEST(RuntimeError, CarriesNumberWordsAndSource) {
@@ -100,7 +114,7 @@ TEST(ResumeNext, SkipsAFailingStatementAndGoesOn) {
   step([&] { value += 10; });
   EXPECT_EQ(value, 11);
   EXPECT_EQ(step.Number(), error::ObjectClosed);
-  EXPECT_EQ(step.Description(), u"Operation is not allowed when the object is closed.");
+  EXPECT_EQ(step.Description(), u"Der Vorgang ist nicht zulässig, wenn das Objekt geschlossen ist.");
 }
 
 TEST(ResumeNext, FailingAssignmentLeavesItsTarget) {
@@ -175,8 +189,9 @@ TEST(Ref, NothingRaisesErrorOnUse) {
 }
 
 TEST(Ref, CopiesReferToOneObjectAndTheLastOneReleasesIt) {
-  Ref<DerivedCompanion> derived = Ref<DerivedCompanion>::make();
-  const std::weak_ptr<DerivedCompanion> watch = derived.shared();
+  auto object = std::make_shared<DerivedCompanion>();
+  const std::weak_ptr<DerivedCompanion> watch = object;
+  Ref<DerivedCompanion> derived = std::move(object);
   Ref<Companion> base = derived;
   EXPECT_TRUE(base == Ref<Companion>(derived));
   base->value = 8;
@@ -185,6 +200,55 @@ TEST(Ref, CopiesReferToOneObjectAndTheLastOneReleasesIt) {
   EXPECT_FALSE(watch.expired());
   base = nothing;
   EXPECT_TRUE(watch.expired());
+}
+
+TEST(Ref, OfANullPointerIsNothing) {
+  EXPECT_TRUE(Ref<Companion>(std::shared_ptr<DerivedCompanion>()).isNothing());
+  EXPECT_TRUE(Ref<Companion>(Ref<DerivedCompanion>()).isNothing());
+}
+
+TEST(Ref, MovingLeavesNothingAndAssigningItselfKeepsTheObject) {
+  Ref<Companion> from = Ref<Companion>::make();
+  from->value = 7;
+  Ref<Companion> to = std::move(from);
+  EXPECT_EQ(to->value, 7);
+  Ref<Companion>& same = to;
+  to = same;
+  EXPECT_EQ(to->value, 7);
+  EXPECT_FALSE(to == Ref<Companion>::make());
+}
+
+// ---- who hears of what is passed over
+
+struct Heard final : PassedOverListener {
+  void passedOver(const RuntimeError& failure) override { numbers.push_back(failure.number()); }
+  std::vector<std::int32_t> numbers;
+};
+
+TEST(PassedOver, IsHeardOfByTheInnermostListenerAlone) {
+  ResumeNext step;
+  const auto fail = [&](std::int32_t number) { step([&] { throw RuntimeError(number); }); };
+  fail(error::Overflow);
+  EXPECT_EQ(PassedOverListener::current(), nullptr);
+  Heard outer;
+  fail(error::ObjectNotSet);
+  {
+    Heard inner;
+    EXPECT_TRUE(step.test([]() -> bool { throw RuntimeError(error::TypeMismatch); }));
+    EXPECT_EQ(inner.numbers, std::vector<std::int32_t>{error::TypeMismatch});
+  }
+  fail(error::InvalidUseOfNull);
+  EXPECT_EQ(outer.numbers, (std::vector<std::int32_t>{error::ObjectNotSet, error::InvalidUseOfNull}));
+}
+
+TEST(PassedOver, IsNothingInARoutineThatRaises) {
+  const Heard heard;
+  ResumeNext step(ResumeNext::Mode::Raise);
+  EXPECT_EQ(errorNumberOf([&] { step([] { throw RuntimeError(error::Overflow); }); }), error::Overflow);
+  EXPECT_EQ(errorNumberOf([&] { step.test([]() -> bool { throw RuntimeError(error::Overflow); }); }),
+            error::Overflow);
+  EXPECT_EQ(step.Number(), 0);
+  EXPECT_TRUE(heard.numbers.empty());
 }
 
 }  // namespace

@@ -11,8 +11,6 @@ namespace zqn::ado::odbc {
 
 namespace {
 
-constexpr std::int32_t ConversionFailed = -2147217913;
-
 // Numbers of MariaDB and MySQL, whose SQLSTATEs say less.
 constexpr std::array<long, 5> AccessDenied = {1044, 1142, 1143, 1227, 1370};
 constexpr std::array<long, 1> AmbiguousColumn = {1052};
@@ -58,7 +56,7 @@ Diagnostic diagnosticOf(SQLSMALLINT kind, SQLHANDLE handle) {
   SQLSMALLINT length = 0;
   const SQLRETURN result = SQLGetDiagRecW(kind, handle, 1, state.data(), &native, words.data(),
                                           static_cast<SQLSMALLINT>(words.size()), &length);
-  if (!SQL_SUCCEEDED(result)) return {{}, 0, u"The driver gives no reason."};
+  if (!SQL_SUCCEEDED(result)) return {{}, 0, u"Der Treiber nennt keinen Grund."};
   const auto units = std::min<std::size_t>(static_cast<std::size_t>(length), words.size() - 1);
   Diagnostic diagnostic{{}, native, plainWords(StringView(asText(words.data()), units))};
   for (std::size_t i = 0; i < 5; ++i) diagnostic.state += static_cast<char>(state[i]);
@@ -70,14 +68,14 @@ std::int32_t errorNumber(const Diagnostic& diagnostic) noexcept {
   if (isOneOf(diagnostic.native, AccessDenied) || state == "42501" || state == "25006")
     return error::PermissionDenied;
   if (isOneOf(diagnostic.native, AmbiguousColumn)) return error::CommandText;
-  if (isOneOf(diagnostic.native, ForeignCharacters)) return ConversionFailed;
+  if (isOneOf(diagnostic.native, ForeignCharacters)) return error::ConversionFailed;
   if (isOneOf(diagnostic.native, NoDefault)) return error::IntegrityViolation;
   if (state == "42S02" || state == "42P01" || state == "S0002") return error::TableNotFound;
   if (state == "22001" || state == "22003") return error::ProviderDataOverflow;
   // The row was changed by somebody else at the same time, and the server has given up this statement.
   if (state.starts_with("40")) return error::RowConflict;
   if (state.starts_with("23")) return error::IntegrityViolation;
-  if (state.starts_with("22")) return ConversionFailed;
+  if (state.starts_with("22")) return error::ConversionFailed;
   if (state.starts_with("42") || state == "37000" || state == "07002") return error::CommandText;
   return error::ProviderFailure;
 }

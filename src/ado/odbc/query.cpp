@@ -13,7 +13,6 @@ namespace zqn::ado::odbc {
 
 namespace {
 
-constexpr std::int32_t NoValueForParameter = -2147217904;
 /// Longest text that is read in blocks, in characters; a longer one, or one without a limit, comes alone.
 constexpr SQLULEN LongestInBlock = 1000;
 constexpr std::size_t BlockBytes = std::size_t{8} * 1024;
@@ -98,7 +97,7 @@ void Query::open(std::span<const Value> parameters) {
     SQLSMALLINT asked = 0;
     if (!SQL_SUCCEEDED(SQLNumParams(handle_.get(), &asked))) fail();
     if (static_cast<std::size_t>(asked) != parameters.size())
-      throw RuntimeError(NoValueForParameter, u"No value given for one or more required parameters.",
+      throw RuntimeError(error::NoValueForParameter, error::description(error::NoValueForParameter),
                          link_.product());
     bind(parameters);
   }

@@ -48,7 +48,7 @@ bool Server::mayRun(const Translation& statement) {
   if (ends) inTransaction_ = false;
   if (statement.effect == Effect::Rollback) return false;
   throw RuntimeError(error::ProviderFailure,
-                     u"The connection was lost inside a transaction; nothing of it has been kept.",
+                     u"Die Verbindung ist in einer Transaktion abgebrochen; von ihr ist nichts gespeichert.",
                      link_.product());
 }
 

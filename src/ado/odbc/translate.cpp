@@ -22,22 +22,23 @@ using Kind = Token::Kind;
 }
 
 std::vector<Token> tokensOf(StringView statement, const Dialect& dialect) {
-  if (statement.find(u'\0') != StringView::npos) refuse(u"The statement holds a character U+0000.", dialect);
+  if (statement.find(u'\0') != StringView::npos)
+    refuse(u"Die Anweisung enthält ein Zeichen U+0000.", dialect);
   std::vector<Token> tokens;
   sql::Scanner scanner(statement);
   bool ended = false;
   for (Token token = scanner.next(); token.kind != Kind::End; token = scanner.next()) {
     if (token.kind == Kind::Unclosed)
-      refuse(u"Unclosed quotation mark in the statement: " + String(statement), dialect);
+      refuse(u"Offenes Anführungszeichen in der Anweisung: " + String(statement), dialect);
     const bool separator = token.isSymbol(u";");
     if (ended && !separator) {
       const auto rest = static_cast<std::size_t>(token.text.data() - statement.data());
-      refuse(u"A second statement follows the first: " + String(statement.substr(rest)), dialect);
+      refuse(u"Auf die Anweisung folgt eine zweite: " + String(statement.substr(rest)), dialect);
     }
     ended = ended || separator;
     if (!separator) tokens.push_back(token);
   }
-  if (tokens.empty()) refuse(u"There is no statement.", dialect);
+  if (tokens.empty()) refuse(u"Die Anweisung fehlt.", dialect);
   return tokens;
 }
 

@@ -7,8 +7,6 @@ namespace zqn::ado::sqlite {
 
 namespace {
 
-constexpr std::int32_t ConversionFailed = -2147217913;
-
 int collate(void*, int leftSize, const void* left, int rightSize, const void* right) {
   return compareCollated(
       std::string_view(static_cast<const char*>(left), static_cast<std::size_t>(leftSize)),
@@ -59,7 +57,7 @@ std::int32_t errorNumber(int result, std::string_view message) noexcept {
     case SQLITE_AUTH:
       return error::PermissionDenied;
     case SQLITE_MISMATCH:
-      return ConversionFailed;
+      return error::ConversionFailed;
     case SQLITE_TOOBIG:
       return error::ProviderDataOverflow;
     default:
@@ -74,7 +72,7 @@ RuntimeError Database::failure(int result) const {
 
 StatementHandle Database::prepare(std::string_view statement) const {
   if (statement.find('\0') != std::string_view::npos) {
-    throw RuntimeError(error::CommandText, u"The statement holds a character U+0000.", SourceName);
+    throw RuntimeError(error::CommandText, u"Die Anweisung enthält ein Zeichen U+0000.", SourceName);
   }
   sqlite3_stmt* prepared = nullptr;
   const char* tail = nullptr;
@@ -83,10 +81,10 @@ StatementHandle Database::prepare(std::string_view statement) const {
       sqlite3_prepare_v3(database_, statement.data(), size, SQLITE_PREPARE_PERSISTENT, &prepared, &tail);
   StatementHandle handle(prepared);
   if (result != SQLITE_OK) throw failure(result);
-  if (!handle) throw RuntimeError(error::CommandText, u"There is no statement.", SourceName);
+  if (!handle) throw RuntimeError(error::CommandText, u"Die Anweisung fehlt.", SourceName);
   const std::string_view rest = statement.substr(static_cast<std::size_t>(tail - statement.data()));
   if (!rest.empty() && !onlyBlanks(database_, rest)) {
-    throw RuntimeError(error::CommandText, u"A second statement follows the first: " + fromUtf8(rest),
+    throw RuntimeError(error::CommandText, u"Auf die Anweisung folgt eine zweite: " + fromUtf8(rest),
                        SourceName);
   }
   return handle;

@@ -42,27 +42,27 @@ class SqliteProvider : public Provider {
 }
 
 [[noreturn]] void refuseUnwritable(const std::filesystem::path& path) {
-  refuse(
-      error::PermissionDenied, path,
-      u"can only be read. Give this user the right to write the file and its folder, where SQLite keeps the "
-      u"write-ahead log, or open it for reading only.");
+  refuse(error::PermissionDenied, path,
+         u"lässt sich nur lesen. Geben Sie diesem Benutzer das Recht, die Datei und ihren Ordner zu "
+         u"schreiben, in "
+         u"dem SQLite sein Protokoll führt, oder öffnen Sie sie nur zum Lesen.");
 }
 
 void checkPath(const std::filesystem::path& path, Mode mode) {
   std::error_code ignored;
   if (std::filesystem::is_directory(path, ignored)) {
-    refuse(error::ProviderFailure, path, u"is a folder. Name a database file inside it.");
+    refuse(error::ProviderFailure, path, u"ist ein Ordner. Nennen Sie eine Datenbankdatei darin.");
   }
   if (std::filesystem::exists(path, ignored)) return;
   const std::filesystem::path folder = path.parent_path();
   if (!std::filesystem::is_directory(folder, ignored)) {
     refuse(error::ProviderFailure, path,
-           u"cannot be opened: there is no folder \"" + folder.u16string() +
-               u"\". Make the folder first, or name another one.");
+           u"lässt sich nicht öffnen: Es gibt keinen Ordner \"" + folder.u16string() +
+               u"\". Legen Sie ihn zuerst an, oder nennen Sie einen anderen.");
   }
   if (mode != Mode::Create) {
     refuse(error::ProviderFailure, path,
-           u"does not exist. Name an existing database file, or allow a new one to be made.");
+           u"gibt es nicht. Nennen Sie eine vorhandene Datenbankdatei, oder lassen Sie eine neue anlegen.");
   }
 }
 
@@ -74,17 +74,19 @@ void checkPath(const std::filesystem::path& path, Mode mode) {
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
       refuse(failure.number(), path,
-             u"is no SQLite database" + words + u"Name a database file, or restore it from a copy.");
+             u"ist keine SQLite-Datenbank" + words +
+                 u"Nennen Sie eine Datenbankdatei, oder stellen Sie sie aus einer Kopie wieder her.");
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
       refuse(failure.number(), path,
-             u"is in use by another program" + words + u"End that program, or try again later.");
+             u"wird von einem anderen Programm benutzt" + words +
+                 u"Beenden Sie es, oder versuchen Sie es später wieder.");
     case SQLITE_READONLY:
       refuseUnwritable(path);
     default:
       refuse(failure.number(), path,
-             u"cannot be read" + words +
-                 u"The file and its folder must be readable and writable for this user.");
+             u"lässt sich nicht lesen" + words +
+                 u"Dieser Benutzer muss die Datei und ihren Ordner lesen und schreiben dürfen.");
   }
 }
 
@@ -97,8 +99,8 @@ std::shared_ptr<Database> openFile(const std::string& path, const std::filesyste
     return std::make_shared<Database>(path, flags, static_cast<int>(options.busyTimeout.count()));
   } catch (const RuntimeError& failure) {
     refuse(failure.number(), shown,
-           u"cannot be opened (" + failure.description() +
-               u"). This user must have the right to read and write the file and its folder.");
+           u"lässt sich nicht öffnen (" + failure.description() +
+               u"). Dieser Benutzer muss die Datei und ihren Ordner lesen und schreiben dürfen.");
   }
 }
 

@@ -64,12 +64,13 @@ TEST_F(SqliteFile, HasAWriteAheadLogFullSyncAndForeignKeys) {
 }
 
 TEST_F(SqliteFile, FolderIsRefused) {
-  EXPECT_NE(refusal(file.folder()).find("is a folder. Name a database file inside it."), std::string::npos);
+  EXPECT_NE(refusal(file.folder()).find("ist ein Ordner. Nennen Sie eine Datenbankdatei darin."),
+            std::string::npos);
 }
 
 TEST_F(SqliteFile, MissingFolderIsNamed) {
   const std::string words = refusal(file.folder() / "fehlt" / "Test.db");
-  EXPECT_NE(words.find("there is no folder"), std::string::npos);
+  EXPECT_NE(words.find("Es gibt keinen Ordner"), std::string::npos);
   EXPECT_NE(words.find("fehlt\""), std::string::npos);
 }
 
@@ -85,7 +86,7 @@ TEST_F(SqliteFile, MissingFileIsMadeOnlyWhenAllowed) {
 TEST_F(SqliteFile, FileThatIsNoDatabaseIsRefusedAndLeftAlone) {
   const std::string content(5000, 'x');
   std::ofstream(file.path()) << content;
-  EXPECT_NE(refusal(file.path()).find("is no SQLite database"), std::string::npos);
+  EXPECT_NE(refusal(file.path()).find("ist keine SQLite-Datenbank"), std::string::npos);
   EXPECT_EQ(std::filesystem::file_size(file.path()), content.size());
 }
 
@@ -103,7 +104,7 @@ TEST_F(SqliteFile, FileThatCanOnlyBeReadIsRefusedUnlessOpenedSo) {
     ASSERT_EQ(seteuid(user), 0);
   }
   EXPECT_TRUE(words.starts_with("-2147217911: ")) << words;
-  EXPECT_NE(words.find("can only be read"), std::string::npos) << words;
+  EXPECT_NE(words.find("lässt sich nur lesen"), std::string::npos) << words;
   EXPECT_NE(words.find("right to write"), std::string::npos) << words;
   EXPECT_EQ(readOnly, "");
 }
@@ -120,7 +121,8 @@ TEST_F(SqliteFile, LockedFileIsRefusedAfterTheTimeAllowed) {
   const auto owner = openSqlite(file.path());
   owner->Execute(u"PRAGMA journal_mode=DELETE");
   owner->Execute(u"BEGIN EXCLUSIVE");
-  EXPECT_NE(refusal(file.path(), Impatient).find("is in use by another program"), std::string::npos);
+  EXPECT_NE(refusal(file.path(), Impatient).find("wird von einem anderen Programm benutzt"),
+            std::string::npos);
   owner->Execute(u"COMMIT");
   EXPECT_EQ(refusal(file.path(), Impatient), "");
 }

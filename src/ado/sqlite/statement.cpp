@@ -5,11 +5,7 @@
 
 namespace zqn::ado::sqlite {
 
-namespace {
-
-constexpr std::int32_t NoValueForParameter = -2147217904;
-
-}  // namespace
+namespace {}  // namespace
 
 SqliteStatement::SqliteStatement(std::shared_ptr<Database> database, StringView text, Purpose purpose)
     : database_(std::move(database)), text_(text), purpose_(purpose) {
@@ -30,7 +26,7 @@ void SqliteStatement::prepare() {
 
 void SqliteStatement::start(std::span<const Value> parameters) {
   if (sqlite3_bind_parameter_count(statement_.get()) != static_cast<int>(parameters.size())) {
-    throw RuntimeError(NoValueForParameter, u"No value given for one or more required parameters.",
+    throw RuntimeError(error::NoValueForParameter, error::description(error::NoValueForParameter),
                        SourceName);
   }
   int index = 0;

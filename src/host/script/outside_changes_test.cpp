@@ -142,8 +142,8 @@ TEST_F(Failing, TakesTheWordsOfThePlatformWithoutADescription) {
   EXPECT_THAT(
       clickWith(R"({"operation":"Update","number":3021})"),
       ElementsAre(
-          R"({"error":{"in":"btnOK_Click","number":3021,"description":"Either BOF or EOF is True, or the )"
-          R"(current record has been deleted. Requested operation requires a current record."}})",
+          R"({"error":{"in":"btnOK_Click","number":3021,"description":"BOF oder EOF ist True, oder der )"
+          R"(aktuelle Datensatz ist gelöscht. Der Vorgang braucht einen aktuellen Datensatz."}})",
           endedEarly));
 }
 

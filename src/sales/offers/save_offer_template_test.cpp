@@ -155,7 +155,7 @@ TEST_F(SaveOfferTemplate, ANumberThatIsNoneIsReadAsFarAsItGoes) {
   show(30, {u"12a"}, [&] {
     EXPECT_EQ(text(u"VorlagenName"), u"Angebot 12a") << "the statement is invalid, and passed over";
     expectBox(
-        u"Beim Speichern ist folgender Fehler aufgetreten: Unclosed quotation mark in the statement: "
+        u"Beim Speichern ist folgender Fehler aufgetreten: Ungültiger Wert in der Anweisung: "
         u"Select Vorlage from Angebotskopf Where Angebotsnummer=12a",
         u"Fehler " + CStr(error::CommandText), msgbox::Exclamation);
     click(u"btnOK");

@@ -80,6 +80,43 @@ TEST_F(EventErrors, AnEventWithoutHandlerDoesNothing) {
   EXPECT_EQ(happened(), "Click");
 }
 
+TEST_F(EventErrors, AHandlerThatReplacesItselfGoesOnToItsEnd) {
+  auto state = std::make_shared<int>(0);
+  const std::weak_ptr<int> watch = state;
+  btn.Click = [this, watch, state = std::move(state)] {
+    Control& button = btn;
+    const auto stillThere = watch;
+    button.Click = [this] { note("second"); };
+    note(stillThere.expired() ? "destroyed" : "first");
+  };
+  btn.clicked();
+  btn.clicked();
+  EXPECT_EQ(happened(), "first second");
+  EXPECT_TRUE(watch.expired());
+}
+
+TEST_F(EventErrors, AHandlerMayTakeItselfOff) {
+  btn.Click = [this] {
+    Control& button = btn;
+    button.Click = nullptr;
+    note("once");
+  };
+  btn.clicked();
+  btn.clicked();
+  EXPECT_EQ(happened(), "once");
+  EXPECT_FALSE(btn.Click.hasHandler());
+}
+
+TEST_F(EventErrors, AnEmptyFunctionIsNoHandler) {
+  btn.Click = [&] { note("Click"); };
+  btn.Click = std::function<void()>();
+  EXPECT_FALSE(btn.Click.hasHandler());
+  btn.clicked();
+  btn.Click = std::function<void()>([&] { note("Function"); });
+  btn.clicked();
+  EXPECT_EQ(happened(), "Function");
+}
+
 // ---- without a listener the person is told
 
 class ErrorBox : public ::testing::Test, private DesktopListener {

@@ -104,6 +104,40 @@ TEST_F(FormLife, UnloadThatRefusesAndUnloadsByItselfAsksAgainAndCloses) {
   });
 }
 
+TEST_F(FormLife, UnloadMeInsideUnloadOrQueryUnloadDoesNothing) {
+  form.QueryUnload = [&](int&, int mode) {
+    note("QueryUnload:" + std::to_string(mode));
+    form.UnloadMe();
+  };
+  form.Unload = [&](int&) {
+    note("Unload");
+    form.UnloadMe();
+  };
+  show(form, [&] {
+    happened();
+    form.closeBox();
+    EXPECT_EQ(happened(), "QueryUnload:0 Unload");
+    EXPECT_FALSE(form.Visible());
+  });
+}
+
+TEST_F(FormLife, UnloadThatAlwaysRefusesAndUnloadsByItselfAsksOnceAgainAndNoMore) {
+  bool refuse = true;
+  form.Unload = [&](int& cancel) {
+    note("Unload");
+    cancel = refuse ? 1 : 0;
+    form.UnloadMe();
+  };
+  show(form, [&] {
+    happened();
+    form.closeBox();
+    EXPECT_EQ(happened(), "frmSample_QueryUnload:0 Unload frmSample_QueryUnload:1 Unload");
+    EXPECT_TRUE(form.Visible());
+    refuse = false;
+  });
+  EXPECT_FALSE(form.Visible());
+}
+
 TEST_F(FormLife, ClosingTellsTheControlsNothing) {
   watchValidate(form);
   show(form, [&] {

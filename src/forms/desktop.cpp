@@ -129,6 +129,15 @@ void Desktop::runtimeErrorRaised(Form& form, StringView procedure, const Runtime
          u"TALVEX Software");
 }
 
+void Desktop::failurePassedOver(Form& form, StringView procedure, const RuntimeError& failure) {
+  for (DesktopListener* listener : listeners_) listener->failurePassedOver(form, procedure, failure);
+  // The first failure is the cause; those that follow from it say less.
+  if (!form.Visible() || !form.Notice().empty()) return;
+  const StringView words = failure.description();
+  form.Notice(u"Fehler " + CStr(failure.number()) + u": " +
+              String(words.substr(0, words.find_first_of(u"\r\n"))));
+}
+
 void Desktop::sendKeys(StringView keys) {
   std::vector<KeyStroke> strokes;
   while (!keys.empty()) {

@@ -39,6 +39,8 @@ class FormView {
   virtual void formChanged() = 0;
   /// Form::ActiveControl is another one: the focus belongs there.
   virtual void focusChanged() = 0;
+  /// Form::Notice has come, changed or gone.
+  virtual void noticeChanged() {}
 };
 
 /// Hears what happens on a desktop: a log, a transcript, a test.
@@ -52,6 +54,9 @@ class DesktopListener {
   /// A run-time error left an event procedure ("btnDelete_Click"). True: it is dealt with, no box tells the
   /// person.
   virtual bool runtimeErrorRaised(Form&, StringView /*procedure*/, const RuntimeError&) { return false; }
+  /// A statement of a procedure that writes ("WriteRecord") has failed, and the procedure went on. The person
+  /// has seen no box; the form says it in its notice. The form may be closed already.
+  virtual void failurePassedOver(Form&, StringView /*procedure*/, const RuntimeError&) {}
 };
 
 class Desktop {
@@ -83,6 +88,9 @@ class Desktop {
   void popupMenu(Menu& menu);
   /// A run-time error left an event procedure: the person is told its number and words, the form stays.
   void runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure);
+  /// A procedure that writes has passed over a failure: the listeners hear of it, and the form's notice says
+  /// it.
+  void failurePassedOver(Form& form, StringView procedure, const RuntimeError& failure);
   /// Queues keys, written as "{Tab}" or characters; they are pressed after the running handler has come back
   /// to the modal loop, and dropped when the last form closes. Error 5 for a name that is no key; then
   /// nothing is queued.

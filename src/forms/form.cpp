@@ -43,6 +43,12 @@ void Form::Caption(StringView caption) {
   if (view_ != nullptr) view_->formChanged();
 }
 
+void Form::Notice(StringView text) {
+  if (notice_ == text) return;
+  notice_ = text;
+  if (view_ != nullptr) view_->noticeChanged();
+}
+
 void Form::Width(int twips) {
   scaleWidth_ = twips - (Width() - scaleWidth_);
   if (view_ != nullptr) view_->formChanged();
@@ -94,14 +100,35 @@ void Form::UnloadMe() { unload(UnloadMode::Code); }
 
 void Form::PopupMenu(Menu& menu) { Desktop::current().popupMenu(menu); }
 
-void Form::unload(UnloadMode mode) {
-  if (!loaded_) return;
+/// An unload whose handlers are being asked.
+class Form::Asking {
+ public:
+  explicit Asking(Form& form) : form_(form), outer_(std::exchange(form.asking_, this)) {}
+  ~Asking() { form_.asking_ = outer_; }
+  Asking(const Asking&) = delete;
+  Asking& operator=(const Asking&) = delete;
+
+  /// The handler may unload by itself: it has refused, and is not such an unload's already.
+  bool mayUnload() const noexcept { return cancel != 0 && outer_ == nullptr; }
+
   int cancel = 0;
-  QueryUnload.raise(cancel, static_cast<int>(mode));
-  if (cancel != 0) return;
-  Unload.raise(cancel);
-  if (cancel != 0) return;
+
+ private:
+  Form& form_;
+  const Asking* outer_;
+};
+
+void Form::unload(UnloadMode mode) {
+  if (!loaded_ || (asking_ != nullptr && !asking_->mayUnload())) return;
+  {
+    Asking asking(*this);
+    QueryUnload.raise(asking.cancel, static_cast<int>(mode));
+    if (asking.cancel != 0 || !loaded_) return;
+    Unload.raise(asking.cancel);
+    if (asking.cancel != 0 || !loaded_) return;
+  }
   loaded_ = visible_ = false;
+  notice_.clear();
   active_ = entered_ = nullptr;
 }
 
@@ -209,6 +236,7 @@ bool Form::pressesAccessKey(const KeyStroke& stroke) {
 KeyOutcome Form::keyPressed(KeyStroke stroke) {
   KeyOutcome outcome{false, stroke};
   if (!visible_) return outcome;
+  Notice(u"");
   silentKey_ = 0;
   if (active_ != nullptr && active_->takesKeyFirst(stroke)) {
     silentKey_ = stroke.code;

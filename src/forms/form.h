@@ -86,9 +86,15 @@ class Form : public EventOwner {
   /// Shows the form modally and returns when it is unloaded. Error 400 when it is shown already, 364 when
   /// Load unloads it.
   void Show();
-  /// Unload Me: QueryUnload, then Unload; either may refuse. Nothing when it is not loaded.
+  /// Unload Me: QueryUnload, then Unload; either may refuse. Nothing when it is not loaded. A handler of the
+  /// two that has refused may unload once more by itself, which asks again; otherwise UnloadMe inside of them
+  /// does nothing.
   void UnloadMe();
   bool isLoaded() const noexcept { return loaded_; }
+  /// What went wrong unasked in the last thing that the person did: a window shows it as one quiet line, which
+  /// takes no focus and goes with the next key. "" for nothing.
+  const String& Notice() const noexcept { return notice_; }
+  void Notice(StringView text);
   /// Opens a menu of this form at the pointer and returns when it is closed; Click of the item that was taken
   /// has run by then.
   void PopupMenu(Menu& menu);
@@ -138,6 +144,7 @@ class Form : public EventOwner {
  private:
   friend class Control;
 
+  class Asking;
   void unload(UnloadMode mode);
   bool moveFocus(Control& target, FocusCause cause);
   static void leave(Control& left);
@@ -149,6 +156,7 @@ class Form : public EventOwner {
 
   String name_;
   String caption_;
+  String notice_;
   int scaleWidth_, scaleHeight_;
   std::vector<std::unique_ptr<Control>> controls_;
   Control* active_ = nullptr;
@@ -158,6 +166,8 @@ class Form : public EventOwner {
   bool loaded_ = false;
   bool visible_ = false;
   bool keyPreview_ = true;
+  /// The innermost unload that asks its handlers; nullptr while none does.
+  const Asking* asking_ = nullptr;
   /// The code of a key that is down and that no event has told of: its release tells nobody. 0 for none.
   int silentKey_ = 0;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt/form_window.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QScreen>
 #include <QWindow>
@@ -18,6 +19,8 @@ namespace zqn::qt {
 
 namespace {
 
+constexpr int noticeMargin = 6;
+
 /// Counts how deep code stands in something.
 class Within {
  public:
@@ -32,10 +35,15 @@ class Within {
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+FormWindow::FormWindow(Form& form, QWidget* parent)
+    : QDialog(parent), form_(form), notice_(new QLabel(this)) {
   setObjectName(toQt(form.Name()));
   setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
   setModal(true);
+  notice_->setObjectName(QStringLiteral("notice"));
+  notice_->setTextFormat(Qt::PlainText);
+  notice_->setContentsMargins(noticeMargin, 0, noticeMargin, 0);
+  notice_->hide();
   widgets_.resize(form.controls().size(), nullptr);
   for (const auto& control : form.controls()) makeWidget(*control);
   for (ControlWidget* each : widgets_) {
@@ -63,7 +71,7 @@ ControlWidget* FormWindow::widgetOf(const Control& control) const noexcept {
 }
 
 void FormWindow::sync() {
-  formChanged();
+  noticeChanged();
   for (ControlWidget* each : widgets_) each->sync();
   nameControls();
 }
@@ -79,7 +87,9 @@ QString FormWindow::differences() const {
   QStringList lines;
   if (windowTitle() != toQt(form_.Caption()))
     lines += QStringLiteral("the window's title is \"%1\"").arg(windowTitle());
-  if (size() != Scale(*this).size(form_.ScaleWidth(), form_.ScaleHeight()))
+  if (notice_->text() != toQt(form_.Notice()) || notice_->isVisibleTo(this) != !form_.Notice().empty())
+    lines += QStringLiteral("the notice is \"%1\"").arg(notice_->text());
+  if (size() != wantedSize())
     lines += QStringLiteral("the window is %1 by %2 pixels").arg(width()).arg(height());
   for (const ControlWidget* each : widgets_) {
     const QString difference = each->shows();
@@ -121,8 +131,27 @@ void FormWindow::controlChanged(Control& control) {
 
 void FormWindow::formChanged() {
   if (windowTitle() != toQt(form_.Caption())) setWindowTitle(toQt(form_.Caption()));
-  const QSize wanted = Scale(*this).size(form_.ScaleWidth(), form_.ScaleHeight());
+  const QSize wanted = wantedSize();
   if (size() != wanted || minimumSize() != wanted || maximumSize() != wanted) setFixedSize(wanted);
+}
+
+QSize FormWindow::wantedSize() const {
+  const QSize client = Scale(*this).size(form_.ScaleWidth(), form_.ScaleHeight());
+  return form_.Notice().empty() ? client : client + QSize(0, notice_->sizeHint().height() + noticeMargin);
+}
+
+void FormWindow::noticeChanged() {
+  const QString text = toQt(form_.Notice());
+  const bool isNew = notice_->text() != text;
+  notice_->setText(text);
+  notice_->setToolTip(text);
+  notice_->setVisible(!text.isEmpty());
+  formChanged();
+  const int height = notice_->sizeHint().height();
+  notice_->setGeometry(0, this->height() - height - noticeMargin / 2, width(), height);
+  if (text.isEmpty() || !isNew) return;
+  QAccessibleEvent told(notice_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&told);
 }
 
 void FormWindow::focusChanged() {

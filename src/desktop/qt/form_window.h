@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
 #include <memory>
 #include <vector>
 
@@ -35,6 +36,8 @@ class FormWindow : public QDialog, public FormView {
   void controlChanged(Control& control) override;
   void formChanged() override;
   void focusChanged() override;
+  /// The window grows by one line at its lower edge while the form has a notice.
+  void noticeChanged() override;
 
   // ---- input
 
@@ -62,11 +65,13 @@ class FormWindow : public QDialog, public FormView {
   void placeFocus();
   void nameControls();
   void syncLabels();
+  QSize wantedSize() const;
 
   Form& form_;
   /// In the order of the form's controls.
   std::vector<ControlWidget*> widgets_;
   std::vector<std::unique_ptr<ControlInput>> inputs_;
+  QLabel* notice_;
   int placing_ = 0;
 };
 

@@ -35,6 +35,9 @@ class Recorder : public DesktopListener {
     write(script::errorLine(procedure, failure));
     return false;
   }
+  void failurePassedOver(Form&, StringView procedure, const RuntimeError& failure) override {
+    write(script::passedOverLine(script::Json::array({script::failureEntry(procedure, failure)})));
+  }
   void write(const script::Json& line) { transcript_ << line.dump() << std::endl; }
 
  private:

@@ -50,6 +50,11 @@ CallLog::Call CallLog::begin(std::int32_t kind, StringView title, const VariantA
 
 void CallLog::Call::picked(const Variant& key) { add(entry_, "DblClick", written(key)); }
 
+void CallLog::Call::passedOver(StringView procedure, const RuntimeError& failure) {
+  add(entry_, "Übergangen",
+      qt::toQt(procedure) + ": " + QString::number(failure.number()) + " " + qt::toQt(failure.description()));
+}
+
 void CallLog::Call::returned(const script::ShowOutcome& outcome) {
   add(entry_, "Rückgabe", written(outcome.returned));
   add(entry_, "Param nachher", written(outcome.param));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the desk's calls of Show came to: one entry a call, below it Param before and after, each DblClick as
-// it comes, the return value and Result.
+// What the desk's calls of Show came to: one entry a call, below it Param before and after, each DblClick
+// and each failure that was passed over as it comes, the return value and Result.
 //
 //     CallLog::Call call = log->begin(21, u"Vertriebsstati", param);
 //     call.picked(key);      // while Show has not returned
@@ -24,6 +24,8 @@ class CallLog : public QTreeWidget {
   class Call {
    public:
     void picked(const Variant& key);
+    /// A procedure that writes has passed over a failure.
+    void passedOver(StringView procedure, const RuntimeError& failure);
     void returned(const script::ShowOutcome& outcome);
 
    private:

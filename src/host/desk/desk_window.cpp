@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/qt/text.h"
+#include "forms/desktop.h"
 #include "frontend/kinds.h"
 #include "host/command/show_command.h"
 #include "host/database/database.h"
@@ -35,6 +36,22 @@ using qt::fromQt;
 using qt::toQt;
 
 const char* databaseFilter = "Datenbanken (*.sqlite *.db);;Alle Dateien (*)";
+
+/// Puts down what writing procedures pass over while a dialog is open.
+class PassedOverToLog final : public DesktopListener {
+ public:
+  explicit PassedOverToLog(CallLog::Call& call) : call_(call) { Desktop::current().addListener(this); }
+  ~PassedOverToLog() override { Desktop::current().removeListener(this); }
+  PassedOverToLog(const PassedOverToLog&) = delete;
+  PassedOverToLog& operator=(const PassedOverToLog&) = delete;
+
+  void failurePassedOver(Form&, StringView procedure, const RuntimeError& failure) override {
+    call_.passedOver(procedure, failure);
+  }
+
+ private:
+  CallLog::Call& call_;
+};
 
 QString aboutText(const KindInfo& info, bool generic) {
   generic = generic || info.server == KindServer::Generic;
@@ -190,7 +207,7 @@ void DeskWindow::showDetails(const DialogTitle* dialog) {
   while (fields_->rowCount() > 0) fields_->removeRow(0);
   paramFields_.clear();
   if (info == nullptr) return;
-  for (const StringView name : paramNames(dialog->kind)) {
+  for (const String& name : paramNames(dialog->kind)) {
     auto* field = new QLineEdit;
     field->setAccessibleName(toQt(name));
     connect(field, &QLineEdit::returnPressed, list_, &DialogList::open);
@@ -230,6 +247,7 @@ void DeskWindow::open(const DialogTitle& title) {
   const VariantArray given(std::vector<Variant>(texts.begin(), texts.end()));
   CallLog::Call call = log_->begin(title.kind, title.title, given);
   dialog.DblClick = [&](const Variant& key) { call.picked(key); };
+  const PassedOverToLog passedOver(call);
   showing_ = true;
   call.returned(callShow(dialog, title.kind, given, title.generic || generic_->isChecked()));
   showing_ = false;

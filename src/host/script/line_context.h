@@ -22,6 +22,8 @@ struct LineContext {
   const OutsideAccess& outside;
   FaultInjector& faults;
   AuskunftAnswer& auskunft;
+  /// The failures that writing procedures have passed over, as an array of entries.
+  Json& passedOver;
   /// Writes one line of the transcript.
   std::function<void(const Json&)> write;
 

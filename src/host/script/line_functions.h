@@ -30,6 +30,7 @@ void dump(const LineContext& context, const Arguments& line);
 void sql(const LineContext& context, const Arguments& line);
 void settings(const LineContext& context, const Arguments& line);
 void statements(const LineContext& context, const Arguments& line);
+void passedOver(const LineContext& context, const Arguments& line);
 void screenshot(const LineContext& context, const Arguments& line);
 }  // namespace probe
 

@@ -36,6 +36,7 @@ constexpr LineKind kinds[] = {
     {"sql", LineGroup::Probe, {}, probe::sql},
     {"settings", LineGroup::Probe, {}, probe::settings},
     {"statements", LineGroup::Probe, {}, probe::statements},
+    {"passedOver", LineGroup::Probe, {}, probe::passedOver},
     {"screenshot", LineGroup::Probe, {}, probe::screenshot},
     {"exec", LineGroup::Outside, {}, outside::exec},
     {"setting", LineGroup::Outside, {}, outside::setting},

@@ -3,6 +3,7 @@
 #include "host/script/control_traits.h"
 #include "host/script/line_functions.h"
 #include "host/script/script_error.h"
+#include "host/script/transcript_lines.h"
 
 namespace zqn::script::probe {
 
@@ -110,6 +111,11 @@ void statements(const LineContext& context, const Arguments& line) {
   Json texts = Json::array();
   for (const String& statement : context.faults.takeStatements()) texts.push_back(jsonText(statement));
   context.write({{"statements", std::move(texts)}});
+}
+
+void passedOver(const LineContext& context, const Arguments& line) {
+  line.requireTrue("passedOver");
+  context.write(passedOverLine(std::exchange(context.passedOver, Json::array())));
 }
 
 void screenshot(const LineContext& context, const Arguments& line) {

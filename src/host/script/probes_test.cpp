@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "forms/desktop.h"
+#include "forms/writing_procedure.h"
 #include "testing/script/script_test.h"
 
 namespace zqn::script {
@@ -177,6 +178,23 @@ TEST_F(Probe, WorksAfterTheEndAsFarAsItNeedsNoForm) {
                   R"({"refused":"no form is open","action":{"click":"btnOK"}})",
                   R"({"refused":"no form is open","action":{"wait":1}})"));
   EXPECT_FALSE(failed);
+}
+
+TEST_F(Probe, PassedOverGivesTheFailuresSinceLastAsked) {
+  form.btnOK.Click = [this] {
+    const WritingProcedure writing(form, u"WriteRecord");
+    ResumeNext step;
+    step([] { throw RuntimeError(5, u"Datei gesperrt"); });
+    step([] { throw RuntimeError(3219, u"noch offen"); });
+  };
+  EXPECT_THAT(acts(R"({"passedOver":true}
+                      {"click":"btnOK"}
+                      {"passedOver":true}
+                      {"passedOver":true})"),
+              ElementsAre(R"({"passedOver":[]})",
+                          R"({"passedOver":[{"in":"WriteRecord","number":5,"description":"Datei gesperrt"},)"
+                          R"({"in":"WriteRecord","number":3219,"description":"noch offen"}]})",
+                          R"({"passedOver":[]})"));
 }
 
 }  // namespace

@@ -25,8 +25,8 @@ ScriptedUser::ScriptedUser(Desktop& desktop, UserInput& input, OutsideAccess out
       input_(input),
       outside_(std::move(outside)),
       gestures_(desktop, input),
-      context_{
-          desktop, input, gestures_, outside_, faults, auskunft_, [this](const Json& line) { write(line); }},
+      context_{desktop, input,     gestures_,   outside_,
+               faults,  auskunft_, passedOver_, [this](const Json& line) { write(line); }},
       reader_(script),
       transcript_(transcript) {
   desktop_.addListener(this);
@@ -174,6 +174,10 @@ void ScriptedUser::popupMenuOpened(const Menu& menu) {
 bool ScriptedUser::runtimeErrorRaised(Form&, StringView procedure, const RuntimeError& failure) {
   write(errorLine(procedure, failure));
   return true;
+}
+
+void ScriptedUser::failurePassedOver(Form&, StringView procedure, const RuntimeError& failure) {
+  passedOver_.push_back(failureEntry(procedure, failure));
 }
 
 }  // namespace zqn::script

@@ -62,6 +62,7 @@ class ScriptedUser : public DesktopListener {
   void messageBoxOpened(const MessageBox& box) override;
   void popupMenuOpened(const Menu& menu) override;
   bool runtimeErrorRaised(Form& form, StringView procedure, const RuntimeError& failure) override;
+  void failurePassedOver(Form& form, StringView procedure, const RuntimeError& failure) override;
 
  private:
   struct PendingLine {
@@ -83,6 +84,8 @@ class ScriptedUser : public DesktopListener {
   OutsideAccess outside_;
   Gestures gestures_;
   AuskunftAnswer auskunft_;
+  /// Since the script asked last.
+  Json passedOver_ = Json::array();
   LineContext context_;
   ScriptReader reader_;
   std::ostream& transcript_;

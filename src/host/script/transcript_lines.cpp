@@ -63,12 +63,17 @@ Json popupLine(const Menu& menu) {
   return {{"popup", jsonText(menu.fullName())}, {"items", std::move(items)}};
 }
 
-Json errorLine(StringView procedure, const RuntimeError& failure) {
-  const Json entry{{"in", jsonText(procedure)},
-                   {"number", failure.number()},
-                   {"description", jsonText(failure.description())}};
-  return {{"error", entry}};
+Json failureEntry(StringView procedure, const RuntimeError& failure) {
+  return {{"in", jsonText(procedure)},
+          {"number", failure.number()},
+          {"description", jsonText(failure.description())}};
 }
+
+Json errorLine(StringView procedure, const RuntimeError& failure) {
+  return {{"error", failureEntry(procedure, failure)}};
+}
+
+Json passedOverLine(Json entries) { return {{"passedOver", std::move(entries)}}; }
 
 Json eventLine(StringView event, const Variant& result) {
   return {{"event", jsonText(event)}, {"result", jsonValue(result)}};

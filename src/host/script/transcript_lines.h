@@ -15,9 +15,14 @@ Json shownLine(const Form& form);
 Json closedLine(const Form& form);
 /// {"msgbox":{"text":...,"title":...,"buttons":"yesno","icon":"question","default":1}}
 Json messageBoxLine(const MessageBox& box);
-/// {"error":{"in":"btnDelete_Click","number":-2147217900,"description":"..."}}
+/// {"popup":"mnuPopup","items":[{"name":...,"caption":...,"enabled":true}]}
 Json popupLine(const Menu& menu);
+/// {"in":"btnDelete_Click","number":-2147217900,"description":"..."}
+Json failureEntry(StringView procedure, const RuntimeError& failure);
+/// {"error":...} with such an entry.
 Json errorLine(StringView procedure, const RuntimeError& failure);
+/// {"passedOver":[...]} with such entries.
+Json passedOverLine(Json entries);
 /// {"event":"DblClick","result":"10"}
 Json eventLine(StringView event, const Variant& result);
 /// {"auskunft":{"name":"AUSK_Kundenauskunft","title":"Kundenauskunft"}}

@@ -2,32 +2,10 @@
 #include "catalogues/catalogue_form.h"
 
 #include "forms/message_box.h"
+#include "forms/writing_procedure.h"
 #include "frontend/basics/bas_basis.h"
 
 namespace zqn {
-
-namespace {
-
-/// Runs the statements of a procedure in the error mode that the form has for it.
-class Statements {
- public:
-  explicit Statements(bool passOver) : passOver_(passOver) {}
-
-  template <class Statement>
-  void operator()(Statement&& statement) {
-    if (passOver_) {
-      resume_(std::forward<Statement>(statement));
-    } else {
-      std::forward<Statement>(statement)();
-    }
-  }
-
- private:
-  bool passOver_;
-  ResumeNext resume_;
-};
-
-}  // namespace
 
 CatalogueForm::CatalogueForm(const FormDesign& design, Source source) : Form(design), source_(source) {
   Load = [this] { Form_Load(); };
@@ -48,7 +26,7 @@ CatalogueForm::CatalogueForm(const FormDesign& design, Source source) : Form(des
 }
 
 void CatalogueForm::ShowData() {
-  Statements step(passesOverFailures(Procedure::ShowData));
+  ResumeNext step(errorMode(Procedure::ShowData));
   step([&] { ensureLoaded(); });
   step([&] { beforeList(); });
   step([&] { rsListe = Ref<ado::Recordset>::make(); });
@@ -169,8 +147,11 @@ void CatalogueForm::btnOK_Click() {
   if (!hasKey()) return;
   if (!mayChange(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu speichern.")) return;
   if (!maySave()) return;
-  Statements step(passesOverFailures(Procedure::btnOK_Click));
-  step([&] { WriteRecord(); });
+  ResumeNext step(errorMode(Procedure::btnOK_Click));
+  {
+    const WritingProcedure writing(*this, u"WriteRecord");
+    step([&] { WriteRecord(); });
+  }
   step([&] { TDBList1.HoldFields(); });
   step([&] { rsListe->Requery(); });
   step([&] { TDBList1.ReBind(); });
@@ -183,7 +164,10 @@ void CatalogueForm::btnOK_Click() {
 void CatalogueForm::btnDelete_Click() {
   if (!mayChange(u"Sie besitzen nicht die erforderlichen Rechte um diesen Datensatz zu löschen.")) return;
   if (MsgBox(deleteQuestion(), msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes) return;
-  DeleteRecord();
+  {
+    const WritingProcedure writing(*this, u"DeleteRecord");
+    DeleteRecord();
+  }
   RefreshList(true);
   if (rsListe->RecordCount() != 0) {
     rsListe->MoveFirst();

@@ -68,8 +68,7 @@ class CatalogueForm : public Form {
 
   /// The procedures whose error mode is a matter of the form.
   enum class Procedure { ShowData, btnOK_Click };
-  /// The procedure goes on with the next statement where one fails.
-  virtual bool passesOverFailures(Procedure) const { return false; }
+  virtual ResumeNext::Mode errorMode(Procedure) const { return ResumeNext::Mode::Raise; }
   /// The statement that finds the row of the present key: to read it, and to write it.
   virtual ado::sql::Text readStatement() const;
   virtual ado::sql::Text writeStatement() const;

@@ -13,7 +13,7 @@ class frmSelectionListValues final : public KeyOnlyForm {
  public:
   frmSelectionListValues();
 
-  /// In: which list, a text and a number. A FieldID that is no number makes every statement invalid.
+  /// In: which list, a text and a number. A FieldID that is not a number makes every statement invalid.
   Variant ReferenceType;
   Variant FieldID;
   /// In: the form's caption; blank keeps "Wertliste".
@@ -23,7 +23,7 @@ class frmSelectionListValues final : public KeyOnlyForm {
   /// What is stored and searched for: the text of the key, "-" when it is empty or blank.
   String CurrentValue() const;
 
-  bool passesOverFailures(Procedure) const override { return true; }
+  ResumeNext::Mode errorMode(Procedure) const override { return ResumeNext::Mode::PassOver; }
   void beforeList() override;
   void setUpColumns() override { TDBList1.Columns(0).Visible(false); }
   String keyOf(const String& listText) const override { return listText == u"-" ? String() : listText; }

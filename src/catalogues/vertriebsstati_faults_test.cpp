@@ -11,6 +11,8 @@ using ado::Operation;
 
 class FailingRoutine;
 
+constexpr StringView writeOf10 = u"WHERE Status='10'";
+
 struct FaultCase {
   const char* name;
   Operation operation;
@@ -51,6 +53,8 @@ TEST_P(FailingRoutine, SkipsOrShows) {
     const std::vector<String> expected =
         fault.procedure.empty() ? std::vector<String>{} : std::vector<String>{String(fault.procedure)};
     EXPECT_EQ(reportedErrors, expected);
+    EXPECT_EQ(passedOver.empty(), fault.match != writeOf10) << "what is passed over in writing is told";
+    EXPECT_EQ(form().Notice().empty(), passedOver.empty());
   });
   EXPECT_EQ(
       rows(u"SELECT count(*) FROM Vertriebsstati WHERE Bezeichnung IS NULL OR Gewichtung IS NULL").front(),
@@ -76,7 +80,6 @@ void leaveTheKey(FailingRoutine& clerk) {
 constexpr StringView readOf20 = u"WHERE Status ='20'";
 constexpr StringView readOf77 = u"WHERE Status ='77'";
 constexpr StringView readOf10 = u"WHERE Status ='10'";
-constexpr StringView writeOf10 = u"WHERE Status='10'";
 constexpr StringView theList = u"ORDER BY Status";
 
 INSTANTIATE_TEST_SUITE_P(

@@ -32,7 +32,9 @@ class frmZahlungsarten final : public CatalogueForm {
   ado::sql::Text readStatement() const override;
   ado::sql::Text writeStatement() const override { return readStatement(); }
   ado::sql::Text deleteStatement() const override;
-  bool passesOverFailures(Procedure procedure) const override { return procedure == Procedure::ShowData; }
+  ResumeNext::Mode errorMode(Procedure procedure) const override {
+    return procedure == Procedure::ShowData ? ResumeNext::Mode::PassOver : ResumeNext::Mode::Raise;
+  }
   void beforeList() override;
   void beforeShow() override;
   void ClearFields() override;

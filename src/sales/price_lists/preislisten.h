@@ -2,7 +2,7 @@
 //
 // frmPreislisten, kind 16: the heads of the price lists, and the rule for whom a promotional one holds: for
 // all customers, for those of another price list, or for one. Deleting a head deletes its price lines first;
-// the two are no transaction.
+// the two are not a transaction.
 //
 // An open start is stored as Null, an open end as "99999999999999", which is not the value that reading tests
 // against: both are as the host expects them.
@@ -29,7 +29,9 @@ class frmPreislisten final : public CatalogueForm {
   enum Validity { AllCustomers, CustomersOfList, OneCustomer };
 
   ado::sql::Text listStatement() const override;
-  bool passesOverFailures(Procedure procedure) const override { return procedure == Procedure::ShowData; }
+  ResumeNext::Mode errorMode(Procedure procedure) const override {
+    return procedure == Procedure::ShowData ? ResumeNext::Mode::PassOver : ResumeNext::Mode::Raise;
+  }
   void beforeList() override;
   bool maySave() override;
   String deleteQuestion() const override;

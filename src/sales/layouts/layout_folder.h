@@ -18,7 +18,8 @@ namespace zqn {
 class LayoutFolder {
  public:
   LayoutFolder() = default;
-  /// Looks into the folder; the empty text means the root. A folder that cannot be read has no layouts.
+  /// Looks into the folder; the empty text means the root. A folder that cannot be read has no layouts; a
+  /// file whose name is not valid text in the folder's encoding is passed over.
   explicit LayoutFolder(StringView folder);
 
   /// The names, blank ones left out, in their order without regard to case.

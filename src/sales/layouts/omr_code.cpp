@@ -7,6 +7,7 @@
 #include "contract/object_factory.h"
 #include "contract/ws_profile.h"
 #include "forms/desktop.h"
+#include "forms/writing_procedure.h"
 #include "runtime/convert.h"
 #include "runtime/resume_next.h"
 #include "sales/layouts/omr_code_roster.h"
@@ -43,7 +44,7 @@ String pageKey(int option, int kind) {
   return u"OMROption" + number(option) + u"Page" + String(kinds[static_cast<std::size_t>(kind)].first);
 }
 
-/// What a page code is called in the list; "" for a text that is no page code.
+/// What a page code is called in the list; "" for a text that is not one.
 String pageCaption(StringView code) {
   if (same(code, u"ALL")) return u"Alle Seiten";
   if (same(code, u"BOC")) return u"Erste Seite";
@@ -127,6 +128,7 @@ void frmOMRCode::readAssignment(int kind) {
 }
 
 void frmOMRCode::SaveAll() {
+  const WritingProcedure writing(*this, u"SaveAll");
   ResumeNext step;
   step([&] { Desktop::current().hourglass(true); });
   const auto save = [&](StringView key, StringView value) {

@@ -159,6 +159,8 @@ TEST_F(OmrSettings, WhatCannotBeStoredIsPassedOver) {
                  }),
             Variant(true));
   EXPECT_FALSE(desktop.isHourglass());
+  EXPECT_EQ(passedOver.size(), 8u * 11) << "the window is closed, and the failures are told all the same";
+  EXPECT_EQ(passedOver.front(), "SaveAll:-2147467259");
 }
 
 }  // namespace

@@ -52,6 +52,37 @@ TEST_F(OmrSettings, LayoutsComeByNameWithTheirDescriptions) {
   });
 }
 
+TEST_F(OmrSettings, AFileWhoseNameIsNotValidTextIsPassedOver) {
+  twoLayouts();
+  layout("K\xF6nig.omr", "Description=In einer anderen Kodierung\r\n");
+  layout("\xFF\xFE.OMR", "Description=Gar keine\r\n");
+  show(31, {u"RG"}, [&] { EXPECT_EQ(number(u"cboLayout", u"ListCount"), 4); });
+}
+
+TEST_F(OmrSettings, AFolderWhoseNameIsNotValidTextHasNoLayouts) {
+  ObjectFactory::current().offer(u"zqWSPro.WSProfile",
+                                 [] { return std::make_shared<Profile>(String(1, char16_t{0xD800})); });
+  show(31, {u"RG"}, [&] { EXPECT_EQ(number(u"cboLayout", u"ListCount"), 2); });
+}
+
+TEST_F(OmrSettings, TheEncodingOfALayoutFollowsFromItsMark) {
+  const auto described = [&](const std::string& name, const std::string& bytes) {
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+  };
+  described("A.omr", "[Common]\r\nDescription=Gr\xFC\x6E\r\n");
+  described("B.omr", "\xEF\xBB\xBF[Common]\r\nDescription=Gelb \xE2\x82\xAC\r\n");
+  std::string wide = "\xFF\xFE";
+  for (const char16_t unit : StringView(u"[Common]\r\nDescription=Rot Ω\r\n"))
+    for (const int half : {unit & 0xFF, unit >> 8}) wide += static_cast<char>(half);
+  described("C.omr", wide);
+  show(31, {u""}, [&] {
+    const auto& layouts = form().Get<ComboBox>(u"cboLayout");
+    std::vector<String> offered;
+    for (int i = 2; i < layouts.ListCount(); ++i) offered.push_back(layouts.List(i));
+    EXPECT_THAT(offered, ::testing::ElementsAre(u"Grün", u"Gelb €", u"Rot Ω"));
+  });
+}
+
 TEST_F(OmrSettings, ACodeInAnyCaseIsSelectedAndTheTimerPutsTheFocusOnItsLayout) {
   int milliseconds = 0;
   desktop.clock([&] { return std::chrono::milliseconds(milliseconds++); });

@@ -15,7 +15,8 @@ namespace {
 
 /// The buffer of the system call without its end mark.
 constexpr int longestValue = 2047;
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view markOfUtf8 = "\xEF\xBB\xBF";
+constexpr std::string_view markOfUtf16 = "\xFF\xFE";
 
 /// What code page 1252 has in the places 80 to 9F; five of them stand for themselves.
 constexpr std::array<char16_t, 32> places80To9F{
@@ -23,8 +24,19 @@ constexpr std::array<char16_t, 32> places80To9F{
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+/// Little-endian; half a unit at the end is left out.
+String fromUtf16(std::string_view bytes) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  String text;
+  text.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
+    text += static_cast<char16_t>(byte(i) | byte(i + 1) << 8);
+  return text;
+}
+
 String textOf(std::string_view bytes) {
-  if (bytes.starts_with(byteOrderMark)) return fromUtf8(bytes.substr(byteOrderMark.size()));
+  if (bytes.starts_with(markOfUtf8)) return fromUtf8(bytes.substr(markOfUtf8.size()));
+  if (bytes.starts_with(markOfUtf16)) return fromUtf16(bytes.substr(markOfUtf16.size()));
   String text;
   text.reserve(bytes.size());
   for (const char byte : bytes) {

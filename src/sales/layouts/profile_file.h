@@ -3,7 +3,8 @@
 // Profile files: sections in brackets with lines "key = value" below, read as the system's profile calls read
 // them. Sections and keys compare without regard to case, the first line that matches counts, a pair of
 // quotes around a value is taken off, and a value is cut to what a buffer of 2048 characters holds with its
-// end mark. The bytes are code page 1252, or UTF-8 after a byte order mark.
+// end mark. The bytes are UTF-16 (little-endian) or UTF-8 after the byte order mark of either, else code page
+// 1252.
 //
 //     String text = getProfileString(folder / "Rechnung.omr", u"Common", u"Description", u"");
 #pragma once

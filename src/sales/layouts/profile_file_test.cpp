@@ -54,6 +54,22 @@ TEST(ProfileFile, TakesOffBlanksAndOnePairOfQuotes) {
   EXPECT_EQ(description("[Common]\nDescription=\"\"\n"), "");
 }
 
+TEST(ProfileFile, IsUtf16AfterItsMark) {
+  const auto littleEndian = [](StringView text) {
+    std::string bytes = "\xFF\xFE";
+    for (const char16_t unit : text) {
+      bytes += static_cast<char>(unit & 0xFF);
+      bytes += static_cast<char>(unit >> 8);
+    }
+    return bytes;
+  };
+  const std::string file = littleEndian(u"[Common]\r\nDescription=Größe 5 €\r\nX=\U0001F4C4\r\n");
+  EXPECT_EQ(description(file), toUtf8(u"Größe 5 €"));
+  EXPECT_EQ(ProfileFile(file).value(u"Common", u"x", u""), u"\U0001F4C4");
+  EXPECT_EQ(description(littleEndian(u"[Common]\nDescription=ab").substr(0, 47)), "a") << "half a unit";
+  EXPECT_EQ(description("\xFF\xFE"), "-");
+}
+
 TEST(ProfileFile, KnowsAnEmptyValueFromAMissingOne) {
   EXPECT_EQ(description("[Common]\nDescription=\n"), "");
   EXPECT_EQ(description("[Common]\nDescription\n"), "-") << "a line without a value is no entry";

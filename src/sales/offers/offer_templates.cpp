@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "sales/offers/offer_templates.h"
 
+#include <cmath>
 #include <limits>
 
 #include "ado/recordset.h"
 #include "ado/sql.h"
 #include "forms/message_box.h"
+#include "forms/writing_procedure.h"
 #include "runtime/convert.h"
 #include "runtime/resume_next.h"
 #include "sales/basics/ask_auskunft.h"
@@ -52,10 +54,12 @@ String nameOf(ado::Recordset& rs) {
 }
 
 /// The number that a text begins with, as whole as the numbers of offers are; one beyond 32 bits stays as it
-/// is.
+/// is, one beyond a Double is infinite.
 double numberIn(StringView text) {
   using Limits = std::numeric_limits<std::int32_t>;
-  const double number = Val(text);
+  ResumeNext step;
+  double number = std::numeric_limits<double>::infinity();
+  step([&] { number = Val(text); });
   const bool fits = number >= Limits::min() && number <= Limits::max();
   return fits ? CLng(Variant(number)) : number;
 }
@@ -157,6 +161,17 @@ void frmOfferTemplates::mnuDelete_Click() {
   question += u"' (Angebot " + CStr(number) + u") aus der Liste der Vorlagen entfernen?";
   const int style = msgbox::YesNo | msgbox::Question | msgbox::DefaultButton2;
   if (MsgBox(question, style, u"Aus Vorlagen entfernen?") != MsgBoxResult::Yes) return;
+  takeFromTemplates(number);
+  step([&] { LoadTemplates(); });
+  if (MSFlexGrid1.Rows() > 0) return;
+  step([&] { optAuswahl(NewOffer).Value(true); });
+  step([&] { optAuswahl(FromTemplate).Enabled(false); });
+  step([&] { MSFlexGrid1.Enabled(false); });
+}
+
+void frmOfferTemplates::takeFromTemplates(std::int32_t number) {
+  const WritingProcedure writing(*this, u"mnuDelete_Click");
+  ResumeNext step;
   ado::Recordset rs;
   step([&] {
     rs.Open(u"Select Vorlage from Angebotskopf Where Angebotsnummer=" + ado::sql::number(Variant(number)),
@@ -167,11 +182,6 @@ void frmOfferTemplates::mnuDelete_Click() {
     step([&] { rs.Update(); });
   }
   step([&] { rs.Close(); });
-  step([&] { LoadTemplates(); });
-  if (MSFlexGrid1.Rows() > 0) return;
-  step([&] { optAuswahl(NewOffer).Value(true); });
-  step([&] { optAuswahl(FromTemplate).Enabled(false); });
-  step([&] { MSFlexGrid1.Enabled(false); });
 }
 
 // ---- list and options
@@ -223,7 +233,7 @@ void frmOfferTemplates::Angebotsnummer_GotFocus() {
 double frmOfferTemplates::settleNumber() {
   ResumeNext step;
   const double number = numberIn(Angebotsnummer.Text());
-  step([&] { Angebotsnummer.Text(number == 0 ? String() : CStr(number)); });
+  if (std::isfinite(number)) step([&] { Angebotsnummer.Text(number == 0 ? String() : CStr(number)); });
   return number;
 }
 

@@ -56,6 +56,8 @@ class frmOfferTemplates final : public Form {
   void Angebotsnummer_GotFocus();
   void btnAngebotsAuskunft_Click();
   void mnuDelete_Click();
+  /// The offer is a template no longer.
+  void takeFromTemplates(std::int32_t number);
   void btnOK_Click();
 
   OptionButton& optAuswahl(int index) const { return Get<OptionButton>(u"optAuswahl", index); }

@@ -255,7 +255,8 @@ TEST_F(OfferTemplates, TheNumberKeepsItsDigitsAlone) {
                                       {u"17.6", u"18"},
                                       {u"0.4", u""},
                                       {u"1e2", u"100"},
-                                      {u"99999999999", u"99999999999"}}) {
+                                      {u"99999999999", u"99999999999"},
+                                      {u"1e400", u"1e400"}}) {
       form().control(u"Angebotsnummer").SetFocus();
       form().Get<TextBox>(u"Angebotsnummer").Text(u"");
       type(typed);
@@ -273,7 +274,7 @@ TEST_F(OfferTemplates, AMissingOrUnknownNumberIsRefused) {
                              msgbox::Exclamation);
                    click(u"btnOK");
                    EXPECT_EQ(focus(), u"Angebotsnummer");
-                   for (const StringView number : {u"77", u"99999999999", u"-5"}) {
+                   for (const StringView number : {u"77", u"99999999999", u"-5", u"1e400", u"-1e400"}) {
                      form().Get<TextBox>(u"Angebotsnummer").Text(number);
                      expectBox(u"Das angegebene Angebot existiert nicht!", u"Angebot nicht vorhanden",
                                msgbox::Exclamation);
@@ -406,6 +407,7 @@ TEST_F(OfferTemplates, ARemovalThatFailsIsPassedOver) {
     expectQuestion(u"Baustelle", u"500", MsgBoxResult::Yes);
     click(u"btnDelete");
     EXPECT_EQ(templates().size(), 3u);
+    EXPECT_THAT(passedOver, ::testing::ElementsAre("mnuDelete_Click:-2147467259", "mnuDelete_Click:3219"));
   });
 }
 

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The companion "Kalmera.AuskunftObject": an information dialog of the host, in which a person looks for a
-// record and takes it over.
-//
-//     auto auskunft = ObjectFactory::current().create<AuskunftObject>(u"Kalmera.AuskunftObject");
-//     auskunft->PopupItems.Add(u"Take", u"Über&nehmen", 0, false, true, true, true);
-//     auskunft->Show(Session, u"AUSK_Kundenauskunft", u"Kundenauskunft");
-//     if (auskunft->Result() == 1) use(auskunft->ResultDataItems(u"Kundennummer"));
+// The companion "Kalmera.AuskunftObject".
 #pragma once
 
 #include <array>
@@ -20,26 +14,38 @@ namespace zqn {
 
 /// What a person can do with the row that is shown; "Take" takes it over.
 struct AuskunftItem {
+  /// The name of the action, "Take", and what the person reads, "&" before the letter to press.
   String key, caption;
+  /// They mean what the component makes of them.
   std::int32_t number;
   std::array<bool, 4> flags;
 };
 
+/// The actions that the dialogs ask for, in the order of asking.
 class AuskunftItems {
  public:
-  /// The number and the four flags mean what the component makes of them.
+  /// One action more.
   void Add(StringView Key, StringView Caption, std::int32_t Number, bool First, bool Second, bool Third,
            bool Fourth) {
     items_.push_back({String(Key), String(Caption), Number, {First, Second, Third, Fourth}});
   }
+  /// Those that were added.
   const std::vector<AuskunftItem>& items() const noexcept { return items_; }
 
  private:
   std::vector<AuskunftItem> items_;
 };
 
+/// An information dialog of the host, in which a person looks for a record and takes it over. A host offers
+/// one under the name "Kalmera.AuskunftObject":
+///
+///     auto auskunft = ObjectFactory::current().create<AuskunftObject>(u"Kalmera.AuskunftObject");
+///     auskunft->PopupItems.Add(u"Take", u"Über&nehmen", 0, false, true, true, true);
+///     auskunft->Show(Session, u"AUSK_Kundenauskunft", u"Kundenauskunft");
+///     if (auskunft->Result() == 1) use(auskunft->ResultDataItems(u"Kundennummer"));
 class AuskunftObject : public Object {
  public:
+  /// What the person is to be able to do with a row.
   AuskunftItems PopupItems;
 
   /// Runs the dialog of that name ("AUSK_Kundenauskunft", "AUSK_Angebotsauskunft") modally. May raise any

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Companion objects of the host system that the dialogs create by name. A host registers what it offers; a
-// name that nobody offers raises error 429 on creation, and each dialog says what it does then.
-//
-//     ObjectFactory::current().offer(u"ZQBSendKeys.ZQSendKeys", [] { return std::make_shared<MySendKeys>();
-//     });
+// Companion objects of the host system that the dialogs create by name.
 #pragma once
 
 #include <functional>
@@ -27,8 +23,14 @@ class ZQSendKeys : public Object {
   virtual void SendKeys2(StringView Keys) = 0;
 };
 
+/// Makes companions by name. A host says what it offers; a name that nobody offers raises error 429 on
+/// creation, and each dialog says what it does then.
+///
+///     ObjectFactory::current().offer(u"ZQBSendKeys.ZQSendKeys",
+///                                    [] { return std::make_shared<MySendKeys>(); });
 class ObjectFactory {
  public:
+  /// Makes one object; nullptr when it cannot be made.
   using Maker = std::function<std::shared_ptr<Object>()>;
 
   /// The one factory of the process.

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 //
-// What the dialogs ask of the host's session: settings, who the user is, and the open connection. A host
-// implements it over whatever it has; the dialogs call nothing else of it.
+// The host's session, as the dialogs see it.
 #pragma once
 
 #include <cstdint>
 
-#include "ado/connection.h"
 #include "runtime/ref.h"
 #include "runtime/variant.h"
 
 namespace zqn {
+
+namespace ado {
+class Connection;
+}
 
 /// Where a setting is read from.
 enum zqnGetSettingConstants : std::int32_t {
@@ -24,6 +26,8 @@ enum zqnGetSettingConstants : std::int32_t {
 /// Where a setting is written to.
 enum zqnSaveSettingConstants : std::int32_t { zqnSaveAsUserSetting = 0, zqnSaveAsGlobalSetting = 1 };
 
+/// What the dialogs ask of the host's session: settings, who the user is, and the open connection. A host
+/// implements it over whatever it has; the dialogs call nothing else of it.
 class Session {
  public:
   virtual ~Session() = default;

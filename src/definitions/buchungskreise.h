@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// clsBuchungskreise, kind 27: the booking ranges of one origin. The key that the dialog is opened with is no
-// key of a row but the origin ("VK"), and every statement is restricted to it.
+// clsBuchungskreise, kind 27: the booking ranges of one origin. The key that the dialog is opened with is not
+// that of a row but the origin ("VK"), and every statement is restricted to it.
 #pragma once
 
 #include "definitions/coded_catalogues.h"

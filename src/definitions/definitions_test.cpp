@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
 // All definition classes together: each kind has one of its own, and its form comes up whatever is missing.
-#include "definitions/definitions.h"
-
 #include <set>
 #include <string>
 #include <typeindex>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The generic form with a definition class that fails in one of its members: what the person sees of it.
-#include "definitions/definitions.h"
 #include "dialog/frm_dialog.h"
+#include "frontend/kinds.h"
 #include "testing/payment_terms.h"
 
 namespace zqn::testing {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/frm_dialog.h"
 
-#include "definitions/definitions.h"
 #include "dialog/frm_dialog_roster.h"
 #include "forms/desktop.h"
 #include "forms/message_box.h"
 #include "forms/names.h"
+#include "forms/writing_procedure.h"
 #include "frontend/basics/bas_basis.h"
 #include "frontend/basics/bas_general.h"
 #include "runtime/convert.h"
@@ -13,7 +13,7 @@
 
 namespace zqn {
 
-frmDialog::frmDialog() : Form(frmDialogDesign) {
+frmDialog::frmDialog(DefinitionMaker maker) : Form(frmDialogDesign), maker_(maker) {
   Load = [this] { objSendKeys = ObjectFactory::current().create<ZQSendKeys>(u"ZQBSendKeys.ZQSendKeys"); };
   Activate = [this] { Form_Activate(); };
   KeyDown = [this](int& KeyCode, int Shift) { Form_KeyDown(KeyCode, Shift); };
@@ -53,7 +53,7 @@ void frmDialog::wireFields() {
 // ---- construction
 
 void frmDialog::Init(const Ref<ado::Connection>& Connection, const Variant& Key, std::int32_t Kind) {
-  Init(Connection, Key, makeDefinition(Kind));
+  Init(Connection, Key, maker_ ? maker_(Kind) : nullptr);
 }
 
 void frmDialog::Init(const Ref<ado::Connection>& Connection, const Variant& Key,
@@ -238,7 +238,10 @@ void frmDialog::cmdOK_Click() {
     });
     return;
   }
-  step([&] { definition().WriteData(); });
+  {
+    const WritingProcedure writing(*this, u"WriteData");
+    step([&] { definition().WriteData(); });
+  }
   step([&] { definition().Key(txtKey.Text()); });
   step([&] { tdblShow.HoldFields(); });
   step([&] { rsListe->Requery(); });
@@ -258,7 +261,10 @@ void frmDialog::cmdDelete_Click() {
   }
   if (MsgBox(u"Datensatz löschen?", msgbox::YesNo | msgbox::Question, u"Abfrage") != MsgBoxResult::Yes)
     return;
-  definition().DeleteData();
+  {
+    const WritingProcedure writing(*this, u"DeleteData");
+    definition().DeleteData();
+  }
   ResumeNext step;
   step([&] { tdblShow.HoldFields(); });
   step([&] { rsListe->Requery(); });

@@ -21,7 +21,11 @@ namespace zqn {
 
 class frmDialog final : public Form {
  public:
-  frmDialog();
+  /// Makes the definition object of a kind; nullptr for a kind that has none.
+  using DefinitionMaker = std::unique_ptr<clsBasisDialog> (*)(std::int32_t Kind);
+
+  /// `maker` serves Init by kind; without one no kind has a definition class.
+  explicit frmDialog(DefinitionMaker maker = nullptr);
 
   /// True: taking a key raises DblClick and the form stays open.
   bool Multiselect = false;
@@ -54,7 +58,6 @@ class frmDialog final : public Form {
   void wireFields();
   void handOver(BasisControls& controls);
   clsBasisDialog& definition() const;
-  void positionOnKey();
   void pick();
   void paintList(std::uint32_t backColor, std::uint32_t foreColor);
 
@@ -82,6 +85,7 @@ class frmDialog final : public Form {
   TDBNumber& tdbnSkTage(int index) const { return Get<TDBNumber>(u"tdbnSkTage", index); }
   TDBNumber& tdbnPercent(int index) const { return Get<TDBNumber>(u"tdbnPercent", index); }
 
+  DefinitionMaker maker_;
   std::unique_ptr<clsBasisDialog> m_objDialog;
   /// The list's recordset, alive from ShowData until the form unloads.
   Ref<ado::Recordset> rsListe;

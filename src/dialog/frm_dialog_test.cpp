@@ -297,8 +297,13 @@ TEST_F(GenericForm, AFailingWriteIsNotReportedAndTheFlowGoesOn) {
                    enter(u"N1");
                    press(key::F9);
                    EXPECT_EQ(focus(), u"tdblShow");
+                   EXPECT_TRUE(form().Notice().starts_with(u"Fehler -2147217873: "))
+                       << toUtf8(form().Notice());
+                   press(key::Down);
+                   EXPECT_EQ(form().Notice(), u"");
                  }),
             Variant(u"N1"));
+  EXPECT_THAT(passedOver, ::testing::ElementsAre("WriteData:-2147217873", "WriteData:3219"));
   EXPECT_EQ(rows(u"SELECT * FROM Zahlungsbedingungen").size(), 3u);
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Constants of the system whose members need no object:
-//
-//     const Picture& phone = Constants::GetImage(zqImgPhone);  // a GIF of 16 by 16 pixels
+// Constants of the system.
 #pragma once
 
 #include "forms/picture.h"
@@ -11,6 +9,9 @@
 
 namespace zqn {
 
+/// Constants of the system whose members need no object:
+///
+///     const Picture& phone = Constants::GetImage(zqImgPhone);  // a GIF of 16 by 16 pixels
 class Constants {
  public:
   Constants() = delete;

@@ -1,20 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The one class through which a host opens a dialog:
-//
-//     ORBDialog dialog;
-//     dialog.Session(session);                 // takes the session's connection, too
-//     VariantArray param{u"10"};
-//     Variant key = dialog.Show(21, param);    // returns when the person closes the dialog
-//
-// A Desktop must be current (forms/desktop.h). Nothing of a dialog survives the call but the rows it changed
-// and the access flag.
+// What a host opens a dialog with.
 #pragma once
 
 #include <cstdint>
-#include <memory>
 
-#include "ado/connection.h"
 #include "contract/session.h"
 #include "forms/event.h"
 #include "runtime/ref.h"
@@ -27,8 +17,18 @@ class frmDialog;
 class frmSelektionskriterienVertrag;
 class frmVertriebsstati;
 
+/// The one class through which a host opens a dialog:
+///
+///     ORBDialog dialog;
+///     dialog.Session(session);                 // takes the session's connection, too
+///     VariantArray param{u"10"};
+///     Variant key = dialog.Show(21, param);    // returns when the person closes the dialog
+///
+/// A Desktop must be current (forms/desktop.h). Nothing of a dialog survives the call but the rows it changed
+/// and the access flag.
 class ORBDialog : private EventOwner {
  public:
+  /// Without a session and without a connection.
   ORBDialog();
   ~ORBDialog();
   ORBDialog(const ORBDialog&) = delete;
@@ -75,14 +75,14 @@ class ORBDialog : private EventOwner {
   /// Keeps a pick as Result and hands it to the host. Skips what fails.
   void report(const Variant& Result);
 
-  // Where each form that reports its picks stands while it is open, and who hears of them.
-  std::unique_ptr<frmDialog> frm;
+  // The forms that report their picks, each while it is open, and who hears of them.
+  frmDialog* frm = nullptr;
   void frm_DblClick(const Variant& Result) { report(Result); }
-  std::unique_ptr<frmCRMKategorien> frmCRM;
+  frmCRMKategorien* frmCRM = nullptr;
   void frmCRM_DblClick(const Variant& Result) { report(Result); }
-  std::unique_ptr<frmSelektionskriterienVertrag> frmSelkritVertrag;
+  frmSelektionskriterienVertrag* frmSelkritVertrag = nullptr;
   void frmSelkritVertrag_DblClick(const Variant& Result) { report(Result); }
-  std::unique_ptr<frmVertriebsstati> frmVStati;
+  frmVertriebsstati* frmVStati = nullptr;
   void frmVStati_DblClick(const Variant& Result) { report(Result); }
 
   bool multiselect_ = false;

@@ -5,7 +5,6 @@
 #include "frontend/orb_dialog.h"
 
 #include "ado/sqlite/sqlite.h"
-#include "definitions/definitions.h"
 #include "frontend/basics/bas_basis.h"
 #include "frontend/kinds.h"
 #include "testing/dialog_test.h"

@@ -3,9 +3,8 @@
 // Free routines of the definition classes: opening a recordset from its parts, reading a text block, the
 // print marks of a text block, finding an entry of a list, and the sentence of a payment term.
 //
-//     Ref<ado::Recordset> list =
-//         basGeneral::GetRecordset(u"Zahlungsbedingungen", u"ZahlbedSchl, Kurztext", {}, u"ZahlBedSchl",
-//         ado::adLockReadOnly);
+//     Ref<ado::Recordset> list = basGeneral::GetRecordset(
+//         u"Zahlungsbedingungen", u"ZahlbedSchl, Kurztext", {}, u"ZahlBedSchl", ado::adLockReadOnly);
 #pragma once
 
 #include <cstdint>
@@ -84,7 +83,7 @@ std::int32_t FindListIndex(const ComboBox& List, StringView Text, std::int32_t D
 // ---- payment terms
 
 /// The sentence of a payment term: "14 Tage 2%, 30 Tage netto.". Null counts as 0; a percentage that rounds
-/// to 0 is no discount. Errors 13 and 6 for values that do not convert to numbers.
+/// to 0 is not a discount. Errors 13 and 6 for values that do not convert to numbers.
 String BuildZahlungstext(const Variant& SkTage1, const Variant& Prozent1, const Variant& SkTage2,
                          const Variant& Prozent2, const Variant& SkTage3, const Variant& Prozent3,
                          const Variant& NettoTage);

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include "definitions/definitions.h"
 #include "desktop/qt/text.h"
 #include "frontend/kinds.h"
 
@@ -19,10 +18,6 @@ using qt::toQt;
 /// The dialog's place among dialogTitles().
 constexpr int PlaceRole = Qt::UserRole;
 constexpr int SearchRole = Qt::UserRole + 1;
-
-bool isListed(const DialogTitle& title) {
-  return title.generic ? hasDefinition(title.kind) : isOffered(title.kind);
-}
 
 /// The item below or, backward, above that is a dialog and not hidden; nullptr at the end.
 QTreeWidgetItem* neighbour(QTreeWidget& tree, QTreeWidgetItem* from, bool backward) {
@@ -70,7 +65,6 @@ void DialogList::fill() {
   for (int place = 0; const DialogTitle& title : dialogTitles()) {
     const int here = place++;
     const KindInfo* info = findKind(title.kind);
-    if (info == nullptr || !isListed(title)) continue;
     if (subject == nullptr || subject->text(0) != toQt(title.subject)) {
       subject = new QTreeWidgetItem(tree_, {toQt(title.subject)});
       subject->setFlags(Qt::ItemIsEnabled);

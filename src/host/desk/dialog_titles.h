@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a person calls the dialogs: the German title of each kind, the subject it belongs to, and what the
-// elements of its Param mean. For the desk's list and its fields alone.
+// The dialogs as the desk lists them: by subject, each under its title.
 //
 //     for (const DialogTitle& title : dialogTitles()) list.add(title.subject, title.title);
 #pragma once
@@ -24,10 +23,10 @@ struct DialogTitle {
 
 /// All kinds, those of one subject together; a kind with a form of its own once more where the generic form
 /// has its catalogue, too.
-std::span<const DialogTitle> dialogTitles() noexcept;
+std::span<const DialogTitle> dialogTitles();
 
-/// Names of the elements of Param that the kind reads, the key first.
-std::vector<StringView> paramNames(std::int32_t kind);
+/// Names of the elements of Param that the kind reads, the key first; none for a number that is not a kind's.
+std::vector<String> paramNames(std::int32_t kind);
 /// What Show returns for the kind, in words.
 StringView resultName(std::int32_t kind);
 

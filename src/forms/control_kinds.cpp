@@ -23,6 +23,7 @@
 #include "forms/timer.h"
 #include "forms/toggle_button.h"
 #include "forms/zq_combo.h"
+#include "runtime/enumeration_table.h"
 
 namespace zqn {
 
@@ -62,6 +63,7 @@ constexpr Kind kinds[] = {
     {ControlKind::ToggleButton, u"ToggleButton", make<ToggleButton>},
     {ControlKind::zqCombo, u"zqCombo", make<zqCombo>},
 };
+static_assert(hasRowForEach<ControlKind::zqCombo>(kinds, &Kind::kind));
 
 const Kind& row(ControlKind kind) noexcept { return *std::ranges::find(kinds, kind, &Kind::kind); }
 

@@ -66,5 +66,13 @@ TEST_F(FailurePassedOver, OfAFormThatIsClosedIsHeardOfAllTheSame) {
   EXPECT_EQ(form.Notice(), u"");
 }
 
+TEST(FailurePassedOverWithoutADesktop, LetsTheProcedureGoOn) {
+  SampleForm form{roster};
+  const WritingProcedure writing(form, u"WriteRecord");
+  ResumeNext step;
+  EXPECT_NO_THROW(step([] { throw RuntimeError(error::Overflow); }));
+  EXPECT_EQ(step.Number(), error::Overflow);
+}
+
 }  // namespace
 }  // namespace zqn::testing

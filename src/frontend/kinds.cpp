@@ -214,7 +214,8 @@ const Kind* find(std::int32_t number) noexcept {
 constexpr const char16_t* subjectTitles[] = {
     u"Vertrieb und CRM", u"Verträge",           u"Preise und Angebote",  u"Zahlung",  u"Versand",
     u"Gruppen",          u"Konten und Nummern", u"Belege und Erfassung", u"Allgemein"};
-static_assert(std::size(subjectTitles) == static_cast<std::size_t>(KindSubject::General) + 1);
+static_assert(std::size(subjectTitles) == static_cast<std::size_t>(KindSubject::General) + 1,
+              "a subject has no title");
 
 }  // namespace
 

@@ -50,6 +50,7 @@ constexpr std::array<KindDesign, 4> kindDesigns{{{u" ", -1},
                                                  {u"Chargenaufteilung", 3},
                                                  {u"Seriennummernaufteilung", 5},
                                                  {u"Chargen/Seriennummernaufteilung", 3}}};
+static_assert(kindDesigns.size() == static_cast<std::size_t>(SplitKind::Both) + 1);
 
 /// No kind for what is no number from 1 to 3.
 SplitKind kindOf(const Variant& Aufteilungsart) {

@@ -24,6 +24,8 @@ constexpr std::array<Design, 5> designs{{
     {u"Verfalldatum", {-1, 1100, 0, 1100}},
     {u"S/N", {-1, 0, 2000, 2000}},
 }};
+static_assert(designs.size() == SplitSerial + 1);
+static_assert(designs.front().widths.size() == static_cast<std::size_t>(SplitKind::Both) + 1);
 
 const Design& designOf(int col) { return designs.at(static_cast<std::size_t>(col - 1)); }
 

@@ -20,6 +20,7 @@
 #include "desktop/qt/tdb_number.h"
 #include "desktop/qt/text_box.h"
 #include "desktop/qt/toggle_button.h"
+#include "runtime/enumeration_table.h"
 
 namespace zqn::qt {
 
@@ -69,6 +70,7 @@ constexpr Row table[] = {
     {ControlKind::ToggleButton, make<ToggleButton, zqn::ToggleButton>},
     {ControlKind::zqCombo, make<zqCombo, zqn::zqCombo>},
 };
+static_assert(hasRowForEach<ControlKind::zqCombo>(table, &Row::kind));
 
 }  // namespace
 

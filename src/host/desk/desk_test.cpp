@@ -259,6 +259,22 @@ TEST_F(DeskWindowTest, WritesDownEachPickAsItComes) {
   EXPECT_GE(step, 2);
 }
 
+TEST_F(DeskWindowTest, WritesDownWhatAProcedureThatWritesHasPassedOver) {
+  headless::HeadlessDesktop desktop;
+  const Desktop::Scope scope(desktop);
+  DeskWindow desk(options());
+  desktop.whenIdle([&] {
+    Form& form = *desktop.activeForm();
+    desktop.failurePassedOver(form, u"WriteRecord", RuntimeError(error::RowConflict, u"Satz gesperrt"));
+    form.closeBox();
+  });
+  named<QLineEdit>(desk, "Dialog suchen").setText("stati");
+  QTest::keyClick(&named<QLineEdit>(desk, "Dialog suchen"), Qt::Key_Return);
+  const QTreeWidgetItem& line = *named<QTreeWidget>(desk, "Aufrufe").topLevelItem(0)->child(1);
+  EXPECT_EQ(line.text(0), "Übergangen");
+  EXPECT_EQ(line.text(1), "WriteRecord: -2147217864 Satz gesperrt");
+}
+
 TEST_F(DeskWindowTest, WritesTheSameCallForAProgramAndAShell) {
   DeskWindow desk(options());
   named<QLineEdit>(desk, "Dialog suchen").setText("stati");

@@ -9,6 +9,7 @@
 #include "forms/list_box.h"
 #include "forms/tdb_list.h"
 #include "forms/zq_combo.h"
+#include "runtime/enumeration_table.h"
 
 namespace zqn::script {
 
@@ -173,6 +174,7 @@ constexpr ControlTraits traits[] = {
     {ControlKind::ToggleButton, "caption", false, nullptr},
     {ControlKind::zqCombo, "text", true, &zqComboRows},
 };
+static_assert(hasRowForEach<ControlKind::zqCombo>(traits, &ControlTraits::kind));
 
 }  // namespace
 

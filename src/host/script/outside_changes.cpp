@@ -6,6 +6,7 @@
 
 #include "host/script/line_functions.h"
 #include "host/script/script_error.h"
+#include "runtime/enumeration_table.h"
 
 namespace zqn::script::outside {
 
@@ -21,6 +22,7 @@ constexpr std::array<std::pair<const char*, Op>, 8> operations{{{"Open", Op::Ope
                                                                 {"Find", Op::Find},
                                                                 {"Close", Op::Close},
                                                                 {"Field", Op::Field}}};
+static_assert(hasRowForEach<Op::Field>(operations, &std::pair<const char*, Op>::second));
 
 Op operationOf(const std::string& name) {
   std::string names;

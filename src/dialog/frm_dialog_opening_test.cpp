@@ -3,6 +3,7 @@
 // The generic form as it is designed, and as it comes up.
 #include "definitions/coded_catalogues.h"
 #include "dialog/frm_dialog.h"
+#include "frontend/kinds.h"
 #include "runtime/convert.h"
 #include "testing/payment_terms.h"
 
@@ -50,7 +51,7 @@ TEST(GenericFormDesign, PurchaseTogglesRepeatTheTipsOfTheSalesGroup) {
 
 TEST(GenericFormDesign, WithoutACatalogueInitFailsAtOnce) {
   for (const std::int32_t kind : {-1, 0, 16, 21, 28, 38}) {
-    frmDialog form;
+    frmDialog form(makeDefinition);
     EXPECT_EQ(errorNumberOf([&] { form.Init(nothing, u"", kind); }), error::ObjectNotSet) << kind;
     EXPECT_EQ(errorNumberOf([&] { return form.Key(); }), error::ObjectNotSet);
   }
@@ -76,7 +77,7 @@ TEST_F(OpeningTheGenericForm, ComesUpWithItsListInTheLookWithoutTheFocus) {
 }
 
 TEST_F(OpeningTheGenericForm, TheFirstNumberTakesTheFocusOnceWhatWaitsHasReachedTheSaveButton) {
-  frmDialog terms;
+  frmDialog terms(makeDefinition);
   terms.Init(connection, u"14", 3);
   std::vector<String> order;
   terms.control(u"cmdOK").GotFocus = [&] {

@@ -11,36 +11,14 @@
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <vector>
 
+#include "host/session/host_options.h"
 #include "runtime/variant.h"
 
 namespace zqn::host {
 
 enum class Command { Desk, Kinds, Init, Sql, Show, Help };
 enum class Ui { Qt, Headless };
-
-/// `--set SECTION/KEY=VALUE`, or `--set-user` for the user's own.
-struct SettingForRun {
-  String section, key, value;
-  bool ofUser = false;
-};
-
-/// What `show` and the desk have in common.
-struct HostOptions {
-  /// As written; none: the file in the user's data folder.
-  std::optional<std::string> database;
-  /// Empty: the login name.
-  String user;
-  bool admin = false;
-  bool session = true;
-  std::vector<SettingForRun> settings;
-  bool multiselect = false;
-  bool generic = false;
-  /// The application folder; empty: the data folder.
-  std::filesystem::path appPath;
-  std::optional<Date> today;
-};
 
 struct ShowOptions {
   std::int32_t kind = 0;

@@ -5,12 +5,13 @@
 #include <iostream>
 #include <memory>
 
-#include "frontend/basics/bas_basis.h"
 #include "frontend/kinds.h"
 #include "host/information/auskunft.h"
+#include "host/script/outside_of_host.h"
 #include "host/script/scripted_auskunft.h"
 #include "host/script/scripted_user.h"
 #include "host/session/host.h"
+#include "host/session/show_call.h"
 
 namespace zqn::host {
 
@@ -62,8 +63,6 @@ std::unique_ptr<std::ofstream> openTranscript(const fs::path& file) {
   return stream;
 }
 
-bool isKey(const Variant& value) { return !value.isEmpty() && !value.isNull() && value != Variant(u""); }
-
 void printKey(const Variant& key) {
   if (!isKey(key)) return;
   const script::Json json = script::jsonValue(key);
@@ -78,19 +77,11 @@ void warnOfMissingForm(const Options& options) {
             << " is not part of this version; 'zqn-dialog kinds' lists those that are\n";
 }
 
-ExitStatus statusOf(const script::ShowOutcome& outcome) {
+ExitStatus statusOf(const ShowOutcome& outcome) {
   return isKey(outcome.returned) ? ExitStatus::Done : ExitStatus::NoKey;
 }
 
 }  // namespace
-
-script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray param, bool generic) {
-  const Variant returned = generic ? dialog.ShowGeneric(kind, param) : dialog.Show(kind, param);
-  return {.returned = returned,
-          .param = std::move(param),
-          .allowChanges = basBasis::bAllowChanges,
-          .dialogResult = dialog.Result()};
-}
 
 ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& input) {
   warnOfMissingForm(options);
@@ -114,7 +105,7 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
     if (transcriptFile) recorder = std::make_unique<Recorder>(desktop, *transcriptFile);
     if (recorder)
       dialog.DblClick = [&](const Variant& key) { recorder->write(script::eventLine(u"DblClick", key)); };
-    const script::ShowOutcome outcome = callShow(dialog, request.kind, request.param, options.host.generic);
+    const ShowOutcome outcome = callShow(dialog, request.kind, request.param, options.host.generic);
     if (recorder) recorder->write(script::resultLine(outcome));
     printKey(outcome.returned);
     return statusOf(outcome);
@@ -124,10 +115,10 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   host.connection()->observer(&faults);
   std::istream& script = scriptFile ? *scriptFile : std::cin;
   std::ostream& transcript = transcriptFile ? *transcriptFile : std::cout;
-  ScriptedUser user(desktop, input, host.outside(), faults, script, transcript);
+  ScriptedUser user(desktop, input, script::outsideOf(host), faults, script, transcript);
   dialog.DblClick = [&](const Variant& key) { user.writeEvent(u"DblClick", key); };
   const script::ScriptedAuskunft auskunft(user);
-  script::ShowOutcome outcome;
+  ShowOutcome outcome;
   user.prepare();
   if (!user.failed()) outcome = callShow(dialog, request.kind, request.param, options.host.generic);
   user.finish();

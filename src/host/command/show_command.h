@@ -8,16 +8,11 @@
 #pragma once
 
 #include "forms/desktop.h"
-#include "frontend/orb_dialog.h"
 #include "host/command/command_line.h"
 #include "host/database/failure.h"
-#include "host/script/transcript_lines.h"
 #include "host/script/user_input.h"
 
 namespace zqn::host {
-
-/// Calls Show, or ShowGeneric, and takes down what it came to.
-script::ShowOutcome callShow(ORBDialog& dialog, std::int32_t kind, VariantArray param, bool generic);
 
 /// Opens the dialog of the options and returns when it is closed. The transcript goes where the options say;
 /// unless it goes to standard output the key is printed there, a text as it is, anything else as in JSON.

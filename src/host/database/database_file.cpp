@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ado/sqlite/sqlite.h"
+#include "ado/transaction.h"
 #include "host/database/failure.h"
 #include "host/database/rows.h"
 #include "host/database/schema/schema.h"
@@ -112,7 +113,7 @@ Created createTablesInFile(const fs::path& file, const Content& content) {
       throw cannotOpen(file, "its folder does not exist; make the folder first");
     }
     const auto connection = ado::openSqlite(file);
-    Transaction transaction(*connection, u"BEGIN IMMEDIATE");
+    ado::Transaction transaction(*connection, u"BEGIN IMMEDIATE");
     const std::int64_t made = makeTables(*connection, DatabaseProduct::Sqlite);
     const std::int64_t rows = fillTables(*connection, DatabaseProduct::Sqlite, content);
     transaction.commit();

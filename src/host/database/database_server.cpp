@@ -6,6 +6,7 @@
 
 #include "ado/odbc/connection_string.h"
 #include "ado/odbc/odbc.h"
+#include "ado/transaction.h"
 #include "host/database/failure.h"
 #include "host/database/server_schema.h"
 #include "runtime/collation.h"
@@ -78,7 +79,7 @@ std::optional<StringView> beginAroundTables(DatabaseProduct product) {
 
 Created createInTransaction(ado::Connection& connection, DatabaseProduct product, StringView begin,
                             const Content& content) {
-  Transaction transaction(connection, begin);
+  ado::Transaction transaction(connection, begin);
   const std::int64_t made = makeTables(connection, product);
   const std::int64_t rows = fillTables(connection, product, content);
   transaction.commit();
@@ -102,7 +103,7 @@ Created createOneByOne(ado::Connection& connection, DatabaseProduct product, con
   std::vector<StringView> made;
   try {
     makeTables(connection, product, [&](const Table& table) { made.push_back(table.name); });
-    Transaction transaction(connection, u"BEGIN");
+    ado::Transaction transaction(connection, u"BEGIN");
     const std::int64_t rows = fillTables(connection, product, content);
     transaction.commit();
     return {.tables = static_cast<std::int64_t>(made.size()), .rows = rows};

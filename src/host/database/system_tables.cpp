@@ -10,24 +10,6 @@
 
 namespace zqn::host {
 
-Transaction::Transaction(ado::Connection& connection, StringView begin) : connection_(connection) {
-  connection_.Execute(String(begin));
-}
-
-Transaction::~Transaction() {
-  if (committed_) return;
-  try {
-    connection_.Execute(u"ROLLBACK");
-  } catch (const RuntimeError&) {
-    // The database has already rolled back by itself, after a full disk or a lost connection for instance.
-  }
-}
-
-void Transaction::commit() {
-  connection_.Execute(u"COMMIT");
-  committed_ = true;
-}
-
 std::int64_t makeTables(ado::Connection& connection, DatabaseProduct product,
                         const std::function<void(const Table&)>& made) {
   for (const String& statement : preparations(product)) connection.Execute(statement);

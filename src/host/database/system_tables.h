@@ -2,7 +2,7 @@
 //
 // The tables of the system on an open connection: made and filled, whatever database it is.
 //
-//     Transaction transaction(connection, u"BEGIN");
+//     ado::Transaction transaction(connection);
 //     Created created = makeTables(connection, DatabaseProduct::PostgreSql);
 //     created.rows = fillTables(connection, DatabaseProduct::PostgreSql, {.sample = true});
 //     transaction.commit();
@@ -25,23 +25,6 @@ struct Content {
 struct Created {
   std::int64_t tables = 0;
   std::int64_t rows = 0;
-};
-
-/// A transaction that is rolled back unless it was committed.
-class Transaction {
- public:
-  /// `begin` is the statement that begins one. The provider's errors.
-  Transaction(ado::Connection& connection, StringView begin);
-  ~Transaction();
-  Transaction(const Transaction&) = delete;
-  Transaction& operator=(const Transaction&) = delete;
-
-  /// The provider's errors.
-  void commit();
-
- private:
-  ado::Connection& connection_;
-  bool committed_ = false;
 };
 
 /// Creates all tables, none of which may exist, and gives their number. `made` is told of each as soon as it

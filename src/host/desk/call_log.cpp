@@ -5,6 +5,7 @@
 #include <QTime>
 
 #include "desktop/qt/text.h"
+#include "host/script/json_values.h"
 
 namespace zqn::host {
 
@@ -55,7 +56,7 @@ void CallLog::Call::passedOver(StringView procedure, const RuntimeError& failure
       qt::toQt(procedure) + ": " + QString::number(failure.number()) + " " + qt::toQt(failure.description()));
 }
 
-void CallLog::Call::returned(const script::ShowOutcome& outcome) {
+void CallLog::Call::returned(const ShowOutcome& outcome) {
   add(entry_, "Rückgabe", written(outcome.returned));
   add(entry_, "Param nachher", written(outcome.param));
   add(entry_, "Result", written(outcome.dialogResult));

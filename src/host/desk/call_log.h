@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 #include <cstdint>
 
-#include "host/script/transcript_lines.h"
+#include "host/session/show_call.h"
 #include "runtime/variant.h"
 
 namespace zqn::host {
@@ -26,7 +26,7 @@ class CallLog : public QTreeWidget {
     void picked(const Variant& key);
     /// A procedure that writes has passed over a failure.
     void passedOver(StringView procedure, const RuntimeError& failure);
-    void returned(const script::ShowOutcome& outcome);
+    void returned(const ShowOutcome& outcome);
 
    private:
     friend class CallLog;

@@ -19,13 +19,13 @@
 #include "desktop/qt/text.h"
 #include "forms/desktop.h"
 #include "frontend/kinds.h"
-#include "host/command/show_command.h"
 #include "host/database/database.h"
 #include "host/desk/call_lines.h"
 #include "host/desk/dialog_titles.h"
 #include "host/desk/images_window.h"
 #include "host/desk/settings_dialog.h"
 #include "host/information/auskunft.h"
+#include "host/session/show_call.h"
 #include "runtime/error.h"
 
 namespace zqn::host {

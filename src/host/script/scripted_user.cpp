@@ -142,7 +142,7 @@ void ScriptedUser::put(const Json& line) {
   if (!transcript_) failed_ = true;
 }
 
-void ScriptedUser::writeResult(const ShowOutcome& outcome) { write(resultLine(outcome)); }
+void ScriptedUser::writeResult(const host::ShowOutcome& outcome) { write(resultLine(outcome)); }
 
 void ScriptedUser::writeEvent(StringView event, const Variant& result) { write(eventLine(event, result)); }
 

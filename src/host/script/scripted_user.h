@@ -46,7 +46,7 @@ class ScriptedUser : public DesktopListener {
   /// After Show: runs what is left of the script; nothing is open, so user actions are refused.
   void finish();
   /// The last line; not written when the script could not go on.
-  void writeResult(const ShowOutcome& outcome);
+  void writeResult(const host::ShowOutcome& outcome);
   /// The dialog raised an event to its host.
   void writeEvent(StringView event, const Variant& result);
   /// An information dialog was asked for.

@@ -88,7 +88,7 @@ Json refusedLine(const std::string& reason, const Json& action) {
   return {{"refused", reason}, {"action", action}};
 }
 
-Json resultLine(const ShowOutcome& outcome) {
+Json resultLine(const host::ShowOutcome& outcome) {
   Json param = Json::array();
   for (const Variant& element : outcome.param.elements()) param.push_back(jsonValue(element));
   const Json entry{{"return", jsonValue(outcome.returned)},

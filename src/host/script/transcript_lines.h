@@ -6,6 +6,7 @@
 #include "forms/form.h"
 #include "forms/message_box.h"
 #include "host/script/json_values.h"
+#include "host/session/show_call.h"
 
 namespace zqn::script {
 
@@ -30,14 +31,7 @@ Json auskunftLine(StringView name, StringView title);
 /// {"refused":"btnOK is disabled","action":{"click":"btnOK"}}
 Json refusedLine(const std::string& reason, const Json& action);
 
-/// What a call of Show came to.
-struct ShowOutcome {
-  Variant returned;
-  VariantArray param;
-  bool allowChanges = true;
-  Variant dialogResult;
-};
 /// {"result":{"return":"10","param":["10"],"allowChanges":true,"dialogResult":{"empty":true}}}
-Json resultLine(const ShowOutcome& outcome);
+Json resultLine(const host::ShowOutcome& outcome);
 
 }  // namespace zqn::script

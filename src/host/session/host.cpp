@@ -4,18 +4,10 @@
 #include "contract/object_factory.h"
 #include "contract/ws_profile.h"
 #include "host/database/database.h"
-#include "host/database/rows.h"
 
 namespace zqn::host {
 
 namespace {
-
-script::OutsideAccess::Rows query(ado::Connection& connection, StringView statement) {
-  const ado::RowStore found = runStatement(connection, statement).rows;
-  script::OutsideAccess::Rows rows;
-  for (int row = 0; row < found.rows(); ++row) rows.push_back(rowValues(found, row));
-  return rows;
-}
 
 class Profile : public WSProfile {
  public:
@@ -47,18 +39,6 @@ void Host::equip(ORBDialog& dialog) const {
   dialog.Connection(connection_);
   if (handsSessionOver_) dialog.Session(Ref<Session>(std::shared_ptr<Session>(session_)));
   dialog.Multiselect(multiselect_);
-}
-
-script::OutsideAccess Host::outside() const {
-  const Ref<ado::Connection> other = openDatabase(address_);
-  return {.query = [other](StringView statement) { return query(*other, statement); },
-          .execute = [other](StringView statement) { other->Execute(statement); },
-          .saveSetting =
-              [this](const script::Setting& setting) {
-                session_->SaveSetting(setting.section, setting.key, setting.value, Missing, setting.scope);
-              },
-          .settings =
-              [this](StringView section) { return session_->settings().section(section, session_->user()); }};
 }
 
 void offerCompanions(const HostOptions& options) {

@@ -10,9 +10,8 @@
 #include <memory>
 
 #include "frontend/orb_dialog.h"
-#include "host/command/command_line.h"
 #include "host/database/database_address.h"
-#include "host/script/outside_access.h"
+#include "host/session/host_options.h"
 #include "host/session/host_session.h"
 #include "runtime/locale.h"
 
@@ -30,10 +29,6 @@ class Host {
   const DatabaseAddress& address() const noexcept { return address_; }
   const Ref<ado::Connection>& connection() const noexcept { return connection_; }
   HostSession& session() const noexcept { return *session_; }
-
-  /// What somebody else does to this database while a dialog is open, on a connection of its own. The Host
-  /// must outlive it.
-  script::OutsideAccess outside() const;
 
  private:
   DatabaseAddress address_;

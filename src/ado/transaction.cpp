@@ -18,6 +18,11 @@ Transaction::~Transaction() {
   }
 }
 
+bool inTransaction(const Connection& connection) {
+  const auto* state = dynamic_cast<const TransactionState*>(&connection.provider());
+  return state != nullptr && state->inTransaction();
+}
+
 void Transaction::commit() {
   connection_.Execute(u"COMMIT");
   committed_ = true;

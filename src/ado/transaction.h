@@ -32,4 +32,16 @@ class Transaction {
   bool committed_ = false;
 };
 
+/// What a Provider implements besides when it can tell whether a statement has begun a transaction that stands
+/// open.
+class TransactionState {
+ public:
+  virtual ~TransactionState() = default;
+  virtual bool inTransaction() const = 0;
+};
+
+/// A transaction stands open on the connection: what was written since is lost unless a COMMIT follows. False
+/// for a provider that cannot tell. Error 3709 when closed.
+bool inTransaction(const Connection& connection);
+
 }  // namespace zqn::ado

@@ -7,12 +7,13 @@
 #include "ado/odbc/keyset.h"
 #include "ado/odbc/statement.h"
 #include "ado/odbc/wide.h"
+#include "ado/transaction.h"
 
 namespace zqn::ado {
 
 namespace {
 
-class OdbcProvider : public Provider {
+class OdbcProvider : public Provider, public TransactionState {
  public:
   explicit OdbcProvider(std::shared_ptr<odbc::Server> server) : server_(std::move(server)) {}
 
@@ -33,6 +34,7 @@ class OdbcProvider : public Provider {
     if (!column.key) return {exact, {read}};
     return {equal + u" AND " + exact, {read, read}};
   }
+  bool inTransaction() const override { return server_->inTransaction(); }
   String name() const override { return server_->link().product(); }
 
  private:

@@ -4,6 +4,7 @@
 #include "ado/field_values.h"
 #include "ado/sqlite/keyset.h"
 #include "ado/sqlite/statement.h"
+#include "ado/transaction.h"
 
 namespace zqn::ado {
 
@@ -12,7 +13,7 @@ namespace {
 using Mode = SqliteOptions::Mode;
 using sqlite::Database;
 
-class SqliteProvider : public Provider {
+class SqliteProvider : public Provider, public TransactionState {
  public:
   explicit SqliteProvider(std::shared_ptr<sqlite::OpenFile> file) : file_(std::move(file)) {}
   ~SqliteProvider() override {
@@ -31,6 +32,7 @@ class SqliteProvider : public Provider {
     return {quoted(column.baseColumn) + (isTextType(column.type) ? u" COLLATE BINARY IS ?" : u" IS ?"),
             {read}};
   }
+  bool inTransaction() const override { return sqlite3_get_autocommit(file_->database->get()) == 0; }
   String name() const override { return sqlite::SourceName; }
 
  private:

@@ -4,7 +4,9 @@
 import json
 import sqlite3
 import subprocess
+import time
 import unittest
+from pathlib import Path
 
 from command import COMMAND, CommandTest, CANNOT_OPEN, DONE
 
@@ -54,6 +56,27 @@ class Init(CommandTest):
     def test_the_folder_must_exist(self):
         self.assert_refused(CANNOT_OPEN, ["no/a.sqlite", "folder"], "init", "--db", "sqlite:no/a.sqlite")
 
+    def test_of_two_at_once_one_makes_the_database_and_the_other_leaves_it_alone(self):
+        for turn in range(10):
+            url = f"sqlite:{turn}.sqlite"
+            both = [subprocess.Popen([COMMAND, "init", "--db", url, "--sample"], stdout=subprocess.PIPE,
+                                     stderr=subprocess.PIPE, text=True, cwd=self.folder, env=self.environment)
+                    for _ in range(2)]
+            said = [each.communicate(timeout=60) for each in both]
+            self.assertEqual(sorted(each.returncode for each in both), [DONE, CANNOT_OPEN], said)
+            self.assertGreater(self.rows(url, "SELECT COUNT(*) FROM Angebotskopf")[0][0], 0)
+            self.assertEqual(self.rows(url, "PRAGMA integrity_check"), [["ok"]])
+        self.assertEqual(self.tree().keys(), {f"{turn}.sqlite" for turn in range(10)})
+
+    def test_what_a_killed_init_has_left_goes_with_the_next(self):
+        (self.folder / "a.sqlite.zqn-draft-Ab12Cd").write_text("half")
+        (self.folder / "a.sqlite.zqn-draft-Ab12Cd-wal").write_text("half")
+        self.sample("a.sqlite")
+        self.assertEqual(self.tree().keys(), {"a.sqlite"})
+
+    def test_a_folder_that_cannot_be_written(self):
+        self.assert_refused(CANNOT_OPEN, ["/proc/a.sqlite", "made"], "init", "--db", "sqlite:/proc/a.sqlite")
+
     def test_a_locked_file_is_left_alone(self):
         self.lock("a.sqlite", "BEGIN EXCLUSIVE")
         self.assert_refused(CANNOT_OPEN, ["a.sqlite", "in use"], "init", "--db", "sqlite:a.sqlite", "--sample")
@@ -99,6 +122,25 @@ class Sql(CommandTest):
         self.assertEqual(result.returncode, CANNOT_OPEN)
         self.assertGreater(self.rows(url, "SELECT COUNT(*) FROM Keywords")[0][0], 0)
         self.assertGreater(self.rows(url, "SELECT COUNT(*) FROM Vertriebsstati")[0][0], 0)
+
+    def test_a_transaction_that_is_not_ended_is_told(self):
+        url = self.sample()
+        before = self.rows(url, "SELECT COUNT(*) FROM Keywords")
+        for begin in ("BEGIN", "begin immediate transaction", "SAVEPOINT a"):
+            result = self.run_command("sql", "--db", url, stdin=f"{begin};\nDELETE FROM Keywords;\n")
+            self.assertEqual((result.returncode, result.stdout), (CANNOT_OPEN, "[]\n[]\n"))
+            self.assertIn("COMMIT", result.stderr)
+            self.assertEqual(self.rows(url, "SELECT COUNT(*) FROM Keywords"), before)
+        self.run_fine("sql", "--db", url, stdin="BEGIN;\nDELETE FROM Keywords;\nROLLBACK;\n")
+        self.run_fine("sql", "--db", url, stdin="BEGIN;\nDELETE FROM Keywords;\nCOMMIT;\n")
+        self.assertEqual(self.rows(url, "SELECT COUNT(*) FROM Keywords"), [[0]])
+
+    def test_a_failure_inside_a_transaction_says_what_becomes_of_it(self):
+        url = self.sample()
+        result = self.run_command("sql", "--db", url, stdin="BEGIN;\nDELETE FROM Keywords;\nSELECT * FROM Nirgends;\n")
+        self.assertEqual(result.returncode, CANNOT_OPEN)
+        self.assertIn("rolled back", result.stderr)
+        self.assertNotIn("rolled back", self.run_command("sql", "--db", url, stdin="SELECT * FROM Nirgends;\n").stderr)
 
     def test_a_last_statement_without_its_end_is_not_run(self):
         url = self.sample()
@@ -198,6 +240,44 @@ class DefaultDatabase(CommandTest):
         self.rows(f"sqlite:{file}", "DELETE FROM Vertriebsstati WHERE Status='20'")
         status, lines = self.show("21", "10", script='{"list":"TDBList1"}\n')
         self.assertEqual(len(lines[1]["rows"]), len(first) - 1)
+
+    def first_start(self, **more):
+        return subprocess.Popen([COMMAND, "show", "21", "10", "--ui", "headless"], stdout=subprocess.PIPE,
+                                stderr=subprocess.PIPE, text=True, cwd=self.folder, env=self.environment, **more)
+
+    def assert_complete(self):
+        """The data folder holds the database with the sample and the six layout files, and nothing else."""
+        self.assertEqual(self.run_fine("show", "21", "10", "--ui", "headless"), "10\n")
+        file = self.data / "zqn-dialog" / "zqn-dialog.sqlite"
+        self.assertEqual(self.rows(f"sqlite:{file}", "PRAGMA integrity_check"), [["ok"]])
+        names = {path.name for path in file.parent.iterdir()}
+        self.assertEqual(len(names), 7, names)
+        self.assertEqual({Path(name).suffix.lower() for name in names}, {".sqlite", ".omr"})
+
+    def test_two_first_starts_at_once_come_to_one_database(self):
+        for turn in range(5):
+            self.data = self.folder / f"data{turn}"
+            self.environment["XDG_DATA_HOME"] = str(self.data)
+            both = [self.first_start(), self.first_start()]
+            said = [each.communicate(timeout=60) for each in both]
+            self.assertEqual([each.returncode for each in both], [DONE, DONE], said)
+            self.assert_complete()
+
+    def test_a_first_start_that_was_killed_is_made_up_for(self):
+        for turn in range(10):
+            self.data = self.folder / f"data{turn}"
+            self.environment["XDG_DATA_HOME"] = str(self.data)
+            start = self.first_start()
+            time.sleep(turn * 0.004)
+            start.kill()
+            start.communicate(timeout=60)
+            self.assert_complete()
+
+    def test_a_file_that_an_older_first_start_has_left_without_a_table_is_filled(self):
+        folder = self.data / "zqn-dialog"
+        folder.mkdir(parents=True)
+        (folder / "zqn-dialog.sqlite").touch()
+        self.assert_complete()
 
     def test_without_a_data_folder_it_stands_below_the_home(self):
         del self.environment["XDG_DATA_HOME"]

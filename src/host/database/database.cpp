@@ -2,12 +2,12 @@
 #include "host/database/database.h"
 
 #include <cstdlib>
-#include <iostream>
 
 #include "host/database/database_file.h"
 #include "host/database/database_server.h"
 #include "host/database/failure.h"
-#include "host/database/schema/sample_layouts.h"
+#include "host/database/layout_files.h"
+#include "host/database/messages.h"
 
 namespace zqn::host {
 
@@ -29,8 +29,7 @@ Ref<ado::Connection> openDatabase(const DatabaseAddress& address) {
 
 void tellFindings(ado::Connection& connection, const DatabaseAddress& address) {
   if (!address.isServer()) return;
-  for (const std::string& finding : findingsOnServer(connection, address))
-    std::cerr << "zqn-dialog: " << finding << "\n";
+  for (const std::string& finding : findingsOnServer(connection, address)) tell(finding);
 }
 
 Created createTables(const DatabaseAddress& address, const Content& content) {
@@ -41,13 +40,20 @@ Created createTables(const DatabaseAddress& address, const Content& content) {
 fs::path defaultDatabaseFile() {
   fs::path file = dataFolder() / "zqn-dialog.sqlite";
   std::error_code failure;
-  if (fs::exists(file, failure)) return file;
+  // An older program that was killed at its first start has left a file without a table.
+  if (fs::exists(file, failure) && hasSystemTables(file)) return file;
   fs::create_directories(file.parent_path(), failure);
   if (failure)
     throw CommandFailure(ExitStatus::CannotOpen,
                          "database '" + file.string() + "': its folder cannot be made: " + failure.message());
-  createTablesInFile(file, {.sample = true});
+  // The database last: where it stands, the first start is over.
   writeSampleLayouts(file.parent_path());
+  try {
+    createTablesInFile(file, {.sample = true});
+  } catch (const CommandFailure&) {
+    // Another first start was quicker.
+    if (!fs::exists(file, failure) || !hasSystemTables(file)) throw;
+  }
   return file;
 }
 

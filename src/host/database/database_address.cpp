@@ -16,7 +16,8 @@ DatabaseAddress DatabaseAddress::read(const std::string& url) {
   if (url.starts_with(sqlite) && url.size() > sqlite.size()) return ofFile(url.substr(sqlite.size()));
   DatabaseAddress address;
   if (url.starts_with(odbc)) address.connectionString_ = fromUtf8(url.substr(odbc.size()));
-  if (!ado::odbc::connectionPairs(address.connectionString_).empty()) return address;
+  const bool isText = toUtf8(fromUtf8(url)) == url;
+  if (isText && !ado::odbc::connectionPairs(address.connectionString_).empty()) return address;
   // A text that only forgets how to begin may hold a password.
   throw CommandFailure(ExitStatus::WrongUsage,
                        "--db '" + toUtf8(ado::odbc::withoutPassword(fromUtf8(url))) +

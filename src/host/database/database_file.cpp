@@ -2,11 +2,13 @@
 #include "host/database/database_file.h"
 
 #include <fstream>
+#include <system_error>
 #include <vector>
 
 #include "ado/sqlite/sqlite.h"
 #include "ado/transaction.h"
 #include "host/database/failure.h"
+#include "host/database/new_file.h"
 #include "host/database/rows.h"
 #include "host/database/schema/schema.h"
 #include "runtime/collation.h"
@@ -30,6 +32,13 @@ CommandFailure cannotOpen(const fs::path& file, const RuntimeError& failure) {
   const std::string words = toUtf8(failure.description());
   if (words.find(file.string()) == std::string::npos) return cannotOpen(file, words);
   return CommandFailure(ExitStatus::CannotOpen, words);
+}
+
+/// The failure's words with the file's own name, where they say that of its draft.
+std::string named(const fs::path& file, const fs::path& draft, const RuntimeError& failure) {
+  std::string words = toUtf8(failure.description());
+  const auto place = words.find(draft.string());
+  return place == std::string::npos ? words : words.replace(place, draft.string().size(), file.string());
 }
 
 std::string createHint(const fs::path& file) {
@@ -66,13 +75,9 @@ bool hasWriteAheadLog(const fs::path& file) {
   return header[18] == 2;
 }
 
-/// Tables of the system that the file has. The look leaves file and folder as they are: for reading alone,
-/// SQLite would leave the files of a write-ahead log behind; for writing, the connection would begin one.
-std::vector<String> systemTablesIn(const fs::path& file) {
-  const Mode mode = hasWriteAheadLog(file) ? Mode::Existing : Mode::ReadOnly;
-  const auto connection = ado::openSqlite(file, {.mode = mode, .busyTimeout = patience});
+std::vector<String> systemTablesOn(ado::Connection& connection) {
   std::vector<String> found;
-  const RowSet names = runStatement(*connection, u"SELECT name FROM sqlite_master WHERE type='table'");
+  const RowSet names = runStatement(connection, u"SELECT name FROM sqlite_master WHERE type='table'");
   for (int row = 0; row < names.rows.rows(); ++row) {
     const StringView name = names.rows.at(row, 0).text;
     for (const Table& table : tables())
@@ -81,9 +86,57 @@ std::vector<String> systemTablesIn(const fs::path& file) {
   return found;
 }
 
-void removeDatabase(const fs::path& file) noexcept {
-  std::error_code ignored;
-  for (const char* suffix : {"", "-wal", "-shm", "-journal"}) fs::remove(file.string() + suffix, ignored);
+/// Tables of the system that the file has. The look leaves file and folder as they are: for reading alone,
+/// SQLite would leave the files of a write-ahead log behind; for writing, the connection would begin one.
+std::vector<String> systemTablesIn(const fs::path& file) {
+  const Mode mode = hasWriteAheadLog(file) ? Mode::Existing : Mode::ReadOnly;
+  return systemTablesOn(*ado::openSqlite(file, {.mode = mode, .busyTimeout = patience}));
+}
+
+void requireNoTableOfTheSystem(const fs::path& file, const std::vector<String>& found) {
+  if (found.empty()) return;
+  throw cannotOpen(file, "has " + std::to_string(found.size()) + " tables of the system already, such as " +
+                             toUtf8(found.front()) + "; name another file");
+}
+
+Created makeAndFill(ado::Connection& connection, const Content& content) {
+  const std::int64_t made = makeTables(connection, DatabaseProduct::Sqlite);
+  return {.tables = made, .rows = fillTables(connection, DatabaseProduct::Sqlite, content)};
+}
+
+/// In a file that is there: all or nothing of it is written.
+Created createInExisting(const fs::path& file, const Content& content) {
+  requireDatabaseFile(file);
+  requireNoTableOfTheSystem(file, systemTablesIn(file));
+  const auto connection = ado::openSqlite(file, {.mode = Mode::Existing});
+  ado::Transaction transaction(*connection, u"BEGIN IMMEDIATE");
+  // Somebody else may have made them since the first look.
+  requireNoTableOfTheSystem(file, systemTablesOn(*connection));
+  const Created created = makeAndFill(*connection, content);
+  transaction.commit();
+  return created;
+}
+
+/// In a new file, which nobody sees before it is complete.
+Created createInNew(const fs::path& file, const Content& content) {
+  if (!fs::is_directory(file.parent_path()))
+    throw cannotOpen(file, "its folder does not exist; make the folder first");
+  try {
+    NewFile draft(file);
+    Created created;
+    try {
+      const auto connection = ado::openSqlite(draft.draft(), {.mode = Mode::Existing});
+      ado::Transaction transaction(*connection, u"BEGIN IMMEDIATE");
+      created = makeAndFill(*connection, content);
+      transaction.commit();
+    } catch (const RuntimeError& failure) {
+      throw cannotOpen(file, named(file, draft.draft(), failure));
+    }
+    if (draft.publish()) return created;
+  } catch (const std::system_error& failure) {
+    throw cannotOpen(file, "cannot be made: " + failure.code().message());
+  }
+  throw cannotOpen(file, "has been made by another program meanwhile; name another file");
 }
 
 }  // namespace
@@ -101,25 +154,19 @@ Ref<ado::Connection> openDatabaseFile(const fs::path& file) {
 }
 
 Created createTablesInFile(const fs::path& file, const Content& content) {
-  const bool existed = fs::exists(statusOf(file));
+  if (!fs::exists(statusOf(file))) return createInNew(file, content);
   try {
-    if (existed) {
-      requireDatabaseFile(file);
-      if (const auto found = systemTablesIn(file); !found.empty())
-        throw cannotOpen(file, "has " + std::to_string(found.size()) +
-                                   " tables of the system already, such as " + toUtf8(found.front()) +
-                                   "; name another file");
-    } else if (!fs::is_directory(file.parent_path())) {
-      throw cannotOpen(file, "its folder does not exist; make the folder first");
-    }
-    const auto connection = ado::openSqlite(file);
-    ado::Transaction transaction(*connection, u"BEGIN IMMEDIATE");
-    const std::int64_t made = makeTables(*connection, DatabaseProduct::Sqlite);
-    const std::int64_t rows = fillTables(*connection, DatabaseProduct::Sqlite, content);
-    transaction.commit();
-    return {.tables = made, .rows = rows};
+    return createInExisting(file, content);
   } catch (const RuntimeError& failure) {
-    if (!existed) removeDatabase(file);
+    throw cannotOpen(file, failure);
+  }
+}
+
+bool hasSystemTables(const fs::path& file) {
+  requireDatabaseFile(file);
+  try {
+    return !systemTablesIn(file).empty();
+  } catch (const RuntimeError& failure) {
     throw cannotOpen(file, failure);
   }
 }

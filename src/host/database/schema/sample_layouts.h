@@ -3,7 +3,6 @@
 // The layout files of the sample, as they lie in examples/application.
 #pragma once
 
-#include <filesystem>
 #include <span>
 #include <string_view>
 
@@ -15,9 +14,5 @@ struct SampleLayout {
 
 /// All of them; the build writes this table.
 std::span<const SampleLayout> sampleLayouts() noexcept;
-
-/// Writes them into a folder that exists. A file that is there already stays as it is, and one that cannot be
-/// written is left out: the dialogs do without.
-void writeSampleLayouts(const std::filesystem::path& folder);
 
 }  // namespace zqn::host

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/database/schema/sample_layouts.h"
+#include "host/database/layout_files.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -38,6 +38,12 @@ TEST_F(SampleLayouts, LeaveAFileThatIsThereAlone) {
   std::ofstream(folder / "Default.omr") << "[Common]\nDescription=eigene\n";
   writeSampleLayouts(folder);
   EXPECT_EQ(LayoutFolder(folder.u16string()).profile(u"default", u"Description", u"-"), u"eigene");
+}
+
+TEST_F(SampleLayouts, LeaveNothingElseInTheFolder) {
+  writeSampleLayouts(folder);
+  for (const auto& file : std::filesystem::directory_iterator(folder))
+    EXPECT_EQ(file.path().string().find(".zqn-draft-"), std::string::npos) << file.path();
 }
 
 TEST_F(SampleLayouts, ThatCannotBeWrittenAreLeftOut) {

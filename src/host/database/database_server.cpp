@@ -8,6 +8,7 @@
 #include "ado/odbc/odbc.h"
 #include "ado/transaction.h"
 #include "host/database/failure.h"
+#include "host/database/rows.h"
 #include "host/database/server_schema.h"
 #include "runtime/collation.h"
 
@@ -99,24 +100,6 @@ std::string dropTables(ado::Connection& connection, const std::vector<StringView
   return left;
 }
 
-Created createOneByOne(ado::Connection& connection, DatabaseProduct product, const Content& content) {
-  std::vector<StringView> made;
-  try {
-    makeTables(connection, product, [&](const Table& table) { made.push_back(table.name); });
-    ado::Transaction transaction(connection, u"BEGIN");
-    const std::int64_t rows = fillTables(connection, product, content);
-    transaction.commit();
-    return {.tables = static_cast<std::int64_t>(made.size()), .rows = rows};
-  } catch (const RuntimeError& failure) {
-    const std::string left = dropTables(connection, made);
-    if (left.empty()) throw;
-    throw RuntimeError(
-        failure.number(),
-        failure.description() + fromUtf8("; these tables were made and could not be dropped: " + left),
-        failure.source());
-  }
-}
-
 void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerSchema& schema) {
   const std::vector<StringView> found = systemTablesIn(schema);
   if (found.empty()) return;
@@ -125,12 +108,64 @@ void requireNoTableOfTheSystem(const DatabaseAddress& address, const ServerSchem
                                 "; name another database");
 }
 
+/// One `init` at a time: the lock is the session's and ends with it.
+void lockForInit(ado::Connection& connection, const DatabaseAddress& address) {
+  const RowSet answer =
+      runStatement(connection, u"SELECT GET_LOCK(CONCAT('zqn_init.', SHA1(DATABASE())), 0)");
+  if (answer.rows.at(0, 0).integer != 1)
+    throw cannotOpen(address, "another 'zqn-dialog init' is making its tables; wait until it has ended");
+}
+
+/// For a server on which CREATE TABLE ends every transaction. The marker says as long as it stands that the
+/// tables of the system beside it are an init's that has not come to its end: the next one removes them.
+Created createOneByOne(ado::Connection& connection, const DatabaseAddress& address, DatabaseProduct product,
+                       const Content& content) {
+  lockForInit(connection, address);
+  const ServerSchema schema = schemaOf(connection, product, address);
+  const String marker(InitMarker);
+  std::vector<StringView> made;
+  if (schema.unfinished) {
+    made = systemTablesIn(schema);
+  } else {
+    requireNoTableOfTheSystem(address, schema);
+    connection.Execute(u"CREATE TABLE " + marker + u" (Beginn INT)");
+  }
+  try {
+    if (!dropTables(connection, made).empty())
+      throw RuntimeError(error::ProviderFailure, u"what an earlier init has left cannot be dropped");
+    made.clear();
+    makeTables(connection, product, [&](const Table& table) { made.push_back(table.name); });
+    ado::Transaction transaction(connection);
+    const std::int64_t rows = fillTables(connection, product, content);
+    transaction.commit();
+    connection.Execute(u"DROP TABLE " + marker);
+    return {.tables = static_cast<std::int64_t>(made.size()), .rows = rows};
+  } catch (const RuntimeError& failure) {
+    std::string left = dropTables(connection, made);
+    // While one of them stands, the marker does, too.
+    if (left.empty()) left = dropTables(connection, {InitMarker});
+    if (left.empty()) throw;
+    throw RuntimeError(
+        failure.number(),
+        failure.description() + fromUtf8("; these tables were made and could not be dropped: " + left +
+                                         "; the next init removes them"),
+        failure.source());
+  }
+}
+
 }  // namespace
 
 Ref<ado::Connection> openDatabaseOnServer(const DatabaseAddress& address) {
   Ref<ado::Connection> connection = connect(address);
   const auto product = productNamed(connection->provider().name());
-  if (!product || !systemTablesIn(schemaOf(*connection, *product, address)).empty()) return connection;
+  if (!product) return connection;
+  const ServerSchema schema = schemaOf(*connection, *product, address);
+  if (schema.unfinished)
+    throw cannotOpen(address,
+                     "is unfinished: an init was ended while it made the tables; run it again: zqn-dialog "
+                     "init --db '" +
+                         address.shownUrl() + "' --sample");
+  if (!systemTablesIn(schema).empty()) return connection;
   throw cannotOpen(address, "has no table of the system; make them with: zqn-dialog init --db '" +
                                 address.shownUrl() + "' --sample");
 }
@@ -147,11 +182,11 @@ Created createTablesOnServer(const DatabaseAddress& address, const Content& cont
   if (!product)
     throw cannotOpen(address, "is a database of the product '" + toUtf8(name) +
                                   "'; tables can be made in PostgreSQL, MariaDB and Microsoft SQL Server");
-  requireNoTableOfTheSystem(address, schemaOf(*connection, *product, address));
   try {
     const auto begin = beginAroundTables(*product);
-    return begin ? createInTransaction(*connection, *product, *begin, content)
-                 : createOneByOne(*connection, *product, content);
+    if (!begin) return createOneByOne(*connection, address, *product, content);
+    requireNoTableOfTheSystem(address, schemaOf(*connection, *product, address));
+    return createInTransaction(*connection, *product, *begin, content);
   } catch (const RuntimeError& failure) {
     throw cannotOpen(address, oneLine(failure.description()));
   }

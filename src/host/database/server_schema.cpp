@@ -14,8 +14,8 @@ namespace zqn::host {
 
 namespace {
 
-// Table, column, type, the character set where it is too small, and whether case counts. Views count as
-// tables.
+// Table, column, type, the character set where it is too small, whether case counts, and whether the user may
+// not read it. Views count as tables.
 struct Questions {
   StringView columns;
   /// One value: the encoding of the database, empty where it holds every text.
@@ -28,7 +28,8 @@ const Questions& questions(DatabaseProduct product) {
   static constexpr Questions postgreSql{
       .columns =
           u"SELECT c.relname, a.attname, format_type(a.atttypid, NULL), '', "
-          u"CASE WHEN k.collisdeterministic AND format_type(a.atttypid, NULL) <> 'citext' THEN 1 ELSE 0 END "
+          u"CASE WHEN k.collisdeterministic AND format_type(a.atttypid, NULL) <> 'citext' THEN 1 ELSE 0 END, "
+          u"CASE WHEN has_column_privilege(c.oid, a.attnum, 'SELECT') THEN 0 ELSE 1 END "
           u"FROM pg_catalog.pg_class c "
           u"JOIN pg_catalog.pg_attribute a ON a.attrelid = c.oid "
           u"JOIN pg_catalog.pg_namespace n ON n.oid = c.relnamespace "
@@ -41,7 +42,8 @@ const Questions& questions(DatabaseProduct product) {
       .columns =
           u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN CHARACTER_SET_NAME IN ('utf8mb4', "
           u"'utf16', 'utf16le', 'utf32') THEN '' ELSE COALESCE(CHARACTER_SET_NAME, '') END, "
-          u"CASE WHEN RIGHT(COLLATION_NAME, 3) <> '_ci' THEN 1 ELSE 0 END "
+          u"CASE WHEN RIGHT(COLLATION_NAME, 3) <> '_ci' THEN 1 ELSE 0 END, "
+          u"CASE WHEN FIND_IN_SET('select', PRIVILEGES) > 0 THEN 0 ELSE 1 END "
           u"FROM information_schema.COLUMNS WHERE TABLE_SCHEMA = DATABASE()",
       .database = u"SELECT DATABASE()",
   };
@@ -49,7 +51,9 @@ const Questions& questions(DatabaseProduct product) {
       .columns =
           u"SELECT TABLE_NAME, COLUMN_NAME, DATA_TYPE, CASE WHEN DATA_TYPE IN ('char', 'varchar', 'text') "
           u"AND RIGHT(COLLATION_NAME, 5) <> '_UTF8' THEN COLLATION_NAME ELSE '' END, "
-          u"CASE WHEN CHARINDEX('_CI_', COLLATION_NAME) = 0 THEN 1 ELSE 0 END "
+          u"CASE WHEN CHARINDEX('_CI_', COLLATION_NAME) = 0 THEN 1 ELSE 0 END, "
+          u"CASE WHEN HAS_PERMS_BY_NAME(QUOTENAME(TABLE_SCHEMA) + '.' + QUOTENAME(TABLE_NAME), 'OBJECT', "
+          u"'SELECT') = 1 THEN 0 ELSE 1 END "
           u"FROM INFORMATION_SCHEMA.COLUMNS WHERE TABLE_SCHEMA IN (SCHEMA_NAME(), 'dbo')",
   };
   if (product == DatabaseProduct::MariaDb) return mariaDb;
@@ -126,7 +130,7 @@ void addName(std::string& list, StringView name) { list += (list.empty() ? "" : 
 void addColumnFindings(const Table& table, const std::map<String, const ServerColumn*>& found,
                        DatabaseProduct product, std::vector<std::string>& findings) {
   std::map<String, std::string> narrow;
-  std::string caseCounts;
+  std::string caseCounts, unreadable;
   for (const Column& column : table.columns) {
     const std::string place = "column " + toUtf8(column.name) + " of table " + toUtf8(table.name);
     const auto there = found.find(ascii::lower(column.name));
@@ -141,10 +145,14 @@ void addColumnFindings(const Table& table, const std::map<String, const ServerCo
                          toUtf8(columnType(column, product)) + " would be right");
       continue;
     }
+    if (present.unreadable) addName(unreadable, column.name);
     if (!present.narrow.empty()) addName(narrow[present.narrow], column.name);
     if (present.caseCounts && std::ranges::count(table.primaryKey, column.name) > 0)
       addName(caseCounts, column.name);
   }
+  if (!unreadable.empty())
+    findings.push_back("table " + toUtf8(table.name) + " may not be read by this user (" + unreadable +
+                       "); the right SELECT on it would be right");
   if (!caseCounts.empty())
     findings.push_back("table " + toUtf8(table.name) + " tells capital from small letters in its key (" +
                        caseCounts + "); " + rightCollation(product) + " would be right");
@@ -170,7 +178,10 @@ ServerSchema readServerSchema(ado::Connection& connection, DatabaseProduct produ
   const ado::RowStore rows = runStatement(connection, ask.columns).rows;
   for (int row = 0; row < rows.rows(); ++row)
     schema.columns.push_back({textOf(rows.at(row, 0)), textOf(rows.at(row, 1)), textOf(rows.at(row, 2)),
-                              textOf(rows.at(row, 3)), rows.at(row, 4).integer != 0});
+                              textOf(rows.at(row, 3)), rows.at(row, 4).integer != 0,
+                              rows.at(row, 5).integer != 0});
+  schema.unfinished = std::ranges::any_of(
+      schema.columns, [](const ServerColumn& column) { return ascii::same(column.table, InitMarker); });
   if (const Variant encoding = answer(connection, ask.narrow); !encoding.isNull())
     schema.narrow = CStr(encoding);
   return schema;

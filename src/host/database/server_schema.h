@@ -23,6 +23,8 @@ struct ServerColumn {
   String narrow = {};
   /// A text column in which "ab" is not "AB".
   bool caseCounts = false;
+  /// The user has no right to read it.
+  bool unreadable = false;
 };
 
 struct ServerSchema {
@@ -33,7 +35,12 @@ struct ServerSchema {
   std::vector<ServerColumn> columns;
   /// The encoding of the whole database, when that cannot hold every text; else empty.
   String narrow = {};
+  /// `init` was ended while it made the tables: InitMarker stands there.
+  bool unfinished = false;
 };
+
+/// The table that stands in a database while `init` makes the others, where it cannot do so in a transaction.
+inline constexpr StringView InitMarker = u"zqn_init";
 
 /// The product that a driver names so; none for one that is not served.
 std::optional<DatabaseProduct> productNamed(StringView product);

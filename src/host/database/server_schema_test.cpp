@@ -101,6 +101,16 @@ TEST_P(AServer, MayHaveOtherTablesAndColumns) {
   EXPECT_THAT(findings(schema), IsEmpty());
 }
 
+TEST_P(AServer, MayKeepTheUserFromReading) {
+  ServerSchema schema = complete(GetParam());
+  columnOf(schema, u"Keywords", u"Keyword").unreadable = true;
+  columnOf(schema, u"Keywords", u"Section").unreadable = true;
+  EXPECT_THAT(
+      findings(schema),
+      ElementsAre("table Keywords may not be read by this user (Keyword, Section); the right SELECT on it "
+                  "would be right"));
+}
+
 TEST_P(AServer, HasAColumnOfAnotherType) {
   ServerSchema schema = complete(GetParam());
   columnOf(schema, u"Vertriebsstati", u"Gewichtung").type = u"date";

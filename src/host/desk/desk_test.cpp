@@ -356,6 +356,29 @@ TEST_F(DeskWindowTest, LivesOnWhenTheSettingsCannotBeRead) {
   EXPECT_TRUE(told.startsWith("Die Einstellungen lassen sich nicht lesen.")) << told.toStdString();
 }
 
+TEST_F(DeskWindowTest, SaysThatTheRightsCannotBeRead) {
+  const auto rights = [](DeskWindow& desk) {
+    for (const QLabel* label : desk.findChildren<QLabel*>())
+      if (label->text() == "Rechte nicht lesbar: ändern dürfen nur Administratoren") return label;
+    throw std::logic_error("no such label");
+  };
+  headless::HeadlessDesktop desktop;
+  const Desktop::Scope scope(desktop);
+  DeskWindow desk(options());
+  named<QLineEdit>(desk, "Dialog suchen").setText("stati");
+  const auto openDialog = [&] { QTest::keyClick(&named<QLineEdit>(desk, "Dialog suchen"), Qt::Key_Return); };
+  const auto database = openDatabase(DatabaseAddress::ofFile(file()));
+  openDialog();
+  EXPECT_TRUE(rights(desk)->isHidden());
+  database->Execute(u"ALTER TABLE Einstellungen RENAME COLUMN Benutzer TO Niemand");
+  openDialog();
+  EXPECT_FALSE(rights(desk)->isHidden());
+  EXPECT_TRUE(rights(desk)->toolTip().contains("Benutzer")) << rights(desk)->toolTip().toStdString();
+  database->Execute(u"ALTER TABLE Einstellungen RENAME COLUMN Niemand TO Benutzer");
+  openDialog();
+  EXPECT_TRUE(rights(desk)->isHidden());
+}
+
 TEST_F(DeskWindowTest, ShowsTheSettingsAndWritesOnlyWhatWasChanged) {
   Host host(options());
   SettingsStore& store = host.session().settings();

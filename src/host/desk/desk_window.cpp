@@ -20,6 +20,7 @@
 #include "forms/desktop.h"
 #include "frontend/kinds.h"
 #include "host/database/database.h"
+#include "host/database/failure.h"
 #include "host/desk/call_lines.h"
 #include "host/desk/dialog_titles.h"
 #include "host/desk/images_window.h"
@@ -74,6 +75,7 @@ DeskWindow::DeskWindow(const HostOptions& options)
       list_(new DialogList),
       log_(new CallLog),
       databaseLabel_(new QLabel),
+      rightsLabel_(new QLabel("Rechte nicht lesbar: ändern dürfen nur Administratoren")),
       userLabel_(new QLabel) {
   auto* right = new QSplitter(Qt::Vertical);
   auto* lower = new QTabWidget;
@@ -93,6 +95,7 @@ DeskWindow::DeskWindow(const HostOptions& options)
   // A connection string may be wider than the window; the tool tip has it whole.
   databaseLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   statusBar()->addWidget(databaseLabel_, 1);
+  statusBar()->addPermanentWidget(rightsLabel_);
   statusBar()->addPermanentWidget(userLabel_);
   makeActions();
 
@@ -251,6 +254,7 @@ void DeskWindow::open(const DialogTitle& title) {
   showing_ = true;
   call.returned(callShow(dialog, title.kind, given, title.generic || generic_->isChecked()));
   showing_ = false;
+  showRights();
   activateWindow();
 }
 
@@ -337,6 +341,13 @@ void DeskWindow::showSession() {
   databaseLabel_->setText("Datenbank: " + database);
   databaseLabel_->setToolTip(database);
   userLabel_->setText("Benutzer: " + toQt(host_->session().user()) + (admin ? " (Administrator)" : ""));
+  showRights();
+}
+
+void DeskWindow::showRights() {
+  const String& failure = host_->session().rightsFailure();
+  rightsLabel_->setVisible(!failure.empty());
+  rightsLabel_->setToolTip(toQt(failure));
 }
 
 void DeskWindow::closeEvent(QCloseEvent* event) {

@@ -52,6 +52,8 @@ class DeskWindow : public QMainWindow {
   void changeUser();
   void changeSettings();
   void showSession();
+  /// Says so while the settings that decide about rights cannot be read.
+  void showRights();
 
   HostOptions options_;
   std::unique_ptr<Host> host_;
@@ -66,7 +68,7 @@ class DeskWindow : public QMainWindow {
   QPlainTextEdit *cppLines_, *shellLine_;
   QCheckBox *multiselect_, *generic_;
   QPushButton* openButton_;
-  QLabel *databaseLabel_, *userLabel_;
+  QLabel *databaseLabel_, *rightsLabel_, *userLabel_;
   QAction* adminAction_;
 };
 

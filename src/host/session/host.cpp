@@ -4,6 +4,7 @@
 #include "contract/object_factory.h"
 #include "contract/ws_profile.h"
 #include "host/database/database.h"
+#include "host/database/messages.h"
 
 namespace zqn::host {
 
@@ -29,6 +30,10 @@ Host::Host(const HostOptions& options)
       handsSessionOver_(options.session),
       multiselect_(options.multiselect) {
   tellFindings(*connection_, address_);
+  session_->rightsUnreadable = [](const String& words) {
+    tell("the settings that decide about rights cannot be read (" + toUtf8(words) +
+         "); only administrators may change anything");
+  };
   for (const SettingForRun& setting : options.settings) {
     const String user = setting.ofUser ? session_->user() : String();
     session_->settings().setForRun({setting.section, setting.key, user}, setting.value);

@@ -12,6 +12,7 @@ namespace zqn::host {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::Pair;
 
 Ref<ado::Connection> emptyDatabase() { return ado::openSqlite(":memory:"); }
@@ -126,6 +127,33 @@ TEST_F(Settings, CanBeTakenAway) {
   save(u"Layout", u"Anna", zqnSaveAsUserSetting);
   session.settings().erase({u"Belegdruck", u"Layout", u"anna"});
   EXPECT_EQ(read(u"Layout", zqnGetUserSettingsOnly), u"Vorgabe");
+}
+
+TEST_F(Settings, OfRightsThatCannotBeReadLeaveEverythingToAdministrators) {
+  std::vector<std::string> told;
+  session.rightsUnreadable = [&](const String& words) { told.push_back(toUtf8(words)); };
+  const auto adminsOnly = [&] {
+    return session.GetSetting(u"ZQNComDlg", u"AdminsOnly", u"0", zqnGetGlobalSettingsOnly);
+  };
+  const auto everybodysKinds = [&] {
+    return session.GetSetting(u"ZQNComDlg", u"AllowVPSave", u"7;", zqnGetUserSettingsFirst);
+  };
+  connection->Execute(u"ALTER TABLE Einstellungen RENAME COLUMN Wert TO Inhalt");
+  EXPECT_EQ(adminsOnly(), u"1");
+  EXPECT_EQ(everybodysKinds(), u"");
+  EXPECT_EQ(adminsOnly(), u"1");
+  EXPECT_THAT(told, ElementsAre(HasSubstr("Wert")));
+  EXPECT_NE(session.rightsFailure(), u"");
+  EXPECT_THROW(read(u"Layout", zqnGetUserSettingsOnly), RuntimeError);
+  EXPECT_THROW(session.GetSetting(u"ZQNComDlg", u"AdminsOnly", u"0", 7), RuntimeError);
+
+  session.settings().setForRun({u"ZQNComDlg", u"AdminsOnly", u""}, u"0");
+  EXPECT_EQ(adminsOnly(), u"0");
+
+  connection->Execute(u"ALTER TABLE Einstellungen RENAME COLUMN Inhalt TO Wert");
+  EXPECT_EQ(everybodysKinds(), u"7;");
+  EXPECT_EQ(adminsOnly(), u"0");
+  EXPECT_EQ(session.rightsFailure(), u"");
 }
 
 TEST(SettingsOfADatabaseWithoutTheirTable, AreNotThereAndCannotBeSaved) {

@@ -9,6 +9,7 @@ import json
 import os
 import re
 import socket
+import subprocess
 import sys
 import unittest
 from pathlib import Path
@@ -16,7 +17,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
 
 import database_servers
-from command import CommandTest, CANNOT_OPEN, DONE
+from command import COMMAND, CommandTest, CANNOT_OPEN, DONE
 
 SERVER = os.environ["ZQN_ODBC_SERVER"]
 STATE = os.environ["ZQN_ODBC_STATE"]
@@ -151,6 +152,34 @@ class Init(ServerTest):
         self.make_user(f"GRANT SELECT, INSERT, CREATE ON {self.database}.* TO 'guest'@'127.0.0.1';")
         self.assert_refused(CANNOT_OPEN, ["INDEX", "could not be dropped: Staffelpreise, ", "Zahlungsarten"],
                             "init", "--db", self.url_with(UID="guest", PWD="guest"), "--sample")
+
+    @mariadb
+    def test_an_init_that_was_killed_can_be_run_again(self):
+        for made in (0, 5, 36):
+            start = subprocess.Popen([COMMAND, "init", "--db", self.url, "--rows", "50000"], stdout=subprocess.DEVNULL,
+                                     stderr=subprocess.DEVNULL, cwd=self.folder, env=self.environment)
+            while start.poll() is None and len(self.tables()) < 1 + made:
+                pass
+            start.kill()
+            start.communicate(timeout=60)
+            self.assertIn("zqn_init", self.tables(), "it came to its end before it was killed")
+            for command in (("sql",), ("show", "21", "--ui", "headless", "--script", "-")):
+                self.assert_refused(CANNOT_OPEN, ["unfinished", "zqn-dialog init --db 'odbc:", "PWD=***"], *command,
+                                    "--db", self.url)
+        self.init_sample()
+        self.assertEqual(len(self.tables()), 37)
+        self.assertGreater(self.rows(self.url, "SELECT COUNT(*) FROM Angebotskopf")[0][0], 0)
+
+    @mariadb
+    def test_two_at_once_do_not_take_each_other_for_killed(self):
+        start = subprocess.Popen([COMMAND, "init", "--db", self.url, "--rows", "20000"], stdout=subprocess.PIPE,
+                                 stderr=subprocess.PIPE, text=True, cwd=self.folder, env=self.environment)
+        while start.poll() is None and "zqn_init" not in self.tables():
+            pass
+        self.assert_refused(CANNOT_OPEN, ["another", "init"], "init", "--db", self.url, "--sample")
+        output, told = start.communicate(timeout=120)
+        self.assertEqual((start.returncode, told), (DONE, ""))
+        self.assertEqual(len(self.tables()), 37)
 
     def make_user(self, grants):
         self.addCleanup(self.admin, "DROP USER 'guest'@'127.0.0.1';")
@@ -327,6 +356,28 @@ class Unexpected(ServerTest):
 
     def assert_told(self, *findings, kind="21"):
         self.assertEqual(self.told(kind), ["zqn-dialog: " + finding for finding in findings])
+
+    def test_a_user_who_may_not_read(self):
+        if SERVER == "postgresql":
+            self.admin("CREATE ROLE stranger LOGIN PASSWORD 'stranger';")
+            self.addCleanup(self.admin, "DROP ROLE stranger;", "postgres")
+        else:
+            self.admin(f"CREATE USER 'stranger'@'127.0.0.1' IDENTIFIED BY 'stranger';"
+                       f"GRANT INSERT ON {self.database}.* TO 'stranger'@'127.0.0.1';")
+            self.addCleanup(self.admin, "DROP USER 'stranger'@'127.0.0.1';")
+        self.url = self.url_with(UID="stranger", PWD="stranger")
+        told = self.told()
+        tables = [line for line in told if "may not be read by this user" in line]
+        self.assertEqual(len(tables), 37, told)
+        self.assertIn("zqn-dialog: table Vertriebsstati may not be read by this user (Status, Bezeichnung, ", "\n".join(told))
+        rights = [line for line in told if "rights" in line]
+        self.assertEqual(len(rights), 1, told)
+        self.assertEqual(len(told), 38, told)
+
+    def test_settings_without_their_value_leave_everything_to_administrators(self):
+        self.statements("ALTER TABLE Einstellungen DROP COLUMN Wert")
+        told = self.told()
+        self.assertEqual(len([line for line in told if "only administrators" in line]), 1, told)
 
     def test_a_table_is_missing(self):
         self.statements("DROP TABLE Keywords")

@@ -38,6 +38,14 @@ class Key(CommandTest):
         self.assertEqual(lines[0]["shown"], "frmVertriebsstati")
         self.assertEqual(lines[-1]["result"]["return"], "00")
 
+    def test_with_multiselect_each_pick_is_printed_as_it_comes(self):
+        url = self.sample()
+        script = PICK + '{"dblclick":"TDBList1","row":1}\n{"sql":"SELECT 1"}\n'
+        show = ["show", "21", "10", "--multiselect", "--db", url, "--ui", "headless"]
+        result = self.run_command(*show, "--script", "-", "--transcript", "t.jsonl", stdin=script)
+        self.assertEqual((result.returncode, result.stdout.split()), (DONE, ["00", "05"]), result.stderr)
+        self.assertEqual(self.run_command(*show).stdout, "")
+
     def test_without_a_script_a_transcript_tells_what_happened(self):
         url = self.sample()
         result = self.run_command("show", "21", "10", "--db", url, "--ui", "headless", "--transcript", "t.jsonl")
@@ -54,7 +62,10 @@ class Key(CommandTest):
 
     def test_a_script_that_cannot_go_on(self):
         url = self.sample()
-        for script in ("{", '{"click":"btnNirgends"}', '{"jump":1}'):
+        deep = "[" * 60_000 + "]" * 60_000
+        for script in ("{", '{"click":"btnNirgends"}', '{"jump":1}', '{"click":"btnOK","click":"btnNew"}',
+                       '{"fail":{"operation":"Open","number":1,"number":2}}', '{"get":%s}' % deep,
+                       '{"select":"TDBList1","row":99,"rows":%s}' % deep):
             status, lines = self.show("21", "10", "--db", url, script=script + "\n")
             self.assertEqual(status, SCRIPT_ERROR)
             self.assertIn("scriptError", lines[-1])
@@ -166,6 +177,35 @@ class Rights(CommandTest):
         status, lines = self.show("21", "--db", self.url, "--set", "Probe/Satz=a=b/c 'd' [ä]",
                                   script='{"settings":"Probe"}\n')
         self.assertEqual(lines[1], {"settings": {"Satz": "a=b/c 'd' [ä]"}})
+
+
+class UnreadableRights(CommandTest):
+    """Settings that decide about rights cannot be read: only administrators may change anything, and it is said."""
+
+    def setUp(self):
+        super().setUp()
+        self.url = self.sample("a.sqlite")
+
+    def assert_for_administrators_alone(self, *options):
+        for admin in (False, True):
+            result = self.run_command("show", "21", "10", "--db", self.url, "--ui", "headless", "--script", "-", *options,
+                                      *(["--admin"] if admin else []))
+            self.assertEqual(result.returncode, DONE, result.stderr)
+            self.assertEqual(json.loads(result.stdout.splitlines()[-1])["result"]["allowChanges"], admin)
+            self.assertEqual(result.stderr.count("rights"), 1, result.stderr)
+
+    def test_a_column_that_was_renamed(self):
+        self.rows(self.url, "ALTER TABLE Einstellungen RENAME COLUMN Wert TO Inhalt")
+        self.assert_for_administrators_alone()
+
+    def test_settings_for_the_run_are_known_all_the_same(self):
+        self.rows(self.url, "ALTER TABLE Einstellungen RENAME COLUMN Wert TO Inhalt")
+        status, lines = self.show("21", "10", "--db", self.url, "--set", "ZQNComDlg/AdminsOnly=0")
+        self.assertTrue(lines[-1]["result"]["allowChanges"])
+
+    def test_without_their_table_there_are_no_settings(self):
+        self.rows(self.url, "DROP TABLE Einstellungen")
+        self.assertTrue(self.show("21", "10", "--db", self.url)[1][-1]["result"]["allowChanges"])
 
 
 class BothDesktops(CommandTest):

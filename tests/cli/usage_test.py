@@ -2,9 +2,10 @@
 """The command line as such: what is wrong usage, and that nothing happens then."""
 
 import json
+import subprocess
 import unittest
 
-from command import CommandTest, CANNOT_OPEN, WRONG_USAGE
+from command import COMMAND, CommandTest, CANNOT_OPEN, WRONG_USAGE
 
 
 class WrongUsage(CommandTest):
@@ -12,6 +13,19 @@ class WrongUsage(CommandTest):
         self.assert_refused(WRONG_USAGE, ["bogus"], "bogus")
         self.assert_refused(WRONG_USAGE, ["--bogus"], "kinds", "--bogus")
         self.assert_refused(WRONG_USAGE, ["KIND"], "show")
+
+    def test_a_misspelt_word_gets_a_suggestion(self):
+        for meant, arguments in (("show", ("shwo", "21")), ("init", ("iint", "--db", "sqlite:a.sqlite")),
+                                 ("--json", ("kinds", "--jsno")), ("--script", ("show", "21", "--scrip", "-")),
+                                 ("--sample", ("init", "--db", "sqlite:a.sqlite", "--samples")),
+                                 ("--admin", ("--admni",))):
+            self.assert_refused(WRONG_USAGE, [f"did you mean '{meant}'?"], *arguments)
+        self.assertNotIn("did you mean", self.run_command("bogus").stderr)
+
+    def test_the_hint_names_the_help_of_the_command(self):
+        self.assert_refused(WRONG_USAGE, ["see 'zqn-dialog --help'"], "bogus")
+        for command in ("kinds", "init", "sql", "show"):
+            self.assert_refused(WRONG_USAGE, [f"see 'zqn-dialog {command} --help'"], command, "--bogus")
 
     def test_a_kind_is_a_whole_number_of_32_bits(self):
         for kind in ("abc", "", "21x", "2.5", "2147483648", "-2147483649", "99999999999999999999"):
@@ -22,6 +36,29 @@ class WrongUsage(CommandTest):
             self.assert_refused(WRONG_USAGE, ["--params", "array"], "show", "21", "--params", text)
         for text in ("[[1]]", '["10", {}]'):
             self.assert_refused(WRONG_USAGE, ["--params"], "show", "21", "--params", text)
+
+    def test_params_may_be_nested_however_deep(self):
+        for text in ("[" * 60_000, "[" * 60_000 + "]" * 60_000, '[{"a":' * 20_000):
+            self.assert_refused(WRONG_USAGE, ["--params", "array"], "show", "21", "--params", text)
+
+    def test_texts_are_in_utf_8(self):
+        for arguments in ((b"M\xfcller",), (b"\xc3",), (b"10", b"--user", b"M\xfcller"),
+                          (b"10", b"--set", b"Probe/Satz=\xe4"), (b"10", b"--set-user", b"Pr\xe4/Satz=a"),
+                          (b"10", b"--db", b"odbc:DSN=\xe4")):
+            result = subprocess.run([COMMAND, "show", "21", *arguments], capture_output=True, cwd=self.folder,
+                                    env=self.environment, timeout=60)
+            self.assertEqual((result.returncode, result.stdout), (WRONG_USAGE, b""), arguments)
+            self.assertTrue(result.stderr.startswith(b"zqn-dialog: "), result.stderr)
+            result.stderr.decode("utf-8")
+
+    def test_control_characters_are_shown_and_not_obeyed(self):
+        for arguments in (("show", "21\x1b[2J\n"), ("bogus\x1b[2J\n",), ("show", "21", "--today", "\x1b[2J\n"),
+                          ("sql", "--db", "sqlite:a\x1b[2J\n"), ("show", "21", "--ui", "\x1b[2J\n")):
+            result = self.run_command(*arguments)
+            self.assertNotEqual(result.returncode, 0)
+            self.assertIn(r"\x1b[2J\n", result.stderr)
+            self.assertNotIn("\x1b", result.stderr)
+            self.assertEqual(result.stderr.count("\n"), 1, result.stderr)
 
     def test_a_number_that_no_double_holds_is_no_param(self):
         self.assert_refused(WRONG_USAGE, ["--params", "number"], "show", "21", "--params", "[1e999]")
@@ -54,6 +91,20 @@ class WrongUsage(CommandTest):
         url = self.sample()
         self.assert_refused(WRONG_USAGE, ["--transcript", "no/where.jsonl"], "show", "21", "--db", url, "--ui",
                             "headless", "--script", "-", "--transcript", "no/where.jsonl")
+
+    def test_the_transcript_is_neither_the_database_nor_the_script(self):
+        url = self.sample("a.sqlite")
+        (self.folder / "s.jsonl").write_text('{"get":[]}\n')
+        (self.folder / "link").symlink_to("a.sqlite")
+        show = ("show", "21", "--db", url, "--ui", "headless", "--script")
+        for transcript in ("a.sqlite", "./a.sqlite", "link", "s.jsonl"):
+            self.assert_refused(WRONG_USAGE, ["--transcript", transcript, "another file"], *show, "s.jsonl",
+                                "--transcript", transcript)
+        with open(self.folder / "s.jsonl") as script:
+            result = subprocess.run([COMMAND, *show, "-", "--transcript", "s.jsonl"], stdin=script, capture_output=True,
+                                    text=True, cwd=self.folder, env=self.environment, timeout=60)
+        self.assertEqual(result.returncode, WRONG_USAGE)
+        self.assertEqual((self.folder / "s.jsonl").read_text(), '{"get":[]}\n')
 
     def test_options_stand_behind_the_command(self):
         self.assert_refused(WRONG_USAGE, ["--db", "behind"], "--db", "sqlite:a.sqlite", "kinds")

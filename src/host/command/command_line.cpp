@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "host/command/suggestion.h"
 #include "host/database/failure.h"
 #include "host/script/json_values.h"
 #include "runtime/convert.h"
@@ -45,17 +46,14 @@ std::int32_t readKind(const std::string& text) {
 }
 
 VariantArray readParams(const std::string& text) {
+  constexpr const char* example = "; write an array such as '[\"10\", 5, true, null]'";
   Json array;
   try {
-    array = Json::parse(text);
-  } catch (const Json::parse_error& failure) {
-    throw wrongUsage("--params is no JSON (byte " + std::to_string(failure.byte) +
-                     "); write an array such as '[\"10\", 5, true, null]'");
-  } catch (const Json::out_of_range&) {
-    throw wrongUsage("--params has a number beyond 1.8e308; write a smaller one, or a text");
+    array = script::readJson(text);
+  } catch (const script::JsonError& wrong) {
+    throw wrongUsage("--params " + std::string(wrong.what()) + example);
   }
-  if (!array.is_array())
-    throw wrongUsage("--params is no JSON array; write an array such as '[\"10\", 5, true, null]'");
+  if (!array.is_array()) throw wrongUsage(std::string("--params is no JSON array") + example);
   std::vector<Variant> elements;
   for (const Json& element : array) {
     if (element.is_structured())
@@ -65,11 +63,18 @@ VariantArray readParams(const std::string& text) {
   return VariantArray(std::move(elements));
 }
 
+/// A text as the dialogs take it. `what` names the argument.
+String readText(const std::string& what, const std::string& text) {
+  String read = fromUtf8(text);
+  if (toUtf8(read) != text) throw wrongUsage(what + " '" + text + "' is no text in UTF-8; write it in UTF-8");
+  return read;
+}
+
 VariantArray textParams(std::vector<std::string> texts) {
   if (texts.empty()) texts.emplace_back();
   std::vector<Variant> elements;
   elements.reserve(texts.size());
-  for (const std::string& text : texts) elements.emplace_back(fromUtf8(text));
+  for (const std::string& text : texts) elements.emplace_back(readText("PARAM", text));
   return VariantArray(std::move(elements));
 }
 
@@ -94,6 +99,7 @@ SettingForRun readSetting(const std::string& option, const std::string& text) {
   const auto equals = slash == std::string::npos ? slash : text.find('=', slash);
   if (equals == std::string::npos || slash == 0 || equals == slash + 1)
     throw wrongUsage(option + " '" + text + "' is no setting; write it as SECTION/KEY=VALUE");
+  readText(option, text);
   return {.section = fromUtf8(text.substr(0, slash)),
           .key = fromUtf8(text.substr(slash + 1, equals - slash - 1)),
           .value = fromUtf8(text.substr(equals + 1)),
@@ -130,7 +136,7 @@ void addHostOptions(CLI::App& app, HostOptions& host, Texts& texts) {
 }
 
 void readHostTexts(HostOptions& host, const Texts& texts) {
-  host.user = fromUtf8(texts.user);
+  host.user = readText("--user", texts.user);
   host.session = !texts.noSession;
   for (const std::string& text : texts.settings) host.settings.push_back(readSetting("--set", text));
   for (const std::string& text : texts.userSettings) host.settings.push_back(readSetting("--set-user", text));
@@ -150,6 +156,25 @@ void readShowTexts(ShowOptions& show, const Texts& texts) {
   }
   if (texts.script) show.script = *texts.script;
   if (texts.transcript) show.transcript = *texts.transcript;
+}
+
+/// ", did you mean 'show'?" for the first argument that nobody knows, where one is close to it.
+std::string suggestionFor(const CLI::App& app, const CLI::App& command, int argc, const char* const* argv) {
+  const bool isCommand = &command != &app;
+  std::vector<std::string> commands, options;
+  for (const CLI::App* each : app.get_subcommands({})) commands.push_back(each->get_name());
+  for (const CLI::Option* each : command.get_options())
+    for (const std::string& name : each->get_lnames()) options.push_back("--" + name);
+  for (int i = 1; i < argc; ++i) {
+    const std::string argument = argv[i], word = argument.substr(0, argument.find('='));
+    if (word == "--") break;
+    const bool isOption = word.starts_with("--");
+    const std::vector<std::string>& known = isOption ? options : commands;
+    if ((!isOption && isCommand) || std::ranges::find(known, word) != known.end()) continue;
+    const std::string meant = closest(word, known);
+    if (!meant.empty()) return ", did you mean '" + meant + "'?";
+  }
+  return "";
 }
 
 /// An option in front of the command would be read as the desk's and have no effect.
@@ -218,7 +243,11 @@ Options parseCommandLine(int argc, const char* const* argv) {
     options.command = Command::Help;
     return options;
   } catch (const CLI::ParseError& failure) {
-    throw wrongUsage(std::string(failure.what()) + "; see 'zqn-dialog --help'");
+    const auto parsed = app.get_subcommands();
+    const CLI::App& command = parsed.empty() ? app : *parsed.front();
+    const std::string name = parsed.empty() ? "" : command.get_name() + " ";
+    throw wrongUsage(failure.what() + suggestionFor(app, command, argc, argv) + "; see 'zqn-dialog " + name +
+                     "--help'");
   }
 
   if (kinds->parsed()) options.command = Command::Kinds;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "frontend/kinds.h"
+#include "host/database/messages.h"
 #include "host/information/auskunft.h"
 #include "host/script/outside_of_host.h"
 #include "host/script/scripted_auskunft.h"
@@ -54,6 +55,22 @@ std::unique_ptr<std::ifstream> openScript(const fs::path& file) {
   return stream;
 }
 
+/// Opening the transcript empties it.
+void requireAnotherFile(const fs::path& transcript, const fs::path& used, const std::string& what) {
+  std::error_code failure;
+  if (!fs::is_regular_file(transcript, failure) || !fs::equivalent(transcript, used, failure)) return;
+  throw CommandFailure(ExitStatus::WrongUsage,
+                       "--transcript '" + transcript.string() + "' is " + what + "; name another file");
+}
+
+void requireOwnFile(const fs::path& transcript, const ShowOptions& request, const DatabaseAddress& database) {
+  if (request.script)
+    requireAnotherFile(transcript, *request.script == "-" ? "/dev/stdin" : *request.script, "the script");
+  if (database.isServer()) return;
+  for (const char* suffix : {"", "-wal", "-shm", "-journal"})
+    requireAnotherFile(transcript, database.file().string() + suffix, "the database");
+}
+
 std::unique_ptr<std::ofstream> openTranscript(const fs::path& file) {
   auto stream = std::make_unique<std::ofstream>(file, std::ios::binary);
   if (!*stream)
@@ -61,6 +78,13 @@ std::unique_ptr<std::ofstream> openTranscript(const fs::path& file) {
         ExitStatus::WrongUsage,
         "--transcript '" + file.string() + "' cannot be written; name a file in a folder that exists");
   return stream;
+}
+
+/// The disk may have been full.
+void requireWhole(std::ofstream* transcript, const ShowOptions& request) {
+  if (transcript == nullptr || transcript->flush()) return;
+  throw CommandFailure(ExitStatus::CannotOpen,
+                       "--transcript '" + request.transcript->string() + "' cannot be written any further");
 }
 
 void printKey(const Variant& key) {
@@ -73,9 +97,26 @@ void printKey(const Variant& key) {
 void warnOfMissingForm(const Options& options) {
   const std::int32_t kind = options.show.kind;
   if (findKind(kind) == nullptr || isOffered(kind) || options.host.generic) return;
-  std::cerr << "zqn-dialog: kind " << kind
-            << " is not part of this version; 'zqn-dialog kinds' lists those that are\n";
+  tell("kind " + std::to_string(kind) +
+       " is not part of this version; 'zqn-dialog kinds' lists those that are");
 }
+
+/// The keys on standard output, which is the transcript's alone where that goes there: each pick when it comes, and
+/// without Multiselect the one that Show returned.
+class KeyPrinter {
+ public:
+  KeyPrinter(bool prints, bool multiselect) : prints_(prints), multiselect_(multiselect) {}
+
+  void picked(const Variant& key) const {
+    if (prints_ && multiselect_) printKey(key);
+  }
+  void returned(const Variant& key) const {
+    if (prints_ && !multiselect_) printKey(key);
+  }
+
+ private:
+  bool prints_, multiselect_;
+};
 
 ExitStatus statusOf(const ShowOutcome& outcome) {
   return isKey(outcome.returned) ? ExitStatus::Done : ExitStatus::NoKey;
@@ -93,21 +134,28 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   const Host host(options.host);
   offerCompanions(options.host);
   std::unique_ptr<std::ofstream> transcriptFile;
-  if (request.transcript) transcriptFile = openTranscript(*request.transcript);
+  if (request.transcript) {
+    requireOwnFile(*request.transcript, request, host.address());
+    transcriptFile = openTranscript(*request.transcript);
+  }
 
   const Desktop::Scope scope(desktop);
   ORBDialog dialog;
   host.equip(dialog);
+  const KeyPrinter printer(!request.script || transcriptFile, options.host.multiselect);
 
   if (!request.script) {
     offerAuskunft(host.connection());
     std::unique_ptr<Recorder> recorder;
     if (transcriptFile) recorder = std::make_unique<Recorder>(desktop, *transcriptFile);
-    if (recorder)
-      dialog.DblClick = [&](const Variant& key) { recorder->write(script::eventLine(u"DblClick", key)); };
+    dialog.DblClick = [&](const Variant& key) {
+      if (recorder) recorder->write(script::eventLine(u"DblClick", key));
+      printer.picked(key);
+    };
     const ShowOutcome outcome = callShow(dialog, request.kind, request.param, options.host.generic);
     if (recorder) recorder->write(script::resultLine(outcome));
-    printKey(outcome.returned);
+    requireWhole(transcriptFile.get(), request);
+    printer.returned(outcome.returned);
     return statusOf(outcome);
   }
 
@@ -116,7 +164,10 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   std::istream& script = scriptFile ? *scriptFile : std::cin;
   std::ostream& transcript = transcriptFile ? *transcriptFile : std::cout;
   ScriptedUser user(desktop, input, script::outsideOf(host), faults, script, transcript);
-  dialog.DblClick = [&](const Variant& key) { user.writeEvent(u"DblClick", key); };
+  dialog.DblClick = [&](const Variant& key) {
+    user.writeEvent(u"DblClick", key);
+    printer.picked(key);
+  };
   const script::ScriptedAuskunft auskunft(user);
   ShowOutcome outcome;
   user.prepare();
@@ -124,7 +175,8 @@ ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInpu
   user.finish();
   user.writeResult(outcome);
   host.connection()->observer(nullptr);
-  if (transcriptFile) printKey(outcome.returned);
+  requireWhole(transcriptFile.get(), request);
+  printer.returned(outcome.returned);
   return user.failed() ? ExitStatus::ScriptError : statusOf(outcome);
 }
 

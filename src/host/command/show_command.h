@@ -15,7 +15,8 @@
 namespace zqn::host {
 
 /// Opens the dialog of the options and returns when it is closed. The transcript goes where the options say;
-/// unless it goes to standard output the key is printed there, a text as it is, anything else as in JSON.
+/// unless it goes to standard output the key is printed there, with Multiselect each pick at once instead, a text
+/// as it is, anything else as in JSON.
 /// With a script its user acts by `input`; without one it is not used. CommandFailure when the database or the
 /// files of the options cannot be opened.
 ExitStatus showDialog(const Options& options, Desktop& desktop, script::UserInput& input);

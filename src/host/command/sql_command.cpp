@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 
+#include "ado/transaction.h"
 #include "host/database/failure.h"
 #include "host/database/rows.h"
 #include "host/script/json_values.h"
@@ -15,8 +16,13 @@ namespace {
 
 constexpr const char* blanks = " \t\r\n";
 
-CommandFailure failed(const std::string& reason, const std::string& statement) {
-  return CommandFailure(ExitStatus::CannotOpen, reason + "\n" + statement);
+CommandFailure failed(const std::string& reason, const std::string& statement = {}) {
+  return CommandFailure(ExitStatus::CannotOpen, reason, statement);
+}
+
+/// What becomes of statements that ran before, where they are not kept.
+std::string fateOfTheRest(const ado::Connection& connection) {
+  return ado::inTransaction(connection) ? "; the transaction that was begun is rolled back" : "";
 }
 
 /// Takes the `;` and the blanks behind it off; false when the line does not end a statement.
@@ -28,8 +34,12 @@ bool endsStatement(std::string& text) {
 }
 
 void runOne(ado::Connection& connection, const std::string& statement, std::ostream& out) {
+  // A failure may end a transaction by itself, and what it held is gone all the same.
+  const std::string fate = fateOfTheRest(connection);
+  const String text = fromUtf8(statement);
+  if (toUtf8(text) != statement) throw failed("a statement is no text in UTF-8 and was not run", statement);
   try {
-    const ado::RowStore rows = runStatement(connection, fromUtf8(statement)).rows;
+    const ado::RowStore rows = runStatement(connection, text).rows;
     out << '[';
     for (int row = 0; row < rows.rows(); ++row) {
       auto line = script::Json::array();
@@ -38,8 +48,10 @@ void runOne(ado::Connection& connection, const std::string& statement, std::ostr
     }
     out << "]" << std::endl;
   } catch (const RuntimeError& failure) {
-    throw failed(toUtf8(failure.description()), statement);
+    throw failed(toUtf8(failure.description()) + fate, statement);
   }
+  // Whoever cannot be told what was done does not want more of it.
+  if (!out) throw failed("the rows cannot be written" + fateOfTheRest(connection), statement);
 }
 
 }  // namespace
@@ -52,9 +64,14 @@ void runStatements(ado::Connection& connection, std::istream& in, std::ostream& 
     if (statement.find_first_not_of(blanks) != std::string::npos) runOne(connection, statement, out);
     statement.clear();
   }
+  if (in.bad()) throw failed("the statements cannot be read any further" + fateOfTheRest(connection));
   // Half a statement may mean something else than the whole: a DELETE that has lost its WHERE.
   if (statement.find_first_not_of(blanks) != std::string::npos)
-    throw failed("the last statement does not end with ; at a line's end and was not run", statement);
+    throw failed(
+        "the last statement does not end with ; at a line's end and was not run" + fateOfTheRest(connection),
+        statement);
+  if (ado::inTransaction(connection))
+    throw failed("the statements end inside a transaction, which is rolled back; end it with COMMIT;");
 }
 
 }  // namespace zqn::host

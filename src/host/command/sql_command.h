@@ -13,7 +13,8 @@ namespace zqn::host {
 
 /// Runs the statements of `in`, each ended by `;` at a line's end, and writes the rows of each as an array of
 /// arrays on a line of its own, `[]` where there are none. CommandFailure (CannotOpen) with the text of the
-/// first statement that fails, or that is not ended; what ran before it stays done.
+/// first statement that fails, that is not ended, or of which the rows cannot be written, and when the last one
+/// leaves a transaction open. What ran before stays done, but for a transaction that was begun and not ended.
 void runStatements(ado::Connection& connection, std::istream& in, std::ostream& out);
 
 }  // namespace zqn::host

@@ -3,6 +3,9 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string>
+#include <vector>
 
 #include "runtime/convert.h"
 
@@ -18,7 +21,41 @@ Json jsonNumber(double value) {
   return whole ? Json(static_cast<std::int64_t>(value)) : Json(value);
 }
 
+/// Deeper than anything that is asked for; copying and writing a value go down level by level.
+constexpr int deepest = 32;
+
+/// What the library's own reading lets pass.
+class Strictness {
+ public:
+  bool operator()(int depth, Json::parse_event_t event, const Json& parsed) {
+    using Event = Json::parse_event_t;
+    if (depth > deepest) throw JsonError("is nested deeper than " + std::to_string(deepest) + " levels");
+    if (event == Event::object_start) names_.emplace_back();
+    if (event == Event::object_end) names_.pop_back();
+    if (event == Event::key && !names_.back().insert(parsed.get<std::string>()).second)
+      throw JsonError("has the member " + parsed.dump() + " twice");
+    return true;
+  }
+
+ private:
+  /// The members so far of each object that is open.
+  std::vector<std::set<std::string>> names_;
+};
+
 }  // namespace
+
+Json readJson(std::string_view text) {
+  try {
+    return Json::parse(
+        text, [strictness = Strictness()](int depth, Json::parse_event_t event, const Json& parsed) mutable {
+          return strictness(depth, event, parsed);
+        });
+  } catch (const Json::parse_error& failure) {
+    throw JsonError("is no JSON in UTF-8 (byte " + std::to_string(failure.byte) + ")");
+  } catch (const Json::out_of_range&) {
+    throw JsonError("has a number beyond 1.8e308");
+  }
+}
 
 Json jsonText(StringView text) { return toUtf8(text); }
 

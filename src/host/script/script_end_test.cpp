@@ -154,7 +154,7 @@ TEST_F(ScriptErrors, NameTheLineAndWhatWouldBeRight) {
   const std::string names =
       "TDBList1, lblKey, txtKey, Label1(0), txtName, Label1(1), chkFlag, btnOK, btnCancel, btnHidden, btnOff";
   EXPECT_EQ(errorOf("{"),
-            R"(line 2: this is no JSON in UTF-8; a line is one action, such as {"click":"btnOK"})");
+            R"(line 2: this is no JSON in UTF-8 (byte 2); a line is one action, such as {"click":"btnOK"})");
   EXPECT_EQ(errorOf("[1]"), R"(line 2: a line is one JSON object, such as {"click":"btnOK"})");
   EXPECT_EQ(
       errorOf("{}"),

@@ -27,10 +27,11 @@ std::optional<ScriptLine> ScriptReader::next() {
     if (number_ == 1 && line.starts_with(byteOrderMark)) line.remove_prefix(byteOrderMark.size());
     if (saysNothing(line)) continue;
     try {
-      Json json = Json::parse(line);
+      Json json = readJson(line);
       if (json.is_object()) return ScriptLine{number_, std::move(json)};
-    } catch (const Json::exception&) {
-      throw ScriptError(R"(this is no JSON in UTF-8; a line is one action, such as {"click":"btnOK"})");
+    } catch (const JsonError& wrong) {
+      throw ScriptError("this " + std::string(wrong.what()) +
+                        R"(; a line is one action, such as {"click":"btnOK"})");
     }
     throw ScriptError(R"(a line is one JSON object, such as {"click":"btnOK"})");
   }

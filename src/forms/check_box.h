@@ -4,16 +4,14 @@
 // grey.
 #pragma once
 
-#include "forms/control.h"
+#include "forms/captioned_control.h"
 
 namespace zqn {
 
-class CheckBox : public Control {
+class CheckBox : public CaptionedControl {
  public:
   CheckBox(Form& form, const ControlDesign& design, int tabIndex);
 
-  const String& Caption() const noexcept { return caption_; }
-  void Caption(StringView caption);
   int Value() const noexcept { return value_; }
   /// Raises Click when the value differs. Error 380 for anything but 0, 1, 2.
   void Value(int value);
@@ -22,13 +20,11 @@ class CheckBox : public Control {
 
   bool ownKey(const KeyStroke& stroke) override;
   void clicked() override;
-  String content() const override { return caption_; }
 
  protected:
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
-  String caption_;
   int value_ = 0;
 };
 

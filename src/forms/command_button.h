@@ -5,17 +5,15 @@
 // enabled.
 #pragma once
 
-#include "forms/control.h"
+#include "forms/captioned_control.h"
 #include "forms/picture.h"
 
 namespace zqn {
 
-class CommandButton : public Control {
+class CommandButton : public CaptionedControl {
  public:
   CommandButton(Form& form, const ControlDesign& design, int tabIndex);
 
-  const String& Caption() const noexcept { return caption_; }
-  void Caption(StringView caption);
   /// Shown in the middle, for a button without a caption; nullptr for none. The picture must outlive the
   /// button.
   const zqn::Picture* Picture() const noexcept { return picture_; }
@@ -24,13 +22,11 @@ class CommandButton : public Control {
   bool Default() const noexcept { return default_; }
 
   bool ownKey(const KeyStroke& stroke) override;
-  String content() const override { return caption_; }
 
  protected:
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
-  String caption_;
   bool cancel_, default_;
   const zqn::Picture* picture_ = nullptr;
 };

@@ -2,6 +2,7 @@
 #include "forms/control_kinds.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "forms/check_box.h"
 #include "forms/combo_box.h"
@@ -64,6 +65,8 @@ constexpr Kind kinds[] = {
     {ControlKind::zqCombo, u"zqCombo", make<zqCombo>},
 };
 static_assert(hasRowForEach<ControlKind::zqCombo>(kinds, &Kind::kind));
+
+static_assert(std::size(kinds) == static_cast<std::size_t>(ControlKind::zqCombo) + 1, "a row for each kind");
 
 const Kind& row(ControlKind kind) noexcept { return *std::ranges::find(kinds, kind, &Kind::kind); }
 

@@ -10,6 +10,9 @@
 
 namespace zqn {
 
+/// The kind's name as a roster, a script or a dump writes it: "TextBox".
+StringView kindName(ControlKind kind) noexcept;
+
 /// A control as its row of the roster describes it.
 std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& design, int tabIndex);
 

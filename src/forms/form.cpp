@@ -10,6 +10,7 @@
 #include "forms/menu.h"
 #include "forms/names.h"
 #include "runtime/convert.h"
+#include "runtime/resume_next.h"
 
 namespace zqn {
 
@@ -79,6 +80,15 @@ Control* Form::findControl(StringView fullName) const noexcept {
 Control& Form::requireActiveControl() const {
   if (active_ == nullptr) throw RuntimeError(error::ObjectNotSet);
   return *active_;
+}
+
+void Form::SelectActiveText() {
+  ResumeNext step;
+  step([&] { requireActiveControl().Property(u"SelStart", std::int32_t{0}); });
+  step([&] {
+    Control& active = requireActiveControl();
+    active.Property(u"SelLength", static_cast<std::int32_t>(active.content().size()));
+  });
 }
 
 // ---- life

@@ -78,6 +78,9 @@ class Form : public EventOwner {
   Control* ActiveControl() const noexcept { return active_; }
   /// Screen.ActiveControl as the logic asks for it: error 91 when no control has the focus.
   Control& requireActiveControl() const;
+  /// Selects the whole text of the control with the focus, so that typing replaces it. Each step that fails
+  /// is passed over: without a focus, or in a control without a selection, nothing happens.
+  void SelectActiveText();
 
   // ---- life
 

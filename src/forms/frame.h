@@ -4,25 +4,15 @@
 // disabled, so is what stands in it.
 #pragma once
 
-#include "forms/control.h"
+#include "forms/captioned_control.h"
 
 namespace zqn {
 
-class Frame : public Control {
+class Frame : public CaptionedControl {
  public:
-  Frame(Form& form, const ControlDesign& design, int tabIndex);
-
-  const String& Caption() const noexcept { return caption_; }
-  void Caption(StringView caption);
+  Frame(Form& form, const ControlDesign& design, int tabIndex) : CaptionedControl(form, design, tabIndex) {}
 
   bool takesFocus() const noexcept override { return false; }
-  String content() const override { return caption_; }
-
- protected:
-  const PropertyEntry* findProperty(StringView name) const override;
-
- private:
-  String caption_;
 };
 
 }  // namespace zqn

@@ -11,28 +11,19 @@
 
 #include <vector>
 
-#include "forms/control.h"
+#include "forms/captioned_control.h"
 
 namespace zqn {
 
-class Menu : public Control {
+class Menu : public CaptionedControl {
  public:
-  Menu(Form& form, const ControlDesign& design, int tabIndex);
+  Menu(Form& form, const ControlDesign& design, int tabIndex) : CaptionedControl(form, design, tabIndex) {}
 
-  const String& Caption() const noexcept { return caption_; }
-  void Caption(StringView caption);
   /// Its visible items in the order of the roster.
   std::vector<Menu*> items() const;
 
   bool takesFocus() const noexcept override { return false; }
   bool isDrawn() const noexcept override { return false; }
-  String content() const override { return caption_; }
-
- protected:
-  const PropertyEntry* findProperty(StringView name) const override;
-
- private:
-  String caption_;
 };
 
 }  // namespace zqn

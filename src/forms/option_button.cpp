@@ -9,15 +9,7 @@
 namespace zqn {
 
 OptionButton::OptionButton(Form& form, const ControlDesign& design, int tabIndex)
-    : Control(form, design, tabIndex), caption_(design.text), value_(design.other.Value) {
-  BackColor(colour::ButtonFace);
-}
-
-void OptionButton::Caption(StringView caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  changed();
-}
+    : CaptionedControl(form, design, tabIndex), value_(design.other.Value) {}
 
 std::vector<OptionButton*> OptionButton::group() const {
   std::vector<OptionButton*> options;
@@ -83,13 +75,11 @@ bool OptionButton::ownKey(const KeyStroke& stroke) {
 
 const PropertyEntry* OptionButton::findProperty(StringView name) const {
   static constexpr PropertyEntry entries[] = {
-      {u"Caption", [](const Control& c) { return Variant(static_cast<const OptionButton&>(c).Caption()); },
-       [](Control& c, const Variant& value) { static_cast<OptionButton&>(c).Caption(CStr(value)); }},
       {u"Value", [](const Control& c) { return Variant(static_cast<const OptionButton&>(c).Value()); },
        [](Control& c, const Variant& value) { static_cast<OptionButton&>(c).Value(CBool(value)); }},
   };
   const PropertyEntry* entry = findIn(entries, name);
-  return entry != nullptr ? entry : Control::findProperty(name);
+  return entry != nullptr ? entry : CaptionedControl::findProperty(name);
 }
 
 }  // namespace zqn

@@ -10,16 +10,14 @@
 
 #include <vector>
 
-#include "forms/control.h"
+#include "forms/captioned_control.h"
 
 namespace zqn {
 
-class OptionButton : public Control {
+class OptionButton : public CaptionedControl {
  public:
   OptionButton(Form& form, const ControlDesign& design, int tabIndex);
 
-  const String& Caption() const noexcept { return caption_; }
-  void Caption(StringView caption);
   bool Value() const noexcept { return value_; }
   /// True chooses it and makes it a tab stop: the others of its group become False without Click, and Click
   /// is raised when it was not chosen. False raises nothing and may leave the group without a choice.
@@ -30,7 +28,6 @@ class OptionButton : public Control {
   /// Arrows go to the next option of the group that can be used, and around at its end; Space chooses.
   bool ownKey(const KeyStroke& stroke) override;
   void clicked() override { Value(true); }
-  String content() const override { return caption_; }
 
  protected:
   const PropertyEntry* findProperty(StringView name) const override;
@@ -40,7 +37,6 @@ class OptionButton : public Control {
   std::vector<OptionButton*> group() const;
   OptionButton* neighbour(int step) const;
 
-  String caption_;
   bool value_;
 };
 

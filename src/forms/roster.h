@@ -42,9 +42,6 @@ enum class ControlKind {
   zqCombo
 };
 
-/// The kind's name as a roster, a script or a dump writes it: "TextBox".
-StringView kindName(ControlKind kind) noexcept;
-
 enum class Alignment { Left, Right, Center };
 
 /// What a row of the roster says beyond name, kind, text and place. Each value is the design state; logic may

@@ -6,15 +6,7 @@
 namespace zqn {
 
 ToggleButton::ToggleButton(Form& form, const ControlDesign& design, int tabIndex)
-    : Control(form, design, tabIndex), caption_(design.text) {
-  BackColor(colour::ButtonFace);
-}
-
-void ToggleButton::Caption(StringView caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  changed();
-}
+    : CaptionedControl(form, design, tabIndex) {}
 
 void ToggleButton::Value(bool value) {
   if (value_ == value) return;
@@ -34,13 +26,11 @@ void ToggleButton::clicked() { Value(!value_); }
 
 const PropertyEntry* ToggleButton::findProperty(StringView name) const {
   static constexpr PropertyEntry entries[] = {
-      {u"Caption", [](const Control& c) { return Variant(static_cast<const ToggleButton&>(c).Caption()); },
-       [](Control& c, const Variant& value) { static_cast<ToggleButton&>(c).Caption(CStr(value)); }},
       {u"Value", [](const Control& c) { return Variant(static_cast<const ToggleButton&>(c).Value()); },
        [](Control& c, const Variant& value) { static_cast<ToggleButton&>(c).Value(CBool(value)); }},
   };
   const PropertyEntry* entry = findIn(entries, name);
-  return entry != nullptr ? entry : Control::findProperty(name);
+  return entry != nullptr ? entry : CaptionedControl::findProperty(name);
 }
 
 }  // namespace zqn

@@ -109,15 +109,6 @@ void CatalogueForm::UpdateButtons() {
   btnDelete.Enabled(hasKey());
 }
 
-void CatalogueForm::SelectActiveText() {
-  ResumeNext step;
-  step([&] { requireActiveControl().Property(u"SelStart", std::int32_t{0}); });
-  step([&] {
-    Control& active = requireActiveControl();
-    active.Property(u"SelLength", static_cast<std::int32_t>(active.content().size()));
-  });
-}
-
 void CatalogueForm::Schluessel_LostFocus() {
   ResumeNext step;
   // The search runs from the list's current row downward: a key above it is not reached, the fields follow

@@ -105,8 +105,6 @@ class CatalogueForm : public Form {
   virtual void WriteRecord();
   virtual void DeleteRecord();
   void UpdateButtons();
-  /// Selects the whole text of the active control, so that typing replaces it.
-  void SelectActiveText();
   /// Null when the trimmed text is empty, else the trimmed text. Null counts as empty.
   static Variant NullIfEmpty(const Variant& Value);
   /// Absolute value of a field, for check boxes and numbers; Null is 0.

@@ -37,7 +37,7 @@ void frmDialog::wireFields() {
     if (KeyAscii == key::Enter) pick();
   };
   for (const StringView name : {u"txtKey", u"txtKeyText", u"txtZusatz", u"txtLangtext"}) {
-    control(name).GotFocus = [this] { SelectText(); };
+    control(name).GotFocus = [this] { SelectActiveText(); };
   }
   txtKey.Validate = [this](bool&) {
     FindKey();
@@ -158,15 +158,6 @@ void frmDialog::FindKey() {
   step([&] { rsListe->Find(definition().FindCriteria()); });
   step([&] { tdblShow.Bookmark(rsListe->Bookmark()); });
   step([&] { LoadRecord(); });
-}
-
-void frmDialog::SelectText() {
-  ResumeNext step;
-  step([&] { requireActiveControl().Property(u"SelStart", std::int32_t{0}); });
-  step([&] {
-    Control& active = requireActiveControl();
-    active.Property(u"SelLength", static_cast<std::int32_t>(active.content().size()));
-  });
 }
 
 void frmDialog::UpdateOK() { cmdOK.Enabled(!Trim(txtKey.Text()).empty()); }

@@ -50,7 +50,6 @@ class frmDialog final : public Form {
  private:
   void LoadRecord();
   void FindKey();
-  void SelectText();
   void UpdateOK();
   void UpdateListState();
   void UpdateZahlungstext();

@@ -215,15 +215,6 @@ void frmOfferTemplates::MSFlexGrid1_MouseUp(int Button) {
 
 // ---- the number of an offer
 
-void frmOfferTemplates::SelectActiveText() {
-  ResumeNext step;
-  step([&] { requireActiveControl().Property(u"SelStart", std::int32_t{0}); });
-  step([&] {
-    Control& active = requireActiveControl();
-    active.Property(u"SelLength", static_cast<std::int32_t>(active.content().size()));
-  });
-}
-
 void frmOfferTemplates::Angebotsnummer_GotFocus() {
   ResumeNext step;
   step([&] { optAuswahl(CopyOffer).Value(true); });

@@ -42,7 +42,6 @@ class frmOfferTemplates final : public Form {
   /// The number that a person takes over from the offer information, "" for none. Has no handler.
   String AskOffer();
   bool OfferExists(std::int32_t number);
-  void SelectActiveText();
   void updateDelete();
   /// The offer in the current row of the list, 0 for none.
   std::int32_t templateNumber() const;

@@ -42,6 +42,7 @@ class ComboBox : public TextEntry, public DropDown {
   // ---- for toolkits
 
   bool isReadOnly() const noexcept override { return !allowedit(); }
+  bool hasCaret() const noexcept override { return allowedit(); }
   bool takesKeyFirst(const KeyStroke& stroke) override { return openListTakes(stroke); }
   /// Arrows, Home and End choose; a letter chooses the next entry that begins with it. In a field they edit.
   bool ownKey(const KeyStroke& stroke) override;

@@ -20,6 +20,8 @@ class DateInput : public DayEntry {
   void Value(const Variant& value);
 
   Variant day() const override;
+  /// The text is no day: Value is Null, and the text goes when the focus leaves.
+  bool isInvalid() const override { return !read(Text()).has_value(); }
 
  protected:
   Variant valueOf(const Variant& day) const override;

@@ -46,12 +46,10 @@ KeyStroke KeyStroke::ofCode(int code, int shift) {
 
 KeyStroke KeyStroke::ofCharacter(char16_t character, int shift) {
   const int code = codeOf(character);
-  if ((shift & shift::Ctrl) != 0) {
-    const bool letter = code >= 'A' && code <= 'Z';
-    return {code, shift, static_cast<char16_t>(letter ? code - 'A' + 1 : 0)};
-  }
   if ((shift & shift::Alt) != 0) return {code, shift, 0};
-  return {code, shift, character};
+  if ((shift & shift::Ctrl) == 0) return {code, shift, character};
+  const bool letter = code >= 'A' && code <= 'Z';
+  return {code, shift, static_cast<char16_t>(letter ? code - 'A' + 1 : 0)};
 }
 
 }  // namespace zqn

@@ -21,6 +21,7 @@ constexpr int Left = 37;
 constexpr int Up = 38;
 constexpr int Right = 39;
 constexpr int Down = 40;
+constexpr int Insert = 45;
 constexpr int Delete = 46;
 constexpr int F1 = 112;
 constexpr int F2 = 113;
@@ -39,6 +40,9 @@ constexpr int Ctrl = 2;
 constexpr int Alt = 4;
 }  // namespace shift
 
+/// The character goes into a text: it is none that only controls.
+constexpr bool isText(char16_t character) noexcept { return character >= u' ' && character != u'\x7f'; }
+
 /// One press of a key.
 struct KeyStroke {
   /// The platform's key code: letters and digits by their capital character, other characters by their key on
@@ -48,7 +52,7 @@ struct KeyStroke {
   /// Sum of the shift bits.
   int shift = 0;
   /// What the press types, 0 for none. Enter, Tab, Backspace and Escape type 13, 9, 8, 27; Ctrl with a letter
-  /// types 1 to 26.
+  /// types 1 to 26; Alt with a character, and Ctrl with any other, type nothing.
   char16_t character = 0;
 
   /// The stroke of a key that is named by its code alone, or of a character.

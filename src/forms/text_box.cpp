@@ -40,48 +40,35 @@ String TextBox::pastedAs(StringView text) const {
   return MultiLine() ? withBreaks(text, lineBreak) : TextEntry::pastedAs(text);
 }
 
-int TextBox::startOfLine(int position) const {
-  const auto before = StringView(Text()).substr(0, static_cast<std::size_t>(position)).rfind(u'\n');
-  return before == StringView::npos ? 0 : static_cast<int>(before) + 1;
-}
-
-int TextBox::endOfLine(int position) const {
-  const auto end = Text().find(u'\n', static_cast<std::size_t>(position));
-  if (end == String::npos) return static_cast<int>(Text().size());
-  const bool afterReturn = end > 0 && Text()[end - 1] == u'\r';
-  return static_cast<int>(afterReturn ? end - 1 : end);
+/// To the line that this place stands in, as far from its beginning as the caret is from its own.
+void TextBox::moveToLine(int place, bool extend) {
+  const int column = caret() - lineStart(Text(), caret());
+  moveCaret(std::min(lineStart(Text(), place) + column, lineEnd(Text(), place)), extend);
 }
 
 bool TextBox::ownKey(const KeyStroke& stroke) {
-  const bool ctrl = (stroke.shift & shift::Ctrl) != 0;
   if (!MultiLine() || (stroke.shift & shift::Alt) != 0) return TextEntry::ownKey(stroke);
   if (stroke.code == key::Enter) {
     replaceSelection(lineBreak);
     return true;
   }
-  if (ctrl) return TextEntry::ownKey(stroke);
+  if ((stroke.shift & shift::Ctrl) != 0) return TextEntry::ownKey(stroke);
   const bool extend = (stroke.shift & shift::Shift) != 0;
-  const int start = startOfLine(caret());
-  const int end = endOfLine(caret());
-  const int column = caret() - start;
+  const int size = static_cast<int>(Text().size());
+  const int start = lineStart(Text(), caret());
+  const int end = lineEnd(Text(), caret());
   switch (stroke.code) {
-    case key::Home:
-      moveCaret(start, extend);
-      return true;
-    case key::End:
-      moveCaret(end, extend);
-      return true;
     case key::Up:
-      if (start > 0) {
-        const int above = startOfLine(start - 1);
-        moveCaret(std::min(above + column, endOfLine(above)), extend);
-      }
+      if (start > 0) moveToLine(placeBefore(Text(), start), extend);
       return true;
     case key::Down:
-      if (end < static_cast<int>(Text().size())) {
-        const int below = static_cast<int>(Text().find(u'\n', static_cast<std::size_t>(end))) + 1;
-        moveCaret(std::min(below + column, endOfLine(below)), extend);
-      }
+      if (end < size) moveToLine(placeBehind(Text(), end), extend);
+      return true;
+    case key::PageUp:
+      moveToLine(0, extend);
+      return true;
+    case key::PageDown:
+      moveToLine(size, extend);
       return true;
     default:
       return TextEntry::ownKey(stroke);

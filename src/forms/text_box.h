@@ -35,15 +35,18 @@ class TextBox : public TextEntry {
   // ---- for toolkits
 
   bool isReadOnly() const noexcept override { return Locked(); }
+  bool hasLines() const noexcept override { return MultiLine(); }
   String pastedAs(StringView text) const override;
+  /// Enter begins a line. Up, Down, PageUp and PageDown go by stored lines; a toolkit that draws them broken
+  /// finds the place itself (userMoved).
   bool ownKey(const KeyStroke& stroke) override;
 
  protected:
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
-  int startOfLine(int position) const;
-  int endOfLine(int position) const;
+  void moveToLine(int place, bool extend);
+
   zqn::Alignment alignment_;
 };
 

@@ -2,7 +2,6 @@
 #include "forms/text_entry.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "forms/desktop.h"
@@ -11,177 +10,226 @@
 
 namespace zqn {
 
-namespace {
-
-/// The two units of a character beyond U+FFFF, or of a line break, meet at this position: a caret cannot
-/// stand there.
-bool splitsPair(StringView text, int position) {
-  const auto at = static_cast<std::size_t>(position);
-  if (position <= 0 || at >= text.size()) return false;
-  return (unicode::isHighSurrogate(text[at - 1]) && unicode::isLowSurrogate(text[at])) ||
-         (text[at - 1] == u'\r' && text[at] == u'\n');
-}
-
-int before(StringView text, int position) {
-  return splitsPair(text, position - 1) ? position - 2 : position - 1;
-}
-int behind(StringView text, int position) {
-  return splitsPair(text, position + 1) ? position + 2 : position + 1;
-}
-
-}  // namespace
-
-StringView cutToLength(StringView text, int units) {
-  if (units >= static_cast<int>(text.size())) return text;
-  return text.substr(0, static_cast<std::size_t>(splitsPair(text, units) ? units - 1 : units));
-}
-
-String withBreaks(StringView text, StringView lineBreak) {
-  String all;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool isBreak = text[i] == u'\r' || text[i] == u'\n';
-    all += isBreak ? lineBreak : text.substr(i, 1);
-    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') ++i;
-  }
-  return all;
-}
-
 TextEntry::TextEntry(Form& form, const ControlDesign& design, int tabIndex)
-    : Control(form, design, tabIndex), text_(design.text) {}
+    : Control(form, design, tabIndex), editor_(design.text) {}
 
 void TextEntry::assignText(StringView text) {
-  if (text_ == text) return;
-  text_ = text;
-  selStart_ = selLength_ = 0;
-  caretAtStart_ = false;
+  if (Text() == text) return;
+  editor_.assign(text);
   changed();
   edited();
 }
 
 void TextEntry::SelStart(int start) {
   if (start < 0) throw RuntimeError(error::InvalidPropertyValue);
-  moveCaret(start, false);
+  select(start, start);
 }
 
 void TextEntry::SelLength(int length) {
   if (length < 0) throw RuntimeError(error::InvalidPropertyValue);
-  selLength_ = std::min(length, static_cast<int>(text_.size()) - selStart_);
-  caretAtStart_ = false;
-  changed();
+  const int room = static_cast<int>(Text().size()) - SelStart();
+  select(SelStart(), SelStart() + std::min(length, room));
 }
 
-// ---- a person edits
+void TextEntry::focusEntered() {
+  editor_.forget();
+  firstHalf_ = u'\0';
+}
+
+// ---- selection
+
+void TextEntry::select(int anchor, int caret) {
+  if (editor_.select(anchor, caret)) changed();
+}
+
+void TextEntry::moveCaret(int position, bool extend) {
+  const int place = placeAt(Text(), position);
+  select(extend ? anchor() : place, place);
+}
+
+void TextEntry::userPressed(int position, bool focusCame, bool extend) {
+  if (!hasCaret()) return;
+  pressed_ = placeAt(Text(), position);
+  dragging_ = false;
+  if (!focusCame || SelLength() == 0) moveCaret(position, extend);
+  dragsFrom_ = extend ? anchor() : pressed_;
+}
+
+void TextEntry::userDragged(int position) {
+  const int place = placeAt(Text(), position);
+  if (!hasCaret() || (!dragging_ && place == pressed_)) return;
+  dragging_ = true;
+  select(dragsFrom_, place);
+}
+
+void TextEntry::userPressedTwice(int position) {
+  if (!hasCaret()) return;
+  const int place = placeAt(Text(), position);
+  const int start = wordBefore(Text(), placeBehind(Text(), place));
+  select(start, wordBehind(Text(), start));
+}
+
+void TextEntry::userMoved(int position, bool extend) { moveCaret(position, extend); }
+
+void TextEntry::userSelected(int anchor, int caret) {
+  select(placeAt(Text(), anchor), placeAt(Text(), caret));
+}
+
+void TextEntry::userSelectedAll() { selectAll(); }
+
+// ---- edits
+
+void TextEntry::makeEdit(TextState next, TextEditor::Step step) {
+  const bool differs = next.text != Text();
+  // A view that edits by itself draws the old text again.
+  if (differs && (isReadOnly() || !accepts(next.text))) return changed();
+  complete(next);
+  const bool becomes = next.text != Text();
+  editor_.edit(std::move(next), step);
+  changed();
+  if (becomes) edited();
+}
 
 void TextEntry::userEdited(StringView text, int selStart, int selLength) {
-  const bool differs = text_ != text;
-  if (differs && (isReadOnly() || !accepts(text))) return changed();
-  text_ = text;
-  userSelected(selStart, selLength);
-  if (!differs) return;
-  changed();
-  edited();
+  const int size = static_cast<int>(text.size());
+  const int start = std::clamp(selStart, 0, size);
+  makeEdit({String(text), start, std::clamp(start + selLength, start, size)}, TextEditor::Step::Other);
 }
 
-void TextEntry::userSelected(int selStart, int selLength) {
-  const int size = static_cast<int>(text_.size());
-  selStart_ = std::clamp(selStart, 0, size);
-  selLength_ = std::clamp(selLength, 0, size - selStart_);
-  caretAtStart_ = false;
+void TextEntry::replace(int start, int length, StringView text, TextEditor::Step step) {
+  if (lengthLimit_ > 0) {
+    const int room = std::max(0, lengthLimit_ - (static_cast<int>(Text().size()) - length));
+    text = cutToLength(text, room);
+  }
+  makeEdit(editor_.replaced(start, length, text), step);
+}
+
+void TextEntry::userReplaced(int start, int length, StringView text) {
+  if (!isUsable()) return changed();
+  const int size = static_cast<int>(Text().size());
+  start = std::clamp(start, 0, size);
+  replace(start, std::clamp(length, 0, size - start), pastedAs(text), TextEditor::Step::Other);
+}
+
+void TextEntry::travel(void (TextEditor::*where)()) {
+  if (isReadOnly()) return;
+  const String before = Text();
+  (editor_.*where)();
+  changed();
+  if (before != Text()) edited();
+}
+
+void TextEntry::userUndid() { travel(&TextEditor::undo); }
+void TextEntry::userRedid() { travel(&TextEditor::redo); }
+
+void TextEntry::userDeleted() {
+  if (SelLength() > 0) replaceSelection(u"");
+}
+
+// ---- clipboard
+
+void TextEntry::userCopied() {
+  if (SelLength() > 0) Desktop::current().copyToClipboard(editor_.selected());
+}
+
+void TextEntry::userCut() {
+  userCopied();
+  userDeleted();
 }
 
 String TextEntry::pastedAs(StringView text) const { return withBreaks(text, u" "); }
 
-bool TextEntry::pasteTaken(StringView text) {
-  bool taken = false;
-  Paste.raise(text, taken);
-  return taken;
-}
+void TextEntry::userPasted() { userPasted(Desktop::current().clipboardText()); }
 
 void TextEntry::userPasted(StringView text) {
-  if (!text.empty() && !pasteTaken(text)) replaceSelection(pastedAs(text));
+  if (text.empty()) return;
+  bool taken = false;
+  Paste.raise(text, taken);
+  if (!taken) replaceSelection(pastedAs(text));
 }
 
-void TextEntry::replaceSelection(StringView text) {
-  if (lengthLimit_ > 0) {
-    const int room = std::max(0, lengthLimit_ - (static_cast<int>(text_.size()) - selLength_));
-    text = cutToLength(text, room);
-  }
-  String edited = text_;
-  edited.replace(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_), text);
-  userEdited(edited, selStart_ + static_cast<int>(text.size()), 0);
+// ---- keys
+
+bool TextEntry::ownKey(const KeyStroke& stroke) {
+  const char16_t firstHalf = std::exchange(firstHalf_, u'\0');
+  if ((stroke.shift & shift::Alt) != 0) return false;
+  return clipboardKey(stroke) || caretKey(stroke) || deletingKey(stroke) || typingKey(stroke, firstHalf);
 }
 
-void TextEntry::moveCaret(int position, bool extend) {
-  const int anchor = caretAtStart_ ? selStart_ + selLength_ : selStart_;
-  position = std::clamp(position, 0, static_cast<int>(text_.size()));
-  selStart_ = extend ? std::min(anchor, position) : position;
-  selLength_ = extend ? std::abs(anchor - position) : 0;
-  caretAtStart_ = extend && position < anchor;
-  changed();
+bool TextEntry::clipboardKey(const KeyStroke& stroke) {
+  struct Row {
+    int code, shift;
+    void (TextEntry::*act)();
+  };
+  static constexpr Row table[] = {
+      {'A', shift::Ctrl, &TextEntry::userSelectedAll},
+      {'C', shift::Ctrl, &TextEntry::userCopied},
+      {'X', shift::Ctrl, &TextEntry::userCut},
+      {'V', shift::Ctrl, &TextEntry::userPasted},
+      {'Z', shift::Ctrl, &TextEntry::userUndid},
+      {'Y', shift::Ctrl, &TextEntry::userRedid},
+      {key::Insert, shift::Ctrl, &TextEntry::userCopied},
+      {key::Insert, shift::Shift, &TextEntry::userPasted},
+      {key::Delete, shift::Shift, &TextEntry::userCut},
+  };
+  const auto* row = std::ranges::find_if(
+      table, [&](const Row& each) { return each.code == stroke.code && each.shift == stroke.shift; });
+  if (row == std::end(table)) return false;
+  (this->*row->act)();
+  return true;
 }
 
-bool TextEntry::ownControlKey(const KeyStroke& stroke) {
-  const String selected =
-      text_.substr(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_));
+bool TextEntry::caretKey(const KeyStroke& stroke) {
+  const bool ctrl = (stroke.shift & shift::Ctrl) != 0;
+  const bool extend = (stroke.shift & shift::Shift) != 0;
+  const bool collapse = SelLength() > 0 && !extend && !ctrl;
+  const int size = static_cast<int>(Text().size());
   switch (stroke.code) {
-    case 'A':
-      userSelected(0, static_cast<int>(text_.size()));
-      changed();
+    case key::Left:
+      moveCaret(ctrl       ? wordBefore(Text(), caret())
+                : collapse ? SelStart()
+                           : placeBefore(Text(), caret()),
+                extend);
       return true;
-    case 'C':
-    case 'X':
-      if (selected.empty()) return true;
-      Desktop::current().copyToClipboard(selected);
-      if (stroke.code == 'X') replaceSelection(u"");
+    case key::Right:
+      moveCaret(ctrl       ? wordBehind(Text(), caret())
+                : collapse ? SelStart() + SelLength()
+                           : placeBehind(Text(), caret()),
+                extend);
       return true;
-    case 'V':
-      userPasted(Desktop::current().clipboardText());
+    case key::Home:
+      moveCaret(ctrl || !hasLines() ? 0 : lineStart(Text(), caret()), extend);
+      return true;
+    case key::End:
+      moveCaret(ctrl || !hasLines() ? size : lineEnd(Text(), caret()), extend);
       return true;
     default:
       return false;
   }
 }
 
-bool TextEntry::ownKey(const KeyStroke& stroke) {
-  const char16_t firstHalf = std::exchange(firstHalf_, u'\0');
-  if ((stroke.shift & shift::Ctrl) != 0 && ownControlKey(stroke)) return true;
-  const bool extend = (stroke.shift & shift::Shift) != 0;
-  const bool collapse = selLength_ > 0 && !extend;
-  switch (stroke.code) {
-    case key::Left:
-      moveCaret(collapse ? selStart_ : before(text_, caret()), extend);
-      return true;
-    case key::Right:
-      moveCaret(collapse ? selStart_ + selLength_ : behind(text_, caret()), extend);
-      return true;
-    case key::Home:
-      moveCaret(0, extend);
-      return true;
-    case key::End:
-      moveCaret(static_cast<int>(text_.size()), extend);
-      return true;
-    case key::Delete:
-      if (selLength_ == 0) userSelected(selStart_, behind(text_, selStart_) - selStart_);
-      replaceSelection(u"");
-      return true;
-    case key::Backspace:
-      if (selLength_ == 0 && selStart_ > 0) {
-        const int start = before(text_, selStart_);
-        userSelected(start, selStart_ - start);
-      }
-      replaceSelection(u"");
-      return true;
-    default:
-      break;
-  }
+bool TextEntry::deletingKey(const KeyStroke& stroke) {
+  if (stroke.code != key::Delete && stroke.code != key::Backspace) return false;
+  const bool ctrl = (stroke.shift & shift::Ctrl) != 0;
+  int start = SelStart();
+  int end = start + SelLength();
+  if (start == end && stroke.code == key::Backspace)
+    start = ctrl ? wordBefore(Text(), start) : placeBefore(Text(), start);
+  else if (start == end)
+    end = ctrl ? wordBehind(Text(), end) : placeBehind(Text(), end);
+  if (start != end) replace(start, end - start, u"", TextEditor::Step::Other);
+  return true;
+}
+
+bool TextEntry::typingKey(const KeyStroke& stroke, char16_t firstHalf) {
   const char16_t typed = typedAs(stroke.character);
-  if (typed < u' ' || typed == u'\x7f') return false;
+  if (!isText(typed) || (stroke.shift & shift::Ctrl) != 0) return false;
   if (unicode::isHighSurrogate(typed)) {
     firstHalf_ = typed;
   } else if (!unicode::isLowSurrogate(typed)) {
-    replaceSelection(StringView(&typed, 1));
+    replaceSelection(StringView(&typed, 1), TextEditor::Step::Typing);
   } else if (firstHalf != u'\0') {
-    replaceSelection(String{firstHalf, typed});
+    replaceSelection(String{firstHalf, typed}, TextEditor::Step::Typing);
   }
   return true;
 }

@@ -45,11 +45,11 @@ String ValueEntry::pastedAs(StringView text) const {
 }
 
 void ValueEntry::focusEntered() {
+  TextEntry::focusEntered();
   focused_ = true;
   settled_ = value_;
   show(editText());
-  userSelected(0, static_cast<int>(Text().size()));
-  changed();
+  selectAll();
 }
 
 void ValueEntry::focusLeft() {

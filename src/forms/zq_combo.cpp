@@ -134,20 +134,20 @@ StringView zqCombo::completionOf(StringView front) const {
   return {};
 }
 
-void zqCombo::userEdited(StringView text, int selStart, int selLength) {
+void zqCombo::complete(TextState& next) const {
   // Something was typed at the end; what is deleted is never brought back.
-  const bool longer = text.size() > Text().size() - static_cast<std::size_t>(SelLength());
-  const bool atEnd = selLength == 0 && selStart == static_cast<int>(text.size());
-  const StringView whole = longer && atEnd ? completionOf(text) : StringView();
+  const bool longer = next.text.size() > Text().size() - static_cast<std::size_t>(SelLength());
+  const int size = static_cast<int>(next.text.size());
+  if (!longer || next.anchor != size || next.caret != size) return;
+  const StringView whole = completionOf(next.text);
+  if (whole.empty()) return;
+  next.text += whole.substr(next.text.size());
+  next.caret = static_cast<int>(next.text.size());
+}
+
+void zqCombo::took(const std::optional<Variant>& typed) {
   const int before = ListIndex();
-  if (whole.empty()) {
-    ValueEntry::userEdited(text, selStart, selLength);
-  } else {
-    const StringView rest = whole.substr(text.size());
-    ValueEntry::userEdited(String(text).append(rest), selStart, static_cast<int>(rest.size()));
-    // The view holds what was typed, also when the whole is the text of before.
-    changed();
-  }
+  ValueEntry::took(typed);
   markChosen();
   if (ListIndex() >= 0 && ListIndex() != before) Click.raise();
 }
@@ -156,7 +156,7 @@ void zqCombo::userEdited(StringView text, int selStart, int selLength) {
 
 void zqCombo::choose(int index) {
   assignValue(Variant(keyOf(index)));
-  if (form().ActiveControl() == this) userSelected(0, static_cast<int>(Text().size()));
+  if (form().ActiveControl() == this) selectAll();
   changed();
   Click.raise();
 }
@@ -165,7 +165,8 @@ bool zqCombo::ownKey(const KeyStroke& stroke) {
   needEntries();
   if (closedListTakes(stroke)) return true;
   // Without an editor there is still something to copy.
-  const bool copies = (stroke.shift & shift::Ctrl) != 0 && (stroke.code == 'A' || stroke.code == 'C');
+  const bool copies =
+      stroke.shift == shift::Ctrl && (stroke.code == 'A' || stroke.code == 'C' || stroke.code == key::Insert);
   return (allowedit() || copies) && ValueEntry::ownKey(stroke);
 }
 

@@ -64,7 +64,7 @@ class zqCombo : public ValueEntry, public DropDown {
   // ---- for toolkits
 
   bool isReadOnly() const noexcept override { return !allowedit(); }
-  void userEdited(StringView text, int selStart, int selLength) override;
+  bool hasCaret() const noexcept override { return allowedit(); }
   bool takesKeyFirst(const KeyStroke& stroke) override { return openListTakes(stroke); }
   bool ownKey(const KeyStroke& stroke) override;
   /// Opens the list of a field without an editor; otherwise a click sets the caret.
@@ -78,6 +78,8 @@ class zqCombo : public ValueEntry, public DropDown {
   void choose(int index) override;
   void listChanged() override { changed(); }
   bool hasEditor() const noexcept override { return allowedit(); }
+  void complete(TextState& next) const override;
+  void took(const std::optional<Variant>& typed) override;
   String displayText() const override;
   String editText() const override { return displayText(); }
   std::optional<Variant> read(StringView typed) const override;

@@ -8,6 +8,7 @@
 #include "forms/command_button.h"
 #include "forms/form.h"
 #include "forms/menu.h"
+#include "forms/text_entry.h"
 #include "runtime/convert.h"
 
 namespace zqn::headless {
@@ -44,7 +45,15 @@ void HeadlessDesktop::release() {
 
 void HeadlessDesktop::click(Control& control) {
   if (openMessageBox() != nullptr || openPopupMenu() != nullptr || &control.form() != activeForm()) return;
-  if (control.form().mousePressed(control)) control.form().mouseReleased(control);
+  if (mouseDown(control)) control.form().mouseReleased(control);
+}
+
+bool HeadlessDesktop::mouseDown(Control& control) {
+  const bool focusCame = control.form().ActiveControl() != &control;
+  if (!control.form().mousePressed(control)) return false;
+  auto* text = dynamic_cast<TextEntry*>(&control);
+  if (text != nullptr) text->userPressed(static_cast<int>(text->Text().size()), focusCame);
+  return true;
 }
 
 bool HeadlessDesktop::answer(MsgBoxResult result) {

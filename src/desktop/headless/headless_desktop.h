@@ -30,8 +30,11 @@ class HeadlessDesktop : public Desktop {
   void press(const KeyStroke& stroke);
   /// Presses the keys that forms have queued until none is left.
   void pressQueuedKeys();
-  /// A click of the left button on a control: moves the focus, and has its effect when the form lets it.
+  /// A click of the left button on a control: moves the focus, and has its effect when the form lets it. In a
+  /// text it falls behind the last character.
   void click(Control& control);
+  /// The first half of it; False when the form lets no release follow.
+  bool mouseDown(Control& control);
   /// Answers the open message box; false when none is open or it lacks the button.
   bool answer(MsgBoxResult result);
   /// Takes an item of the open menu, or none with nullptr; False when none is open, or it lacks the item, or

@@ -44,6 +44,8 @@ bool ControlInput::eventFilter(QObject* watched, QEvent* event) {
 bool ControlInput::mouse(QMouseEvent& event) {
   switch (event.type()) {
     case QEvent::MouseMove:
+      if (swallowing_ && target_.held_ && (event.buttons() & Qt::LeftButton) != 0)
+        shielded(target_.control(), u"MouseMove", [&] { target_.dragged(event); });
       return swallowing_;
     case QEvent::MouseButtonRelease:
       return released(event);

@@ -37,17 +37,15 @@ void ControlWidget::sync() {
   if (widget_.isEnabledTo(widget_.parentWidget()) != control_.Enabled())
     widget_.setEnabled(control_.Enabled());
   const QString tip = toQt(control_.ToolTipText());
-  if (widget_.accessibleDescription() != tip) {
-    widget_.setToolTip(plainTip(tip));
-    widget_.setAccessibleDescription(tip);
-  }
+  if (widget_.toolTip() != plainTip(tip)) widget_.setToolTip(plainTip(tip));
+  if (widget_.accessibleDescription() != description()) widget_.setAccessibleDescription(description());
   drawColours();
   draw();
 }
 
 void ControlWidget::drawColours() {
   const std::uint32_t back = control_.BackColor();
-  const std::uint32_t fore = control_.ForeColor();
+  const std::uint32_t fore = foreColor();
   if (back == drawnBack_ && fore == drawnFore_) return;
   drawnBack_ = back;
   drawnFore_ = fore;
@@ -74,14 +72,19 @@ QString ControlWidget::shows() const {
   found.expect("Width", shown.width(), wanted.width());
   found.expect("Height", shown.height(), wanted.height());
   found.expect("ToolTipText", widget_.toolTip(), plainTip(toQt(control_.ToolTipText())));
+  found.expect("description", widget_.accessibleDescription(), description());
   compare(found);
   if (found.found().isEmpty()) return {};
   return widget_.objectName() + QStringLiteral(": ") + found.found().join(QStringLiteral(", "));
 }
 
-void ControlWidget::ownKey(QKeyEvent&, const KeyStroke& stroke, bool) { control_.ownKey(stroke); }
+QString ControlWidget::description() const { return toQt(control_.ToolTipText()); }
+
+void ControlWidget::ownKey(const KeyStroke& stroke) { control_.ownKey(stroke); }
 
 bool ControlWidget::pressed(const QMouseEvent&, bool) { return false; }
+
+void ControlWidget::dragged(const QMouseEvent&) {}
 
 bool ControlWidget::pressedTwice(const QMouseEvent& event) { return pressed(event, false); }
 

@@ -13,7 +13,6 @@
 //     };
 #pragma once
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QStringList>
@@ -63,12 +62,13 @@ class ControlWidget {
 
   // ---- input, called after the form has agreed
 
-  /// The control's own effect of a key. `event` is what came, `stroke` what the handlers made of it, which
-  /// `asTyped` says to be the same.
-  virtual void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped);
+  /// The control's own effect of a key, as the handlers left it.
+  virtual void ownKey(const KeyStroke& stroke);
   /// The left button went down. `focusCame`: this press brought the focus. True when the widget's own press
   /// must not follow.
   virtual bool pressed(const QMouseEvent& event, bool focusCame);
+  /// The pointer has moved while the left button is down since a press that the widget did not see itself.
+  virtual void dragged(const QMouseEvent& event);
   /// The second press of a double click.
   virtual bool pressedTwice(const QMouseEvent& event);
   /// The widget finds out by itself that it was clicked, and calls userClicked.
@@ -79,6 +79,10 @@ class ControlWidget {
   virtual void compare(Differences& found) const = 0;
   /// Where and how large it is drawn: as the control says, unless the kind needs more room.
   virtual QRect place() const { return Scale(widget_).rect(control_); }
+  /// The colour of what it says.
+  virtual std::uint32_t foreColor() const { return control_.ForeColor(); }
+  /// What assistive technology reads out beside the name.
+  virtual QString description() const;
   /// A click without a mouse (assistive technology) or, after the form agreed to the press, with it.
   void userClicked();
 

@@ -69,14 +69,11 @@ void DayEntry::paintEvent(QPaintEvent* event) {
 
 // ---- the calendar
 
-void DayEntry::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
-  const bool plain = stroke.shift == shift::None;
-  if (plain && stroke.code == key::F4) {
+void DayEntry::ownKey(const KeyStroke& stroke) {
+  if (stroke.shift == shift::None && stroke.code == key::F4) {
     openCalendar();
-  } else if (plain && (stroke.code == key::F2 || stroke.code == key::F3)) {
-    model_.ownKey(stroke);
   } else {
-    TextEntry::ownKey(event, stroke, asTyped);
+    TextEntry::ownKey(stroke);
   }
 }
 

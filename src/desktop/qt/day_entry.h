@@ -18,7 +18,7 @@ class DayEntry : public TextEntry {
   DayEntry(zqn::DayEntry& model, QWidget* parent);
   ~DayEntry() override;
 
-  void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) override;
+  void ownKey(const KeyStroke& stroke) override;
   /// The calendar, when it is open.
   QCalendarWidget* calendar() const {
     return calendar_ && calendar_->isVisible() ? calendar_.get() : nullptr;

@@ -171,26 +171,25 @@ void FormWindow::placeFocus() {
 // ---- input
 
 bool FormWindow::keyPressed(QKeyEvent& event) {
-  const std::optional<KeyStroke> stroke = strokeOf(event);
-  if (!stroke) return false;
-  shielded(form_, u"KeyDown", [&] {
-    const KeyOutcome outcome = form_.keyPressed(*stroke);
-    if (!outcome.own) return;
-    const bool asTyped = outcome.stroke.code == stroke->code && outcome.stroke.character == stroke->character;
-    widgetOf(*form_.ActiveControl())->ownKey(event, outcome.stroke, asTyped);
-  });
-  // Whatever a native edit made of it: the key has been here and goes nowhere else.
+  const std::vector<KeyStroke> strokes = strokesOf(event);
+  for (const KeyStroke& stroke : strokes) {
+    shielded(form_, u"KeyDown", [&] {
+      const KeyOutcome outcome = form_.keyPressed(stroke);
+      if (outcome.own) widgetOf(*form_.ActiveControl())->ownKey(outcome.stroke);
+    });
+  }
+  if (strokes.empty()) return false;
   event.accept();
   return true;
 }
 
 bool FormWindow::keyReleased(QKeyEvent& event) {
-  const std::optional<KeyStroke> stroke = strokeOf(event);
-  if (!stroke) return false;
+  const std::vector<KeyStroke> strokes = strokesOf(event);
+  if (strokes.empty()) return false;
   event.accept();
   // A key that is held comes as presses alone.
   if (!event.isAutoRepeat())
-    shielded(form_, u"KeyUp", [&] { form_.keyReleased(stroke->code, stroke->shift); });
+    shielded(form_, u"KeyUp", [&] { form_.keyReleased(strokes.front().code, strokes.front().shift); });
   return true;
 }
 

@@ -31,7 +31,7 @@ constexpr std::array<std::pair<int, int>, 25> namedKeys{{
     {Qt::Key_Up, key::Up},
     {Qt::Key_Right, key::Right},
     {Qt::Key_Down, key::Down},
-    {Qt::Key_Insert, 45},
+    {Qt::Key_Insert, key::Insert},
     {Qt::Key_Delete, key::Delete},
     {Qt::Key_Menu, 93},
     {Qt::Key_NumLock, 144},
@@ -39,6 +39,8 @@ constexpr std::array<std::pair<int, int>, 25> namedKeys{{
 }};
 constexpr int numpadZero = 96;
 constexpr int functionKeys = 24;
+/// Keys up to here are the characters that they stand for.
+constexpr int lastPlainKey = 0xFFFF;
 
 int shiftOfKey(const QKeyEvent& event) {
   int bits = shiftOf(event.modifiers());
@@ -65,38 +67,54 @@ int shiftOf(Qt::KeyboardModifiers held) {
   return bits;
 }
 
-std::optional<KeyStroke> strokeOf(const QKeyEvent& event) {
+std::vector<KeyStroke> strokesOf(const QKeyEvent& event) {
   const int held = shiftOfKey(event);
   const int pressed = event.key();
   if (pressed >= Qt::Key_F1 && pressed < Qt::Key_F1 + functionKeys)
-    return KeyStroke::ofCode(key::F1 + pressed - Qt::Key_F1, held);
+    return {KeyStroke::ofCode(key::F1 + pressed - Qt::Key_F1, held)};
   const auto* named = std::ranges::find(namedKeys, pressed, [](const auto& entry) { return entry.first; });
-  if (named != namedKeys.end()) return KeyStroke::ofCode(named->second, held);
+  if (named != namedKeys.end()) return {KeyStroke::ofCode(named->second, held)};
 
-  const QString text = event.text();
-  const bool ctrl = (held & shift::Ctrl) != 0;
-  const bool alt = (held & shift::Alt) != 0;
-  if (ctrl != alt) {
-    // A shortcut; what the key would type is no matter.
-    if (!isLetterOrDigit(pressed)) return KeyStroke{0, held, 0};
-    return KeyStroke::ofCharacter(static_cast<char16_t>(pressed), held);
-  }
-  if (text.size() == 1 && text.at(0).isPrint()) {
-    KeyStroke stroke = KeyStroke::ofCharacter(text.at(0).unicode(), held & shift::Shift);
+  const bool shortcut = ((held & shift::Ctrl) != 0) != ((held & shift::Alt) != 0);
+  std::vector<KeyStroke> strokes;
+  for (const QChar unit : shortcut ? QString() : event.text()) {
+    if (!isText(unit.unicode())) continue;
+    strokes.push_back(KeyStroke::ofCharacter(unit.unicode(), held & shift::Shift));
     const bool digit = pressed >= Qt::Key_0 && pressed <= Qt::Key_9;
-    if (digit && (event.modifiers() & Qt::KeypadModifier)) stroke.code = numpadZero + pressed - Qt::Key_0;
-    return stroke;
+    if (digit && (event.modifiers() & Qt::KeypadModifier))
+      strokes.back().code = numpadZero + pressed - Qt::Key_0;
   }
-  if (text.isEmpty() && isLetterOrDigit(pressed)) return KeyStroke{pressed, held, 0};
-  return std::nullopt;
+  if (!strokes.empty()) return strokes;
+  // What the key would type by itself is no matter: a shortcut, or a key that types nothing.
+  const bool character = pressed >= Qt::Key_Space && pressed <= lastPlainKey;
+  if (!character && !shortcut) return {};
+  KeyStroke stroke =
+      character ? KeyStroke::ofCharacter(static_cast<char16_t>(pressed), held) : KeyStroke{0, held, 0};
+  if (!shortcut) stroke.character = 0;
+  return {stroke};
 }
+
+namespace {
+
+/// What a key types on a real keyboard, also where the dialogs make nothing of it.
+QString textOf(const KeyStroke& stroke) {
+  if (stroke.character != 0) return QString(QChar(stroke.character));
+  if (stroke.code == key::Delete) return QStringLiteral("\x7f");
+  if (stroke.shift == shift::Alt && isLetterOrDigit(stroke.code))
+    return QString(QChar(stroke.code)).toLower();
+  if (stroke.shift == (shift::Alt | shift::Shift) && isLetterOrDigit(stroke.code))
+    return QString(QChar(stroke.code));
+  return {};
+}
+
+}  // namespace
 
 QKeyEvent eventOf(const KeyStroke& stroke, QEvent::Type type) {
   Qt::KeyboardModifiers held = Qt::NoModifier;
   if ((stroke.shift & shift::Shift) != 0) held |= Qt::ShiftModifier;
   if ((stroke.shift & shift::Ctrl) != 0) held |= Qt::ControlModifier;
   if ((stroke.shift & shift::Alt) != 0) held |= Qt::AltModifier;
-  const QString text = stroke.character != 0 ? QString(QChar(stroke.character)) : QString();
+  const QString text = textOf(stroke);
 
   if (stroke.code == key::Tab && (stroke.shift & shift::Shift) != 0)
     return {type, Qt::Key_Backtab, held, text};

@@ -124,18 +124,6 @@ void ListField::resizeEvent(QResizeEvent* event) {
 
 // ---- input
 
-void ListField::ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) {
-  if (isReadOnly() || entries_.isListKey(stroke)) {
-    model_.ownKey(stroke);
-  } else {
-    TextEntry::ownKey(event, stroke, asTyped);
-  }
-}
-
-bool ListField::pressed(const QMouseEvent& event, bool focusCame) {
-  return isReadOnly() || TextEntry::pressed(event, focusCame);
-}
-
 void ListField::toList(const QMouseEvent& event) {
   const QModelIndex entry = list_.indexAt(event.position().toPoint());
   if (!entry.isValid()) return;

@@ -41,9 +41,6 @@ class ListFieldRows : public QAbstractTableModel {
 
 class ListField : public TextEntry {
  public:
-  void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) override;
-  bool pressed(const QMouseEvent& event, bool focusCame) override;
-
   /// What a person clicks on to open the list, and to choose from it.
   QAbstractButton& button() { return button_; }
   QAbstractItemView& list() { return list_; }

@@ -1,50 +1,47 @@
 // SPDX-License-Identifier: MIT
 //
-// Draws a TextBox of several lines, which break at the field's width. The widget counts a line break as one
-// place, the model as many as it has units; texts that come back to the model have CR LF.
+// Draws a TextBox of several lines, which break at the field's width. Up, Down, PageUp and PageDown follow the
+// lines as they are drawn: the widget finds the place, the model goes there.
 #pragma once
 
 #include <QPlainTextEdit>
-#include <functional>
-#include <memory>
 
-#include "desktop/qt/control_widget.h"
+#include "desktop/qt/text_field.h"
 #include "forms/text_box.h"
-
-class QMenu;
 
 namespace zqn::qt {
 
-class MultiLineTextBox : public QPlainTextEdit, public ControlWidget {
+class MultiLineTextBox : public QPlainTextEdit, public TextField {
  public:
   MultiLineTextBox(zqn::TextBox& model, QWidget* parent);
-  ~MultiLineTextBox() override;
 
   QWidget& mouseArea() const override { return *viewport(); }
-  void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) override;
-  bool pressed(const QMouseEvent& event, bool focusCame) override;
+  void ownKey(const KeyStroke& stroke) override;
 
  protected:
   void draw() override;
   void compare(Differences& found) const override;
+  QString shownText() const override;
+  Selection shownSelection() const override;
+  void showText(int at, int length, const QString& text) override;
+  void showSelection(Selection selection) override;
+  int positionAt(QPoint point) const override { return cursorForPosition(point).position(); }
 
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void mousePressEvent(QMouseEvent*) override {}
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseDoubleClickEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent* event) override { releasedElsewhere(*event); }
+  void contextMenuEvent(QContextMenuEvent* event) override { openMenu(*event); }
   void inputMethodEvent(QInputMethodEvent* event) override;
-  void insertFromMimeData(const QMimeData* source) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  QString shownText() const;
-  QString wantedText() const;
   Qt::ScrollBarPolicy wantedScrollBar() const;
-  int room() const;
-  void edit(const std::function<void()>& natively);
-  void report();
+  int linesOf(int key) const;
 
   zqn::TextBox& model_;
-  std::unique_ptr<QMenu> menu_;
-  int editing_ = 0;
 };
 
 }  // namespace zqn::qt

@@ -91,7 +91,7 @@ TEST_F(SeveralLines, ArePastedUpToMaxLength) {
                    [&] { EXPECT_EQ(form.lines.Text(), u"eins\r\nzy"); }});
 }
 
-TEST_F(SeveralLines, KeepProtectedBlanksAndUndoNatively) {
+TEST_F(SeveralLines, KeepProtectedBlanksAndUndo) {
   form.lines.Text(u"10\u00A0%");
   person.at(form,
             {[&] { form.lines.SetFocus(); }, [&] { person.key(Qt::Key_End); }, [&] { person.type(u"!"); },

@@ -1,54 +1,38 @@
 // SPDX-License-Identifier: MIT
 //
-// Draws a field with a text and edits natively: caret, selection, undo, clipboard, context menu, input
-// methods. What comes of it is reported to the model at once; what the model makes of that is drawn. Each
-// kind of field derives from it:
+// Draws a field of one line. Each kind of field derives from it:
 //
 //     class TextBox : public TextEntry { ... };
 #pragma once
 
 #include <QLineEdit>
-#include <functional>
-#include <memory>
 
-#include "desktop/qt/control_widget.h"
-#include "forms/text_entry.h"
-
-class QMenu;
+#include "desktop/qt/text_field.h"
 
 namespace zqn::qt {
 
-class TextEntry : public QLineEdit, public ControlWidget {
- public:
-  ~TextEntry() override;
-
-  void ownKey(QKeyEvent& event, const KeyStroke& stroke, bool asTyped) override;
-  /// A press that brought the focus leaves alone what GotFocus selected.
-  bool pressed(const QMouseEvent& event, bool focusCame) override;
-
+class TextEntry : public QLineEdit, public TextField {
  protected:
   TextEntry(zqn::TextEntry& model, QWidget* parent);
 
   void draw() override;
-  void compare(Differences& found) const override;
+  QString shownText() const override { return displayText(); }
+  Selection shownSelection() const override;
+  void showText(int at, int length, const QString& text) override;
+  void showSelection(Selection selection) override;
+  int positionAt(QPoint point) const override;
 
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void mousePressEvent(QMouseEvent*) override {}
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseDoubleClickEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent* event) override { releasedElsewhere(*event); }
+  void contextMenuEvent(QContextMenuEvent* event) override { openMenu(*event); }
   void inputMethodEvent(QInputMethodEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  int shownSelStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
-  int shownSelLength() const { return static_cast<int>(selectedText().size()); }
-  void edit(const std::function<void()>& natively);
-  void report();
-  QString pasted(const QString& text) const;
-  void joinLines();
-  void pasteLine();
-
   zqn::TextEntry& model_;
-  std::unique_ptr<QMenu> menu_;
-  /// A native edit is going on; it is reported when it is complete.
-  int editing_ = 0;
 };
 
 }  // namespace zqn::qt

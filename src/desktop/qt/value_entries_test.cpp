@@ -110,7 +110,7 @@ TEST_F(Numbers, EmptiedShowZeroWhenLeftAndAreNull) {
                    }});
 }
 
-TEST_F(Numbers, UndoNatively) {
+TEST_F(Numbers, UndoByCtrlZ) {
   person.at(form, {[&] { person.click(form.days); }, [&] { person.type(u"7"); },
                    [&] { person.key(Qt::Key_Z, Qt::ControlModifier); },
                    [&] { EXPECT_TRUE(form.days.Value().isNull()); }});

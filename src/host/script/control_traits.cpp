@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "forms/combo_box.h"
+#include "forms/control_kinds.h"
 #include "forms/flex_grid.h"
 #include "forms/list_box.h"
 #include "forms/tdb_list.h"

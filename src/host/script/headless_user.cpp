@@ -29,7 +29,7 @@ void HeadlessUser::mouseDown(const MouseTarget& target) {
       pressed_ = headless::pressOn(*grid, {target.row, target.col}, target.button);
       return;
     }
-    pressed_ = target.control.form().mousePressed(target.control);
+    pressed_ = desktop_.mouseDown(target.control);
     auto* list = dynamic_cast<TDBList*>(&target.control);
     if (pressed_ && list != nullptr) list->userSelect(target.row);
     auto* rows = dynamic_cast<ListBox*>(&target.control);
@@ -71,13 +71,11 @@ void HeadlessUser::mouseDownAgain(const MouseTarget& target) {
 
 void HeadlessUser::takeEntry(Control& control, int entry) {
   auto& drop = dynamic_cast<DropDown&>(control);
-  if (!drop.isOpen()) {
-    mouseDown({control});
-    const bool agreed = pressed_;
-    mouseUp({control});
-    // A click into the text of a field opens nothing; its button does.
-    if (agreed) guarded(control, u"Click", [&] { drop.userOpened(); });
-  }
+  // The button of the field opens the list; a click into its text may not.
+  if (!drop.isOpen())
+    guarded(control, u"MouseDown", [&] {
+      if (control.form().mousePressed(control)) drop.userOpened();
+    });
   guarded(control, u"Click", [&] {
     if (drop.isOpen()) drop.userChose(entry);
   });

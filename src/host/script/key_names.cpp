@@ -15,32 +15,15 @@ struct NamedKey {
 };
 
 constexpr NamedKey namedKeys[] = {
-    {"F1", key::F1},
-    {"F2", key::F1 + 1},
-    {"F3", key::F1 + 2},
-    {"F4", key::F1 + 3},
-    {"F5", key::F1 + 4},
-    {"F6", key::F1 + 5},
-    {"F7", key::F1 + 6},
-    {"F8", key::F1 + 7},
-    {"F9", key::F1 + 8},
-    {"F10", key::F1 + 9},
-    {"F11", key::F1 + 10},
-    {"F12", key::F1 + 11},
-    {"Enter", key::Enter},
-    {"Tab", key::Tab},
-    {"Escape", key::Escape},
-    {"Delete", key::Delete},
-    {"Backspace", key::Backspace},
-    {"Up", key::Up},
-    {"Down", key::Down},
-    {"Left", key::Left},
-    {"Right", key::Right},
-    {"Home", key::Home},
-    {"End", key::End},
-    {"PageUp", key::PageUp},
-    {"PageDown", key::PageDown},
-    {"Space", key::Space},
+    {"F1", key::F1},         {"F2", key::F1 + 1},         {"F3", key::F1 + 2},
+    {"F4", key::F1 + 3},     {"F5", key::F1 + 4},         {"F6", key::F1 + 5},
+    {"F7", key::F1 + 6},     {"F8", key::F1 + 7},         {"F9", key::F1 + 8},
+    {"F10", key::F1 + 9},    {"F11", key::F1 + 10},       {"F12", key::F1 + 11},
+    {"Enter", key::Enter},   {"Tab", key::Tab},           {"Escape", key::Escape},
+    {"Insert", key::Insert}, {"Delete", key::Delete},     {"Backspace", key::Backspace},
+    {"Up", key::Up},         {"Down", key::Down},         {"Left", key::Left},
+    {"Right", key::Right},   {"Home", key::Home},         {"End", key::End},
+    {"PageUp", key::PageUp}, {"PageDown", key::PageDown}, {"Space", key::Space},
 };
 
 Key keyOf(const KeyStroke& stroke) {
@@ -52,8 +35,11 @@ Key takeKey(StringView& text, int shift) {
   const StringView all = text;
   unicode::take(text);
   const StringView character = all.substr(0, all.size() - text.size());
-  if (character.size() == 2)
-    return {KeyStroke::ofCharacter(character.front()).code, shift, String(character)};
+  if (character.size() == 2) {
+    const bool types = (shift & (shift::Ctrl | shift::Alt)) == 0;
+    return {KeyStroke::ofCharacter(character.front()).code, shift, types ? String(character) : String(),
+            String(character)};
+  }
   const char16_t unit = (shift & shift::Shift) != 0 ? upperUnit(character.front()) : character.front();
   switch (unit) {
     case u'\n':
@@ -61,8 +47,11 @@ Key takeKey(StringView& text, int shift) {
       return keyOf(KeyStroke::ofCode(key::Enter, shift));
     case u'\t':
       return keyOf(KeyStroke::ofCode(key::Tab, shift));
-    default:
-      return keyOf(KeyStroke::ofCharacter(unit, shift));
+    default: {
+      Key key = keyOf(KeyStroke::ofCharacter(unit, shift));
+      key.sign = unit;
+      return key;
+    }
   }
 }
 

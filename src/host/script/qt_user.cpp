@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStyleOptionButton>
@@ -20,6 +21,7 @@
 #include "desktop/qt/key_events.h"
 #include "desktop/qt/list_field.h"
 #include "desktop/qt/text.h"
+#include "forms/text_entry.h"
 
 namespace zqn::script {
 
@@ -64,12 +66,16 @@ QPoint placeOfRow(QTableView& list, int row) {
   return {list.viewport()->width() / 2, list.rowViewportPosition(row) + list.rowHeight(row) / 2};
 }
 
+/// As a real keyboard gives it: Alt with S carries "s", Ctrl with A the character 1, and beyond U+FFFF both
+/// halves come at once.
 QKeyEvent keyEvent(const Key& key, QEvent::Type type) {
-  if (key.text.size() < 2)
+  const QString sign = qt::toQt(key.sign);
+  const bool shortcut = (key.shift & (shift::Ctrl | shift::Alt)) != 0;
+  if (sign.isEmpty() || (!shortcut && sign.size() < 2))
     return qt::eventOf({key.code, key.shift, key.text.empty() ? u'\0' : key.text.front()}, type);
-  // Beyond U+FFFF a press types both halves at once.
-  const QString text = qt::toQt(key.text);
-  return {type, static_cast<int>(text.toUcs4().front()), Qt::NoModifier, text};
+  const bool carriesSign = (key.shift & shift::Ctrl) == 0;
+  return {type, static_cast<int>(sign.toUpper().toUcs4().front()), heldKeys(key.shift),
+          carriesSign ? sign : qt::toQt(key.text)};
 }
 
 /// What hears the keyboard: an open list or calendar before the window.
@@ -112,9 +118,17 @@ void QtUser::point(const MouseTarget& target) {
   }
 }
 
+/// A click into a text falls behind its last character, however far the text reaches.
+QPoint QtUser::pressedAt(const MouseTarget& target) const {
+  if (dynamic_cast<TextEntry*>(&target.control) == nullptr) return pointer_;
+  constexpr int farOut = 1 << 20;
+  const bool lines = dynamic_cast<QPlainTextEdit*>(desktop_.widgetOf(target.control)) != nullptr;
+  return {farOut, lines ? farOut : pointer_.y()};
+}
+
 void QtUser::mouseDown(const MouseTarget& target) {
   point(target);
-  sendMouse(*desktop_.mouseAreaOf(target.control), QEvent::MouseButtonPress, pointer_, target.button,
+  sendMouse(*desktop_.mouseAreaOf(target.control), QEvent::MouseButtonPress, pressedAt(target), target.button,
             heldKeys(target.shift));
 }
 

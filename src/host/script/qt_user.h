@@ -31,6 +31,7 @@ class QtUser : public UserInput {
 
  private:
   void point(const MouseTarget& target);
+  QPoint pressedAt(const MouseTarget& target) const;
 
   qt::QtDesktop& desktop_;
   /// Where the pointer is, in the widget: a button comes up there, wherever a list has scrolled meanwhile.

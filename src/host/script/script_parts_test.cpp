@@ -62,6 +62,11 @@ TEST(KeyNames, AreKeysOrSingleCharacters) {
   EXPECT_EQ(strokeOf("a"), (Stroke{65, 0, u"a"}));
   EXPECT_EQ(strokeOf("ü", 1), (Stroke{KeyStroke::ofCharacter(u'ü').code, 1, u"Ü"}));
   EXPECT_EQ(strokeOf("l", 2), (Stroke{76, 2, u"\x0c"}));
+  EXPECT_EQ(strokeOf("Insert", 1), (Stroke{45, 1, u""}));
+  EXPECT_EQ(strokeOf("s", 4), (Stroke{83, 4, u""})) << "Alt types nothing";
+  EXPECT_EQ(keyOfName("s", 4)->sign, u"s") << "but the key says what it stands for";
+  EXPECT_EQ(strokeOf("q", 6), (Stroke{81, 6, u""}));
+  EXPECT_EQ(strokeOf("😀", 4).text, u"");
   EXPECT_EQ(strokeOf("😀"), (Stroke{KeyStroke::ofCharacter(0xD83D).code, 0, u"😀"}));
   EXPECT_EQ(strokeOf("-"), (Stroke{KeyStroke::ofCharacter(u'-').code, 0, u"-"}));
   for (const char* wrong : {"", "F13", "F0", "enter", "ab", "PgUp"})

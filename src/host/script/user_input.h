@@ -26,6 +26,8 @@ struct Key {
   int shift = 0;
   /// What the press types: nothing, one character, or the two halves of one beyond U+FFFF.
   String text;
+  /// The character that the key stands for, whether it types it or not; empty for a key with a name.
+  String sign = {};
 };
 
 /// Where the pointer is: on a control, and in a list on one of its rows, in a grid on a cell, -1 for none.

@@ -40,8 +40,8 @@ bool TextEditor::select(int anchor, int caret) {
   const int size = static_cast<int>(state_.text.size());
   anchor = std::clamp(anchor, 0, size);
   caret = std::clamp(caret, 0, size);
-  typing_ = false;
   if (state_.anchor == anchor && state_.caret == caret) return false;
+  typing_ = false;
   state_.anchor = anchor;
   state_.caret = caret;
   return true;

@@ -48,7 +48,7 @@ class TextEditor {
 
   /// Another text that no edit has led to: the caret goes to its front, nothing can be undone.
   void assign(StringView text);
-  /// Positions beyond the text are its end. Ends a run of typing. True when it selects something else.
+  /// Positions beyond the text are its end. True when it selects something else, which ends a run of typing.
   bool select(int anchor, int caret);
   /// A person's edit has led to this state.
   void edit(TextState next, Step step);

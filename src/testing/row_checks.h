@@ -4,8 +4,9 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <string>
+#include <unordered_set>
+#include <vector>
 
 #include "host/database/schema/table.h"
 
@@ -20,20 +21,28 @@ class RowLedger {
   /// Notes the row. Returns what is wrong with it (rowFault, or a key that stands already), or "".
   std::string add(const Table& table, const Row& row);
 
+  /// Rows of the table so far.
   std::int64_t count(StringView tableName) const;
   /// All values of the column but Null, compared by the collation.
   bool holds(StringView tableName, StringView column, const String& value) const;
 
  private:
-  struct Collated {
-    bool operator()(const String& left, const String& right) const;
+  // Equal by the collation, cell by cell.
+  using Key = std::vector<String>;
+  struct Hash {
+    std::size_t operator()(const String& text) const noexcept;
+    std::size_t operator()(const Key& key) const noexcept;
   };
-  struct KeyLess {
-    bool operator()(const std::vector<String>& left, const std::vector<String>& right) const;
+  struct Equal {
+    bool operator()(const String& left, const String& right) const noexcept;
+    bool operator()(const Key& left, const Key& right) const noexcept;
   };
-  std::map<String, std::int64_t> counts_;
-  std::map<String, std::set<std::vector<String>, KeyLess>> keys_;
-  std::map<std::pair<String, String>, std::set<String, Collated>> values_;
+  struct Rows {
+    std::int64_t count = 0;
+    std::unordered_set<Key, Hash, Equal> keys;
+    std::vector<std::unordered_set<String, Hash, Equal>> values;  // of each column
+  };
+  std::map<String, Rows, std::less<>> tables_;
 };
 
 }  // namespace zqn::host

@@ -3,10 +3,11 @@
 """Holds the tree against the rules of the project that no compiler knows.
 
     project_check.py            prints complaints; the exit status is 1 when there is one
+    project_check.py --arrows   prints the picture of the folders for docs/architecture.md
     project_check.py --public   prints the public headers
 
-Each rule is a function that yields complaints; what folders state about themselves is read by folders.py. Only files
-under version control, or about to be, are looked at.
+Each rule is a function that yields complaints; what holds between folders stands in folders.py. Only files under
+version control, or about to be, are looked at.
 """
 
 import re
@@ -17,16 +18,7 @@ from pathlib import Path
 import folders
 
 ROOT = Path(__file__).resolve().parent.parent
-
-# A folder may use its own floor and those below; on floor 4, where each folder is one toolkit or one
-# database, a folder uses no other folder of its floor.
-FLOORS = {
-    "runtime": 1,
-    "ado": 2, "contract": 2, "forms": 2,
-    "frontend": 3, "dialog": 3, "definitions": 3, "catalogues": 3, "sales": 3, "split": 3,
-    "ado/sqlite": 4, "ado/odbc": 4, "desktop/headless": 4, "desktop/qt": 4,
-    "host": 5, "testing": 5,
-}
+PICTURE = "docs/architecture.md"
 
 STANDARD_HEADERS = set("""
 algorithm any array atomic bit bitset cassert cctype cerrno cfloat charconv chrono cinttypes climits clocale
@@ -66,43 +58,14 @@ def text_of(path):
         return None  # a picture
 
 
-def is_test(path):
-    """Tests, and what they share: testing.h, *_testing.h, test_support.*, *_for_tests.*, the folders suite and testing."""
-    return (path.stem.endswith(("_test", "testing", "_for_tests")) or path.stem == "test_support"
-            or path.parent.name in ("suite", "testing"))
-
-
-def folder_of(relative):
-    """The key of FLOORS that a path under src/ belongs to; the longest one wins."""
-    fitting = [folder for folder in FLOORS if relative.startswith(folder + "/")]
-    return max(fitting, key=len, default=None)
-
-
-def floors(path, text):
-    if not path.is_relative_to(ROOT / "src") or path.suffix not in (".h", ".cpp"):
+def toolkits(path, text):
+    """Floors 1 to 3 need the standard library alone."""
+    if not path.is_relative_to(ROOT / "src") or path.suffix not in (".h", ".cpp") or folders.is_test(path):
         return
-    relative = path.relative_to(ROOT / "src").as_posix()
-    folder = folder_of(relative)
-    if folder is None:
-        yield 1, "stands in no folder of a floor"
-        return
-    if is_test(path):
-        return  # tests look at a floor from anywhere
-    floor = FLOORS[folder]
-    for number, line in enumerate(text.splitlines(), 1):
-        included = re.match(r'\s*#\s*include\s*(["<])([^">]+)', line)
-        if not included:
-            continue
-        quote, name = included.groups()
-        if quote == "<":
-            if floor <= 3 and name not in STANDARD_HEADERS:
-                yield number, f"<{name}> is no header of the standard library, and this is floor {floor}"
-            continue
-        other = folder_of(name)
-        if other is None:
-            yield number, f'"{name}" is not written from src/ on'
-        elif other != folder and (FLOORS[other] > floor or floor == FLOORS[other] == 4):
-            yield number, f'"{name}" stands on floor {FLOORS[other]}, this is floor {floor}'
+    floor = folders.FLOORS.get(folders.folder_of(path.relative_to(ROOT / "src").as_posix(), folders.FLOORS), 4)
+    for line, quote, name in folders.includes(text):
+        if quote == "<" and floor <= 3 and name not in STANDARD_HEADERS:
+            yield line, f"<{name}> is no header of the standard library, and this is floor {floor}"
 
 
 def header_shape(path, text):
@@ -161,14 +124,19 @@ def commit_messages():
 def main():
     files = [(path, text) for path in tracked_files() if (text := text_of(path)) is not None]
     tree = folders.Tree(ROOT / "src", files)
+    if sys.argv[1:] == ["--arrows"]:
+        print(tree.arrows(), end="")
+        return 0
     if sys.argv[1:] == ["--public"]:
         print("\n".join(f"src/{header}" for header in sorted(tree.public)))
         return 0
     complaints = list(commit_messages())
-    complaints += (f"{path.relative_to(ROOT)}:{line}: {what}" for path, line, what in tree.public_headers())
     for path, text in files:
-        for rule in (floors, header_shape, length, words, white_space):
+        for rule in (toolkits, header_shape, length, words, white_space):
             complaints += (f"{path.relative_to(ROOT)}:{line}: {what}" for line, what in rule(path, text))
+    complaints += (f"{path.relative_to(ROOT)}:{line}: {what}" for path, line, what in tree.complaints())
+    if tree.arrows() not in text_of(ROOT / PICTURE):
+        complaints.append(f"{PICTURE}:1: the arrows have changed; tools/project_check.py --arrows prints them")
     for complaint in complaints:
         print(complaint)
     print(f"{len(files)} files held against the project's rules: {len(complaints)} complaints")

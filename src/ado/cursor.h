@@ -29,6 +29,8 @@ class Cursor {
   virtual RowView row(int row, RowStore& buffer) = 0;
   /// The same, read afresh where its key can be told.
   virtual RowView refresh(int row, RowStore& buffer) = 0;
+  /// The same, and nothing of it is kept.
+  virtual RowView readNow(int row, RowStore& buffer) = 0;
   /// Rows are read from the database each time: a list keeps those that it draws.
   virtual bool readsRows() const noexcept = 0;
   /// The first row from `from` on, a known one, that the criterion fits; -1 for none. `buffer` as in row.

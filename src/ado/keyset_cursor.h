@@ -26,6 +26,7 @@ class KeysetCursor : public Cursor {
   void fetch(int atMost) override;
   RowView row(int row, RowStore& buffer) override;
   RowView refresh(int row, RowStore& buffer) override;
+  RowView readNow(int row, RowStore& buffer) override { return refresh(row, buffer); }
   bool readsRows() const noexcept override { return true; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;

@@ -76,6 +76,7 @@ void Recordset::execute() {
   } else {
     leaveTo(Place::Empty);
   }
+  tellWatchers();
 }
 
 void Recordset::shut() noexcept {
@@ -87,6 +88,7 @@ void Recordset::shut() noexcept {
   anchor_->recordset = nullptr;
   anchor_.reset();
   connection_->dismiss(*this);
+  tellWatchers();
 }
 
 void Recordset::Close() {

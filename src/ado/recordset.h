@@ -131,6 +131,18 @@ class Recordset {
   // ---- for lists that show the recordset: nothing here moves it, tells the observer, or sees a pending
   // edit. Rows count from 0.
 
+  /// Hears that the rows are others, or none any more: after Open, Requery and Close, and after each failure
+  /// that closes the recordset.
+  class Watcher {
+   public:
+    virtual void rowsReplaced() noexcept = 0;
+
+   protected:
+    ~Watcher() = default;
+  };
+  /// Each watcher once, until it is removed.
+  void addWatcher(Watcher& watcher);
+  void removeWatcher(Watcher& watcher) noexcept;
   /// Rows known so far; a list over a large table knows the first ones only, until fetchKeys or a Find has
   /// come to the others. 0 when closed or with a forward-only cursor of the server.
   int knownRows() const noexcept;
@@ -148,6 +160,9 @@ class Recordset {
   bool refreshRow(int row);
   /// The value as text, Null as "".
   String rowText(int row, int column);
+  /// The row as the database holds it now, a value a field; none when it is gone. Nothing of it is kept.
+  /// Errors 3704, 3021 for a row that is not known, the provider's.
+  std::vector<Variant> readRow(int row);
   /// The current row, -1 at BOF, EOF, on a row being added, or when closed.
   int currentRow() const noexcept;
   /// The row of a bookmark. Errors 3001 as Bookmark, 3704.
@@ -167,6 +182,7 @@ class Recordset {
   void before(Operation operation, StringView criterion = {}) const;
   void execute();
   void shut() noexcept;
+  void tellWatchers() noexcept;
 
   bool forwardOnly() const noexcept { return location_ == adUseServer && cursorType_ == adOpenForwardOnly; }
   bool isOnRow() const noexcept { return place_ == Place::Row || place_ == Place::Added; }
@@ -182,8 +198,8 @@ class Recordset {
   Variant fieldValue(int ordinal) const;
   void fieldValue(int ordinal, const Variant& value);
 
-  /// What a list draws of the row from now on; no values for one that is gone.
-  const std::vector<Variant>& keepDrawn(int row, const RowView& read);
+  /// The values of a row, a field each; none of one that is gone.
+  std::vector<Variant> valuesOf(const RowView& read) const;
 
   void requireUpdatable() const;
   void insertRow();
@@ -211,6 +227,7 @@ class Recordset {
   std::vector<Variant> assigned_;  // a column each while an edit is pending; Empty is not assigned
   Place placeBeforeAdd_ = Place::Empty;
 
+  std::vector<Watcher*> watchers_;
   RowCache drawn_;
   RowStore scratch_;
 };

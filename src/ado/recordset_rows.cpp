@@ -68,13 +68,12 @@ void Recordset::fetchKeys(int atMost) {
 
 int Recordset::currentRow() const noexcept { return cursor_ && place_ == Place::Row ? row_ : -1; }
 
-const std::vector<Variant>& Recordset::keepDrawn(int row, const RowView& read) {
+std::vector<Variant> Recordset::valuesOf(const RowView& read) const {
   std::vector<Variant> values;
-  if (read) {
-    values.reserve(static_cast<std::size_t>(fieldCount_));
-    for (int i = 0; i < fieldCount_; ++i) values.push_back(readAs(column(i), read.at(i)));
-  }
-  return drawn_.put(row, std::move(values));
+  if (!read) return values;
+  values.reserve(static_cast<std::size_t>(fieldCount_));
+  for (int i = 0; i < fieldCount_; ++i) values.push_back(readAs(column(i), read.at(i)));
+  return values;
 }
 
 Variant Recordset::rowValue(int row, int ordinal) {
@@ -86,8 +85,14 @@ Variant Recordset::rowValue(int row, int ordinal) {
     return view ? readAs(asked, view.at(ordinal)) : Variant(Null);
   }
   const std::vector<Variant>* values = drawn_.find(row);
-  if (!values) values = &keepDrawn(row, cursor_->row(row, scratch_));
+  if (!values) values = &drawn_.put(row, valuesOf(cursor_->row(row, scratch_)));
   return values->empty() ? Null : (*values)[static_cast<std::size_t>(ordinal)];
+}
+
+std::vector<Variant> Recordset::readRow(int row) {
+  requireOpen();
+  if (row < 0 || row >= knownRows()) raise(error::NoCurrentRecord);
+  return valuesOf(cursor_->readNow(row, scratch_));
 }
 
 bool Recordset::refreshRow(int row) {
@@ -97,11 +102,20 @@ bool Recordset::refreshRow(int row) {
   drawn_.drop(row);
   const RowView read = cursor_->refresh(row, scratch_);
   if (row == row_) current_ = {};
-  if (!cursor_->readsRows()) return static_cast<bool>(read);
-  keepDrawn(row, read);
+  if (cursor_->readsRows()) drawn_.put(row, valuesOf(read));
   return static_cast<bool>(read);
 }
 
 String Recordset::rowText(int row, int column) { return concatenate(rowValue(row, column)); }
+
+// ---- watchers
+
+void Recordset::addWatcher(Watcher& watcher) { watchers_.push_back(&watcher); }
+
+void Recordset::removeWatcher(Watcher& watcher) noexcept { std::erase(watchers_, &watcher); }
+
+void Recordset::tellWatchers() noexcept {
+  for (Watcher* each : watchers_) each->rowsReplaced();
+}
 
 }  // namespace zqn::ado

@@ -23,34 +23,51 @@ RowView SnapshotCursor::row(int row, RowStore&) {
 
 RowView SnapshotCursor::refresh(int row, RowStore& buffer) {
   if (unread_) readInserted();
-  if (readAgain(row)) {
-    gone_.erase(row);
-  } else {
-    gone_.insert(row);
+  switch (readAgain(row, buffer)) {
+    case Again::Gone:
+      gone_.insert(row);
+      break;
+    case Again::Read:
+      for (int column = 0; column < std::min(rows_.columns(), buffer.columns()); ++column)
+        rows_.set(row, column, buffer.at(0, column));
+      indexes_.clear();
+      [[fallthrough]];
+    case Again::Unknown:
+      gone_.erase(row);
+      break;
   }
   return this->row(row, buffer);
 }
 
-bool SnapshotCursor::readAgain(int row) {
+RowView SnapshotCursor::readNow(int row, RowStore& buffer) {
+  if (unread_) readInserted();
+  switch (readAgain(row, buffer)) {
+    case Again::Gone:
+      return {};
+    case Again::Read:
+      return {&buffer, 0};
+    case Again::Unknown:
+      break;
+  }
+  return this->row(row, buffer);
+}
+
+SnapshotCursor::Again SnapshotCursor::readAgain(int row, RowStore& read) {
   if (!reader_) reader_ = connection_.provider().keyset(statement_);
-  if (!reader_) return true;
+  if (!reader_) return Again::Unknown;
   const Columns& columns = *reader_->columns();
   std::vector<ColumnEquals> key;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     if (!columns[i].key || columns[i].rowHandle) continue;
     const int column = static_cast<int>(i);
-    if (column >= rows_.columns()) return true;
+    if (column >= rows_.columns()) return Again::Unknown;
     key.push_back({column, rows_.at(row, column)});
   }
-  if (key.empty()) return true;
+  if (key.empty()) return Again::Unknown;
   const auto found = reader_->rowsWhere(key);
-  if (!found) return true;
-  RowStore read(static_cast<int>(columns.size()));
-  if (found->empty() || !reader_->readRow(found->front(), read)) return false;
-  indexes_.clear();
-  for (int column = 0; column < std::min(rows_.columns(), read.columns()); ++column)
-    rows_.set(row, column, read.at(0, column));
-  return true;
+  if (!found) return Again::Unknown;
+  read.clear(static_cast<int>(columns.size()));
+  return !found->empty() && reader_->readRow(found->front(), read) ? Again::Read : Again::Gone;
 }
 
 const ValueIndex& SnapshotCursor::index(int column) {

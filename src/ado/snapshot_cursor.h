@@ -24,6 +24,7 @@ class SnapshotCursor : public Cursor {
   void fetch(int) override {}
   RowView row(int row, RowStore& buffer) override;
   RowView refresh(int row, RowStore& buffer) override;
+  RowView readNow(int row, RowStore& buffer) override;
   bool readsRows() const noexcept override { return false; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;
@@ -32,8 +33,9 @@ class SnapshotCursor : public Cursor {
  private:
   const ValueIndex& index(int column);
   void readInserted();
-  /// Reads a row of the snapshot again; false when it is gone.
-  bool readAgain(int row);
+  enum class Again { Unknown, Gone, Read };
+  /// Reads a row of the snapshot again, where its key can be told, into `read`.
+  Again readAgain(int row, RowStore& read);
 
   Connection& connection_;
   String statement_;

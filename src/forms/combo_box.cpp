@@ -68,9 +68,18 @@ void ComboBox::AddItem(StringView text) {
 // ---- a person
 
 void ComboBox::choose(int index) {
-  // What was typed may be the entry in other letters.
-  if (listIndex_ == index) showChoice();
-  ListIndex(index);
+  listIndex_ = index;
+  // Also where it stands already: what was typed may be the entry in other letters.
+  showChoice();
+  Click.raise();
+}
+
+void ComboBox::rememberStanding() { standing_ = {Text(), anchor(), caret()}; }
+
+void ComboBox::restoreStanding() {
+  if (!allowedit()) return;
+  assignText(standing_.text);
+  userSelected(standing_.anchor, standing_.caret);
 }
 
 bool ComboBox::ownKey(const KeyStroke& stroke) {

@@ -55,8 +55,9 @@ class ComboBox : public TextEntry, public DropDown {
 
  protected:
   bool mayOpen() override { return isUsable(); }
-  /// Raises Click when it is another entry.
   void choose(int index) override;
+  void rememberStanding() override;
+  void restoreStanding() override;
   void listChanged() override { changed(); }
   bool hasEditor() const noexcept override { return allowedit(); }
   /// The text of a field has become another one: the choice follows.
@@ -71,6 +72,8 @@ class ComboBox : public TextEntry, public DropDown {
   int listIndex_ = -1;
   /// The field shows what was chosen from the list, which is no Change.
   bool showingChoice_ = false;
+  /// The field when the list was opened.
+  StandingText standing_;
 };
 
 }  // namespace zqn

@@ -249,7 +249,7 @@ TEST_F(OpenList, KeepsItsKeysFromAllEvents) {
   });
 }
 
-TEST_F(OpenList, AClickOnAnEntryTakesItAndTheSameOneRaisesNothing) {
+TEST_F(OpenList, AClickOnAnEntryTakesItAlsoTheOneThatStands) {
   show(form, [&] {
     click(cbo);
     cbo.userMarked(3);
@@ -260,7 +260,10 @@ TEST_F(OpenList, AClickOnAnEntryTakesItAndTheSameOneRaisesNothing) {
     click(cbo);
     cbo.userChose(3);
     EXPECT_EQ(state(), "3");
-    EXPECT_EQ(happened(), "");
+    EXPECT_EQ(happened(), "cbo_Click");
+    press(key::F4);
+    press(key::Enter);
+    EXPECT_EQ(happened(), "cbo_Click");
   });
 }
 
@@ -359,10 +362,30 @@ TEST_F(ComboField, TheListReplacesWhatWasTyped) {
     EXPECT_TRUE(cbo.isOpen());
     press(key::Enter);
     EXPECT_EQ(state(), "E 0");
-    EXPECT_EQ(happened(), "") << "it was this entry already";
+    EXPECT_EQ(happened(), "Click") << "taken, though it was this entry already";
     press(key::Down);
     EXPECT_EQ(state(), "Bank 1");
     EXPECT_EQ(happened(), "Click");
+  });
+}
+
+TEST_F(ComboField, EscapePutsBackWhatStoodWhenTheListWasOpened) {
+  show(form, [&] {
+    cbo.SelStart(1);
+    cbo.SelLength(2);
+    press(key::F4);
+    type(u"ank");
+    EXPECT_EQ(state(), "Bank 1");
+    EXPECT_EQ(happened(), "Change Change Change");
+    press(key::Escape);
+    EXPECT_EQ(state(), "BAR -1");
+    EXPECT_EQ(cbo.SelStart(), 1);
+    EXPECT_EQ(cbo.SelLength(), 2);
+    EXPECT_EQ(happened(), "Change");
+    press(key::F4);
+    press(key::Escape);
+    EXPECT_EQ(state(), "BAR -1");
+    EXPECT_EQ(happened(), "") << "nothing had changed";
   });
 }
 

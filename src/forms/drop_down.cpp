@@ -12,6 +12,7 @@ namespace zqn {
 void DropDown::userOpened() {
   if (open_ || !mayOpen() || ListCount() == 0) return;
   open_ = true;
+  rememberStanding();
   marked_ = ListIndex();
   listChanged();
 }
@@ -69,13 +70,23 @@ bool movesCaret(int code) {
 
 bool DropDown::openListTakes(const KeyStroke& stroke) {
   if (!open_) return false;
-  if (opensList(stroke) || stroke.code == key::Enter || stroke.code == key::Tab) {
+  if (opensList(stroke)) {
+    // The key that has opened it closes it again, and takes what has been marked meanwhile.
+    if (marked_ == ListIndex()) {
+      userClosed();
+    } else {
+      userChose(marked_);
+    }
+    return true;
+  }
+  if (stroke.code == key::Enter || stroke.code == key::Tab) {
     userChose(marked_);
     // Tab goes on to the next control.
     return stroke.code != key::Tab;
   }
   if (stroke.code == key::Escape) {
     userClosed();
+    restoreStanding();
   } else if (const std::optional<int> entry = entryFor(stroke, marked_)) {
     userMarked(*entry);
   } else if (hasEditor()) {
@@ -94,7 +105,8 @@ bool DropDown::closedListTakes(const KeyStroke& stroke) {
     return true;
   }
   const std::optional<int> entry = entryFor(stroke, ListIndex());
-  if (entry) userChose(*entry);
+  // At the end of the list a key leads nowhere, and nothing is taken.
+  if (entry && *entry != ListIndex()) userChose(*entry);
   return entry.has_value();
 }
 

@@ -2,7 +2,8 @@
 //
 // What drop-downs share: entries, one of which is chosen or none, and the list of them that opens below the
 // field. While it is open one entry is marked, and nothing is chosen until a click, Enter or Tab takes the
-// marked one; Esc leaves the choice as it was. A kind of drop-down is a control that derives from it:
+// marked one, which counts also when it stands already; Esc puts back what stood when the list was opened. A
+// kind of drop-down is a control that derives from it:
 //
 //     class ComboBox : public Control, public DropDown { ... };
 #pragma once
@@ -42,11 +43,19 @@ class DropDown {
 
  protected:
   ~DropDown() = default;
+  /// What a field with an editor held when the list was opened.
+  struct StandingText {
+    String text;
+    int anchor = 0, caret = 0;
+  };
 
   /// A person may open the list now; a kind that fetches its entries fetches them here.
   virtual bool mayOpen() = 0;
-  /// A person has chosen an entry that is there.
+  /// A person has chosen an entry that is there, perhaps the one that stands already: raises Click.
   virtual void choose(int index) = 0;
+  /// The list opens: what stands now is remembered. Esc in the open list puts it back.
+  virtual void rememberStanding() {}
+  virtual void restoreStanding() {}
   /// Entries, choice or open list have changed: they are drawn anew.
   virtual void listChanged() = 0;
   /// A person edits a text beside the list: letters and caret keys belong to that.

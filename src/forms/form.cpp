@@ -298,10 +298,13 @@ void Form::keyReleased(int code, int shift) {
 // ---- mouse
 
 bool Form::mousePressed(Control& control) {
+  const Desktop& desktop = Desktop::current();
+  // A screen reader reaches what stands behind another window, too.
+  if (desktop.activeForm() != this || desktop.openMessageBox() != nullptr) return false;
   if (!visible_ || !control.isUsable()) return false;
-  const int boxes = Desktop::current().messageBoxCount();
+  const int boxes = desktop.messageBoxCount();
   if (control.takesFocus() && !moveFocus(control, FocusCause::Mouse)) return false;
-  const bool swallowed = Desktop::current().messageBoxCount() != boxes;
+  const bool swallowed = desktop.messageBoxCount() != boxes;
   return !swallowed && visible_ && control.isUsable();
 }
 

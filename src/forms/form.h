@@ -125,8 +125,8 @@ class Form : public EventOwner {
   KeyOutcome keyPressed(KeyStroke stroke);
   void keyReleased(int code, int shift);
   /// The left button went down on a control: validates, moves the focus if the control takes it. False when
-  /// the click is over (the control cannot be used, Validate refused, or a message box came up meanwhile): no
-  /// release must follow.
+  /// the click is over (the control cannot be used or stands behind another form or a message box, Validate
+  /// refused, or a message box came up meanwhile): no release must follow.
   bool mousePressed(Control& control);
   /// The button was released on the same control: its own effect and Click.
   void mouseReleased(Control& control);

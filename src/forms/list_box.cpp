@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/form.h"
 #include "forms/names.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
@@ -86,7 +87,14 @@ bool ListBox::go(int index, int shift) {
   return differs;
 }
 
-void ListBox::userPressed(int index, int shift) {
+bool ListBox::userPressed(int index, int shift) {
+  pressedRow_ = index;
+  if (!form().mousePressed(*this)) return false;
+  press(index, shift);
+  return true;
+}
+
+void ListBox::press(int index, int shift) {
   pressChanged_ = false;
   if (index < 0 || index >= ListCount()) return;
   pressChanged_ = go(index, shift);
@@ -97,6 +105,7 @@ void ListBox::userPressed(int index, int shift) {
 }
 
 void ListBox::userSelected(const std::vector<bool>& rows) {
+  if (!form().mousePressed(*this)) return;
   bool differs = false;
   for (std::size_t i = 0; i < std::min(rows.size(), rows_.size()); ++i)
     differs = std::exchange(rows_[i].selected, rows[i]) != rows[i] || differs;
@@ -142,7 +151,7 @@ int ListBox::rowFor(const KeyStroke& stroke) const {
 bool ListBox::ownKey(const KeyStroke& stroke) {
   if ((stroke.shift & shift::Alt) != 0 || rows_.empty()) return false;
   if (stroke.code == key::Space) {
-    userPressed(std::max(listIndex_, 0), stroke.shift);
+    press(std::max(listIndex_, 0), stroke.shift);
     clicked();
     return true;
   }

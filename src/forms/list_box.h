@@ -41,10 +41,14 @@ class ListBox : public Control {
 
   // ---- for toolkits
 
-  /// The left button goes down on a row, with these shift bits; nothing outside the rows. What it changes
-  /// raises one Click when the button is released.
-  void userPressed(int row, int shift);
-  /// A person selects exactly these rows, by a screen reader. Raises Click when something changes.
+  /// The left button goes down on a row, -1 beside all of them, with these shift bits: on the row that is
+  /// under the pointer now, whatever scrolls when the focus comes here, which is first. What it changes raises
+  /// one Click when the button is released. False when the click is over, as Form::mousePressed.
+  bool userPressed(int row, int shift);
+  /// The second press of a double click, wherever the rows have scrolled meanwhile: on the row of the first.
+  bool userPressedAgain(int shift) { return userPressed(pressedRow_, shift); }
+  /// A person selects exactly these rows, by a screen reader: as by clicks, the focus comes here first. Raises
+  /// Click when something changes.
   void userSelected(const std::vector<bool>& rows);
   void clicked() override;
   /// Arrows, Home, End and page keys move, letters go to the next row that begins with them; with Shift the
@@ -65,6 +69,7 @@ class ListBox : public Control {
   };
 
   const Row& row(int index) const;
+  void press(int row, int shift);
   /// A person goes to a row: the shift bits say what becomes of the selection. True when something changed.
   bool go(int index, int shift);
   bool select(int first, int last);
@@ -76,6 +81,7 @@ class ListBox : public Control {
   int anchor_ = 0;
   /// The press that is to be released has changed something.
   bool pressChanged_ = false;
+  int pressedRow_ = -1;
 };
 
 }  // namespace zqn

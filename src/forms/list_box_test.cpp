@@ -9,6 +9,10 @@ namespace zqn::testing {
 namespace {
 
 constexpr ControlDesign roster[] = {{u"lst", ControlKind::ListBox, u"", 0, 0, 2000, 2000}};
+constexpr ControlDesign twoRoster[] = {
+    {u"txt", ControlKind::TextBox, u"", 0, 2400, 2000, 285},
+    {u"lst", ControlKind::ListBox, u"", 0, 0, 2000, 2000},
+};
 
 class Rows : public FormTest {
  protected:
@@ -26,9 +30,7 @@ class Rows : public FormTest {
     return rows + "@" + std::to_string(lst.ListIndex());
   }
   void click(int row, int shift = 0) {
-    if (!form.mousePressed(lst)) return;
-    lst.userPressed(row, shift);
-    form.mouseReleased(lst);
+    if (lst.userPressed(row, shift)) form.mouseReleased(lst);
   }
 
   SampleForm form{roster};
@@ -115,12 +117,40 @@ TEST_F(Rows, CtrlAddsAndTakesAwayAndShiftSelectsARange) {
 
 TEST_F(Rows, ClickComesWhenTheButtonIsReleased) {
   show(form, [&] {
-    ASSERT_TRUE(form.mousePressed(lst));
-    lst.userPressed(2, shift::None);
+    ASSERT_TRUE(lst.userPressed(2, shift::None));
     EXPECT_EQ(state(), "2@2");
     EXPECT_EQ(happened(), "");
     form.mouseReleased(lst);
     EXPECT_EQ(happened(), "lst_Click");
+  });
+}
+
+TEST_F(Rows, TheSecondPressOfADoubleClickIsOnTheRowOfTheFirst) {
+  show(form, [&] {
+    click(3);
+    lst.userPressedAgain(shift::None);
+    EXPECT_EQ(state(), "3@3");
+    click(1, shift::Ctrl);
+    lst.userPressedAgain(shift::Ctrl);
+    EXPECT_EQ(state(), "3@1") << "in, and out again";
+    happened();
+  });
+}
+
+TEST_F(Rows, SelectedByAScreenReaderTakeTheFocusAsAClickDoes) {
+  SampleForm two{twoRoster};
+  auto& rows = two.Get<ListBox>(u"lst");
+  auto& key = two.Get<Control>(u"txt");
+  rows.AddItem(u"Angebot");
+  bool keeps = true;
+  key.Validate = [&](bool& cancel) { cancel = keeps; };
+  show(two, [&] {
+    rows.userSelected({true});
+    EXPECT_FALSE(rows.Selected(0)) << "refused like a click";
+    keeps = false;
+    rows.userSelected({true});
+    EXPECT_TRUE(rows.Selected(0));
+    EXPECT_EQ(focusOf(two), "lst");
   });
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "forms/desktop.h"
+#include "forms/form.h"
 #include "forms/names.h"
 #include "runtime/convert.h"
 #include "runtime/locale.h"
@@ -16,6 +17,8 @@ namespace {
 constexpr int fetchStep = 1000;
 /// Rows that a search by typing looks at one by one, where the order of the list does not lead to the row.
 constexpr int scannedRows = 2000;
+/// Rows in a row that somebody else has deleted, and over which a search by typing looks for the next one.
+constexpr int deletedRows = 64;
 /// What the frame and the scroll bar take of the list's width, in twips.
 constexpr int frameAndScrollBar = 330;
 
@@ -33,7 +36,8 @@ void TDBList::Column::Caption(StringView caption) {
 }
 
 Variant TDBList::Column::Value() const {
-  return list_->row_ < 0 ? Variant() : list_->source_->rowValue(list_->row_, ordinal_);
+  if (list_->row_ < 0) return {};
+  return list_->marked().at(static_cast<std::size_t>(ordinal_));
 }
 
 void TDBList::Column::Visible(bool visible) {
@@ -47,6 +51,10 @@ void TDBList::Column::Width(int twips) {
 }
 
 TDBList::TDBList(Form& form, const ControlDesign& design, int tabIndex) : Control(form, design, tabIndex) {}
+
+TDBList::~TDBList() {
+  if (!source_.isNothing()) source_->removeWatcher(*this);
+}
 
 TDBList::Column& TDBList::Columns(int index) {
   requireColumn(index);
@@ -94,16 +102,25 @@ int TDBList::drawnWidth(int column) const {
 // ---- binding
 
 void TDBList::DataSource(Ref<ado::Recordset> source) {
+  if (!source_.isNothing()) source_->removeWatcher(*this);
   source_ = std::move(source);
-  const bool open = !source_.isNothing() && source_->State() != ado::adStateClosed;
+  if (!source_.isNothing()) source_->addWatcher(*this);
+  const bool open = isOpen();
   if (!holdFields_ || columns_.empty()) {
     columns_.clear();
     const int fields = open ? source_->Fields().Count() : 0;
     for (int i = 0; i < fields; ++i) columns_.push_back(Column(*this, i, source_->Fields(i).Name()));
   }
   if (open && knownRows() == 0) source_->fetchKeys(rowsPerPage());
-  row_ = hasRows() ? 0 : -1;
+  place(hasRows() ? 0 : -1);
   unannounced_ = true;
+  typed_.clear();
+  ++bindings_;
+  changed();
+}
+
+void TDBList::rowsReplaced() noexcept {
+  place(-1);
   typed_.clear();
   ++bindings_;
   changed();
@@ -114,6 +131,8 @@ void TDBList::ReBind() {
   DataSource(source);
   holdFields_ = false;
 }
+
+bool TDBList::isOpen() const { return !source_.isNothing() && source_->State() != ado::adStateClosed; }
 
 bool TDBList::hasRows() const { return knownRows() > 0; }
 
@@ -129,10 +148,22 @@ void TDBList::fetchRows(int atMost) {
 
 String TDBList::cellText(int row, int column) const {
   try {
-    return source_->rowText(row, column);
+    if (row != row_ || row_ < 0) return source_->rowText(row, column);
+    return concatenate(marked().at(static_cast<std::size_t>(column)));
   } catch (const RuntimeError&) {
     return {};
   }
+}
+
+std::vector<String> TDBList::rowTextsNow(int row) const {
+  std::vector<String> texts;
+  if (row < 0) return texts;
+  try {
+    for (const Variant& value : source_->readRow(row)) texts.push_back(concatenate(value));
+  } catch (const RuntimeError&) {
+    texts.clear();
+  }
+  return texts;
 }
 
 String TDBList::Text() const { return row_ < 0 ? String() : cellText(row_, 0); }
@@ -152,14 +183,56 @@ void TDBList::Bookmark(const Variant& bookmark) {
   mark(row, unannounced_ || row != row_);
 }
 
-void TDBList::mark(int row, bool raise) {
-  if (row != row_) {
-    row_ = row;
-    changed();
+const TDBList::RowValues& TDBList::marked() const {
+  if (!marked_) {
+    RowValues values;
+    const int fields = source_->Fields().Count();
+    for (int i = 0; i < fields; ++i) values.push_back(source_->rowValue(row_, i));
+    marked_ = std::move(values);
   }
+  return *marked_;
+}
+
+void TDBList::place(int row) noexcept {
+  row_ = row;
+  marked_.reset();
+  if (row < 0) return;
+  try {
+    marked();
+  } catch (const RuntimeError&) {
+    // Asked for again when it is needed.
+  }
+}
+
+void TDBList::mark(int row, bool raise) {
+  try {
+    source_->refreshRow(row);
+  } catch (const RuntimeError&) {
+    // A row that cannot be read shows nothing, and gives its error to whoever asks for a value.
+  }
+  place(row);
+  changed();
   if (!raise) return;
   unannounced_ = false;
   RowColChange.raise();
+}
+
+bool TDBList::userPressed(int row) {
+  pressedRow_ = -1;
+  const int bound = bindings_;
+  if (!form().mousePressed(*this)) return false;
+  if (bound != bindings_) return true;
+  pressedRow_ = row;
+  pressedBinding_ = bound;
+  userSelect(row);
+  return true;
+}
+
+bool TDBList::userPressedAgain(int row) {
+  if (pressedRow_ < 0 || pressedBinding_ != bindings_) return userPressed(row);
+  if (!form().mousePressed(*this)) return false;
+  if (pressedBinding_ == bindings_) userDoubleClick(std::exchange(pressedRow_, -1));
+  return true;
 }
 
 void TDBList::userSelect(int row) {
@@ -210,7 +283,12 @@ bool TDBList::keyPressed(const KeyStroke& stroke) {
     if (row_ >= 0) Desktop::current().copyToClipboard(rowAsText());
     return true;
   }
-  if (!control && stroke.character >= u' ') return searchTyped(stroke.character);
+  if (stroke.character >= u' ') {
+    if ((stroke.shift & (shift::Ctrl | shift::Alt)) != 0) return false;
+    const String character = character_.take(stroke.character);
+    return character.empty() || searchTyped(character);
+  }
+  character_.forget();
 
   int target = row_;
   switch (stroke.code) {
@@ -244,7 +322,7 @@ bool TDBList::keyPressed(const KeyStroke& stroke) {
   return true;
 }
 
-bool TDBList::searchTyped(char16_t character) {
+bool TDBList::searchTyped(const String& character) {
   if (typedRow_ != row_) typed_.clear();
   int found = rowStartingWith(typed_ + character);
   if (found >= 0) {
@@ -262,46 +340,82 @@ bool TDBList::searchTyped(char16_t character) {
   return true;
 }
 
+std::optional<String> TDBList::keyNow(int row) const {
+  const RowValues values = source_->readRow(row);
+  return values.empty() ? std::nullopt : std::optional(concatenate(values.front()));
+}
+
+/// Where the prefix would stand in a list that is ordered by its key. A row that is gone says nothing: the
+/// next one that is there is asked.
+int TDBList::firstNotBefore(StringView prefix) const {
+  int first = 0;
+  int end = knownRows();
+  while (first < end) {
+    const int half = first + (end - first) / 2;
+    int asked = half;
+    std::optional<String> key = keyNow(asked);
+    while (!key && asked + 1 < std::min(end, half + deletedRows)) key = keyNow(++asked);
+    if (key && compareCollated(*key, prefix) < 0) {
+      first = asked + 1;
+    } else {
+      end = half;
+    }
+  }
+  return first;
+}
+
 int TDBList::rowStartingWith(StringView prefix) {
   while (!rowsComplete()) fetchRows(100 * fetchStep);
   // Lists are ordered by their key: the row is where the prefix would stand, or, with accents, shortly
   // behind.
-  int first = 0;
-  int count = knownRows();
-  while (count > 0) {
-    const int half = count / 2;
-    const bool before = compareCollated(cellText(first + half, 0), prefix) < 0;
-    first = before ? first + half + 1 : first;
-    count = before ? count - half - 1 : half;
-  }
   const auto scan = [&](int from) {
     const int end = std::min(knownRows(), from + scannedRows);
     for (int row = from; row < end; ++row) {
-      if (startsWith(cellText(row, 0), prefix)) return row;
+      const std::optional<String> key = keyNow(row);
+      if (key && startsWith(*key, prefix)) return row;
     }
     return -1;
   };
-  const int found = scan(first);
+  const int found = scan(firstNotBefore(prefix));
   return found >= 0 ? found : scan(0);
 }
 
 // ---- automation
 
+Variant TDBList::valueNow(int column) const {
+  if (row_ < 0) return {};
+  const RowValues values = source_->readRow(row_);
+  return values.empty() ? Variant(Null) : values.at(static_cast<std::size_t>(column));
+}
+
+namespace {
+
+/// Takes "Columns(1)." off the front of a name: its index; nullopt for a name that begins otherwise.
+std::optional<std::int32_t> takeElement(StringView& name, StringView element) {
+  const auto end = name.find(u").");
+  if (end == StringView::npos || end <= element.size() || name[element.size()] != u'(') return std::nullopt;
+  if (!sameName(name.substr(0, element.size()), element)) return std::nullopt;
+  const Variant index = String(name.substr(element.size() + 1, end - element.size() - 1));
+  name.remove_prefix(end + 2);
+  return CLng(index);
+}
+
+}  // namespace
+
 Variant TDBList::Property(StringView name) const {
-  constexpr StringView columnsOpen = u"Columns(";
-  const auto dot = name.find(u").");
-  if (name.size() > columnsOpen.size() && sameName(name.substr(0, columnsOpen.size()), columnsOpen) &&
-      dot != StringView::npos) {
-    const Variant index = String(name.substr(columnsOpen.size(), dot - columnsOpen.size()));
-    const Column& column = Columns(CLng(index));
-    const StringView member = name.substr(dot + 2);
+  StringView member = name;
+  const std::optional<std::int32_t> split = takeElement(member, u"Splits");
+  if (split && *split != 0) throw RuntimeError(error::SubscriptOutOfRange);
+  if (const std::optional<std::int32_t> index = takeElement(member, u"Columns")) {
+    const Column& column = Columns(*index);
     if (sameName(member, u"Caption")) return column.Caption();
-    if (sameName(member, u"Value")) return column.Value();
+    if (sameName(member, u"Value")) return valueNow(*index);
     if (sameName(member, u"Visible")) return column.Visible();
     if (sameName(member, u"Width")) return std::int32_t{column.Width()};
     if (sameName(member, u"AllowSizing")) return column.AllowSizing();
     throw RuntimeError(error::NoSuchMember);
   }
+  if (split) throw RuntimeError(error::NoSuchMember);
   return Control::Property(name);
 }
 
@@ -311,7 +425,12 @@ const PropertyEntry* TDBList::findProperty(StringView name) const {
   };
   static constexpr PropertyEntry entries[] = {
       {u"Row", [](const Control& c) { return Variant(std::int32_t{list(c).Row()}); }, nullptr},
-      {u"Text", [](const Control& c) { return Variant(list(c).Text()); }, nullptr},
+      {u"Text",
+       [](const Control& c) {
+         const std::vector<String> texts = list(c).rowTextsNow(list(c).Row());
+         return Variant(texts.empty() ? String() : texts.front());
+       },
+       nullptr},
       {u"Bookmark", [](const Control& c) { return list(c).Bookmark(); },
        [](Control& c, const Variant& value) { static_cast<TDBList&>(c).Bookmark(value); }},
       {u"ColumnHeaders", [](const Control& c) { return Variant(list(c).ColumnHeaders()); },

@@ -8,28 +8,34 @@
 //     rs->Find(u"Status='20'");       // moves rs alone, the mark stays
 //     list.Bookmark(rs->Bookmark());  // marks that row, raises RowColChange
 //
-// Marking a row, by a person or by Bookmark, makes it the recordset's current row. Rows count from 0.
+// Marking a row, by a person or by Bookmark, makes it the recordset's current row, and reads it: what the list
+// shows and gives of it from then on is what the database held at that moment, nothing when the row was gone
+// by then. The other rows may be older. A list whose recordset is closed or was run again shows no marked row
+// until it is bound anew. Rows count from 0.
 #pragma once
 
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "ado/recordset.h"
 #include "forms/control.h"
+#include "forms/typed_character.h"
 #include "runtime/ref.h"
 
 namespace zqn {
 
-class TDBList : public Control {
+class TDBList : public Control, private ado::Recordset::Watcher {
  public:
   TDBList(Form& form, const ControlDesign& design, int tabIndex);
+  ~TDBList() override;
 
   /// One column of the list: column i shows field i of the recordset.
   class Column {
    public:
     const String& Caption() const noexcept { return caption_; }
     void Caption(StringView caption);
-    /// The field of the marked row; Empty when no row is marked.
+    /// The field of the marked row, Null when that was gone; Empty when no row is marked.
     Variant Value() const;
     bool Visible() const noexcept { return visible_; }
     void Visible(bool visible);
@@ -107,6 +113,9 @@ class TDBList : public Control {
   void fetchRows(int atMost);
   /// Text of a cell as the list shows it; Null and rows that cannot be read are "".
   String cellText(int row, int column) const;
+  /// The texts of all columns as the database holds the row now; none when it is gone or cannot be read. What
+  /// the list shows and gives stays as it is.
+  std::vector<String> rowTextsNow(int row) const;
   /// Counts up with each binding: a view with another number starts anew.
   int bindings() const noexcept { return bindings_; }
   /// Rows that a page of the list holds, from its height: PageUp and PageDown move by them.
@@ -116,9 +125,16 @@ class TDBList : public Control {
   /// Width of a column as drawn, in twips: the last visible one reaches to the right edge at least.
   int drawnWidth(int column) const;
 
-  /// A person marks a row by mouse or key. Raises RowColChange when the row changes, or when none has come
-  /// since the binding. Where the recordset fails to move, the mark stays and the person is told, as of an
-  /// error in an event procedure.
+  /// The left button goes down on a row, -1 beside all of them: on the row that is under the pointer now,
+  /// whatever scrolls when the focus comes here, which is first. A list that is bound anew by that has no such
+  /// row any more. False when the click is over, as Form::mousePressed.
+  bool userPressed(int row);
+  /// The second press of a double click, wherever the rows have scrolled meanwhile: it means the row of the
+  /// first one. Where the first press was refused it is a press on `row`.
+  bool userPressedAgain(int row);
+  /// A person marks a row. Raises RowColChange when the row changes, or when none has come since the binding.
+  /// Where the recordset fails to move, the mark stays and the person is told, as of an error in an event
+  /// procedure.
   void userSelect(int row);
   void userDoubleClick(int row);
   /// The marked row's visible texts, tabs between them: what Ctrl+C copies.
@@ -136,14 +152,29 @@ class TDBList : public Control {
   const PropertyEntry* findProperty(StringView name) const override;
 
  private:
+  /// A row as it was read: a value a field, Null in all of one that was gone.
+  using RowValues = std::vector<Variant>;
+
+  void rowsReplaced() noexcept override;
+  bool isOpen() const;
   bool hasRows() const;
   void requireColumn(int index) const;
+  /// The values of the marked row as it was marked. The provider's errors where it could not be read then, nor
+  /// now.
+  const RowValues& marked() const;
+  /// Marks a row of a recordset that has just been read.
+  void place(int row) noexcept;
+  /// Reads a row afresh and marks it.
   void mark(int row, bool raise);
   /// A person's move: the row becomes the recordset's current one, too.
   void moveTo(int row, bool raise);
   bool keyPressed(const KeyStroke& stroke);
-  bool searchTyped(char16_t character);
+  bool searchTyped(const String& character);
   int rowStartingWith(StringView prefix);
+  /// Column 0 as the database holds it now; nullopt for a row that is gone.
+  std::optional<String> keyNow(int row) const;
+  int firstNotBefore(StringView prefix) const;
+  Variant valueNow(int column) const;
 
   Ref<ado::Recordset> source_;
   std::vector<Column> columns_;
@@ -154,10 +185,16 @@ class TDBList : public Control {
   /// No RowColChange has come since the binding.
   bool unannounced_ = false;
   int row_ = -1;
+  /// The marked row; nullopt while it could not be read.
+  mutable std::optional<RowValues> marked_;
   int bindings_ = 0;
+  /// The row that the last press of the button meant, and in which binding.
+  int pressedRow_ = -1;
+  int pressedBinding_ = -1;
   /// What has been typed to find a row, and the row that it led to.
   String typed_;
   int typedRow_ = -1;
+  TypedCharacter character_;
 };
 
 }  // namespace zqn

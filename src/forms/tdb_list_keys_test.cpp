@@ -83,6 +83,85 @@ TEST_F(ListMouse, ADoubleClickComesFromTheMarkedRowAlone) {
   EXPECT_EQ(happened(), "");
 }
 
+TEST_F(ListMouse, APressMeansTheRowThatWasUnderThePointerBeforeTheFocusMoved) {
+  insertMany(30);
+  auto rs = bind();
+  list.DblClick = [&] { note("DblClick:" + toUtf8(list.Text())); };
+  Control& button = form.control(u"btn");
+  button.LostFocus = [&] { mark(*rs, 24); };
+  show(form, [&] {
+    button.SetFocus();
+    happened();
+    ASSERT_TRUE(list.userPressed(2));
+    EXPECT_EQ(happened(), "RowColChange:00025 RowColChange:00003");
+    // The rows have scrolled: another one is under the pointer by now.
+    ASSERT_TRUE(list.userPressedAgain(20));
+    EXPECT_EQ(happened(), "DblClick:00003");
+    ASSERT_TRUE(list.userPressedAgain(20));
+    EXPECT_EQ(happened(), "RowColChange:00021") << "a third press is a press";
+  });
+}
+
+TEST_F(ListMouse, APressOnAListThatIsBoundAnewWhenTheFocusComesMarksNothing) {
+  insert({u"10", u"20"});
+  bind();
+  Control& button = form.control(u"btn");
+  button.LostFocus = [&] {
+    insert({u"05"});
+    bind();
+  };
+  list.DblClick = [&] { note("DblClick"); };
+  show(form, [&] {
+    button.SetFocus();
+    happened();
+    EXPECT_TRUE(list.userPressed(1));
+    EXPECT_EQ(focusOf(form), "List");
+    EXPECT_EQ(list.Text(), u"05");
+    EXPECT_EQ(happened(), "");
+  });
+}
+
+TEST_F(ListMouse, APressThatIsRefusedMarksNothingAndTheNextOneIsAPress) {
+  insert({u"10", u"20"});
+  bind();
+  list.DblClick = [&] { note("DblClick"); };
+  bool keeps = true;
+  Control& button = form.control(u"btn");
+  button.Validate = [&](bool& cancel) { cancel = keeps; };
+  show(form, [&] {
+    button.SetFocus();
+    EXPECT_FALSE(list.userPressed(1));
+    EXPECT_FALSE(list.userPressedAgain(1));
+    keeps = false;
+    EXPECT_TRUE(list.userPressedAgain(1));
+    EXPECT_EQ(happened(), "RowColChange:20");
+  });
+}
+
+TEST_F(ListMouse, BehindAnotherFormIsRefused) {
+  insert({u"10", u"20"});
+  bind();
+  SampleForm second{listRoster, u"frmSecond"};
+  bool refused = false;
+  form.control(u"btn").GotFocus = [&] { show(second, [&] { refused = !list.userPressed(1); }); };
+  show(form, [&] { form.control(u"btn").SetFocus(); });
+  EXPECT_TRUE(refused);
+  EXPECT_EQ(happened(), "");
+}
+
+TEST_F(ListMouse, ADoubleClickOnARowThatIsGoneTakesNothing) {
+  insert({u"10", u"20"});
+  bind();
+  list.DblClick = [&] { note("DblClick:" + toUtf8(list.Text())); };
+  show(form, [&] {
+    EXPECT_EQ(list.cellText(1, 0), u"20") << "drawn while it was there";
+    execute(u"DELETE FROM Stati WHERE Status='20'");
+    list.userPressed(1);
+    list.userPressedAgain(1);
+    EXPECT_EQ(happened(), "RowColChange: DblClick:");
+  });
+}
+
 TEST_F(ListMouse, ADoubleClickOnAnEmptyListIsNone) {
   bind();
   list.DblClick = [&] { note("DblClick"); };
@@ -333,6 +412,69 @@ TEST_F(ListSearch, FindsRowsOfAListThatIsNotInTheOrderOfItsKeys) {
     EXPECT_EQ(list.Text(), u"30");
   });
   happened();
+}
+
+TEST_F(ListSearch, AsksTheDatabaseAsItStandsNow) {
+  insert({u"10", u"20", u"30", u"40", u"50"});
+  bind();
+  show(form, [&] {
+    for (int row = 0; row < 5; ++row) list.cellText(row, 0);
+    execute(u"DELETE FROM Stati WHERE Status IN ('20', '30')");
+    execute(u"UPDATE Stati SET Status='4X' WHERE Status='40'");
+    type(u"4");
+    EXPECT_EQ(list.Text(), u"4X");
+    type(u"X");
+    EXPECT_EQ(list.Text(), u"4X");
+    type(u"2");
+    EXPECT_EQ(happened(), "RowColChange:4X") << "20 is gone, whatever is drawn";
+    type(u"5");
+    EXPECT_EQ(list.Text(), u"50");
+    type(u"1");
+    EXPECT_EQ(list.Text(), u"10");
+  });
+  happened();
+}
+
+TEST_F(ListSearch, PassesOverRowsThatAreGone) {
+  insertMany(5000);
+  bind();
+  show(form, [&] {
+    execute(u"DELETE FROM Stati WHERE Status BETWEEN '02450' AND '02510'");
+    type(u"01234");
+    EXPECT_EQ(list.Text(), u"01234");
+    press(key::Home);
+    type(u"04321");
+    EXPECT_EQ(list.Text(), u"04321");
+  });
+  happened();
+}
+
+TEST_F(ListSearch, KeepsACharacterBeyond16BitsWhole) {
+  insert({u"10", u"20", u"\U0001D538", u"\U0001D538\U0001D539"});
+  bind();
+  show(form, [&] {
+    type(u"\U0001D538");
+    EXPECT_EQ(list.Text(), u"\U0001D538");
+    EXPECT_EQ(happened(), "RowColChange:\U0001D538");
+    type(u"\U0001D539");
+    EXPECT_EQ(list.Text(), u"\U0001D538\U0001D539");
+    press(key::Home);
+    desktop.press(KeyStroke::ofCharacter(u'\xD835'));
+    press(key::Down);
+    desktop.press(KeyStroke::ofCharacter(u'\xDD38'));
+    EXPECT_EQ(list.Text(), u"20") << "a half alone finds nothing";
+  });
+  happened();
+}
+
+TEST_F(ListSearch, WithAltFindsNothing) {
+  insert({u"10", u"20"});
+  bind();
+  show(form, [&] {
+    desktop.press({'2', shift::Alt, u'2'});
+    EXPECT_EQ(list.Row(), 0);
+    EXPECT_EQ(happened(), "");
+  });
 }
 
 TEST_F(ListSearch, WithCtrlOrInAnEmptyListFindsNothing) {

@@ -147,9 +147,12 @@ TEST_F(ListWithoutRows, ClosingTheBoundRecordsetLeavesNothingToRead) {
   insert({u"10", u"20"});
   auto rs = bind();
   rs->Close();
+  EXPECT_EQ(list.Row(), -1);
   EXPECT_EQ(list.Text(), u"");
   EXPECT_EQ(list.knownRows(), 0);
-  EXPECT_EQ(errorNumberOf([&] { list.Columns(0).Value(); }), error::ObjectClosed);
+  EXPECT_TRUE(list.Columns(0).Value().isEmpty());
+  EXPECT_TRUE(list.Bookmark().isEmpty());
+  EXPECT_EQ(list.columnCount(), 3) << "the headings stay";
   show(form, [&] {
     list.SetFocus();
     press(key::Down);
@@ -158,6 +161,35 @@ TEST_F(ListWithoutRows, ClosingTheBoundRecordsetLeavesNothingToRead) {
     list.userSelect(1);
   });
   EXPECT_EQ(happened(), "");
+}
+
+TEST_F(ListWithoutRows, ARequeryThatFailsLeavesNoneUntilTheListIsBoundAnew) {
+  insert({u"10", u"20"});
+  auto rs = bind();
+  mark(*rs, 1);
+  happened();
+  const int before = list.bindings();
+  execute(u"ALTER TABLE Stati RENAME TO Fort");
+  EXPECT_NE(errorNumberOf([&] { rs->Requery(); }), 0);
+  EXPECT_EQ(list.Row(), -1);
+  EXPECT_EQ(list.Text(), u"");
+  EXPECT_GT(list.bindings(), before) << "a view starts anew at once";
+  execute(u"ALTER TABLE Fort RENAME TO Stati");
+  list.HoldFields();
+  rs->Requery();
+  list.ReBind();
+  EXPECT_EQ(list.Text(), u"10");
+  EXPECT_EQ(happened(), "");
+}
+
+TEST_F(ListWithoutRows, ARecordsetThatIsNoLongerBoundIsNoMatterOfTheList) {
+  insert({u"10"});
+  auto old = bind();
+  auto rs = bind();
+  old->Close();
+  EXPECT_EQ(list.Text(), u"10");
+  rs->Close();
+  EXPECT_EQ(list.Row(), -1);
 }
 
 TEST_F(ListWithoutRows, NothingShowsNothingAndIsError91ToUse) {
@@ -294,6 +326,81 @@ TEST_F(ListValue, OfARowThatOthersDeletedIsTheEmptyText) {
   EXPECT_EQ(happened(), "RowColChange:10 RowColChange:");
 }
 
+TEST_F(ListValue, IsReadAtTheMomentTheRowIsMarked) {
+  insert({u"10", u"20", u"30"});
+  auto rs = bind();
+  EXPECT_THAT(texts(list, 1), ::testing::ElementsAre(u"Text 10", u"Text 20", u"Text 30"));
+  execute(u"UPDATE Stati SET Bezeichnung='anders'");
+  execute(u"DELETE FROM Stati WHERE Status='30'");
+  EXPECT_THAT(texts(list, 1), ::testing::ElementsAre(u"Text 10", u"Text 20", u"Text 30"));
+
+  list.userSelect(1);
+  EXPECT_EQ(list.cellText(1, 1), u"anders") << "shown";
+  EXPECT_EQ(list.Columns(1).Value(), Variant(u"anders")) << "and given";
+  EXPECT_EQ(list.cellText(0, 1), u"Text 10") << "what is merely drawn may be older";
+  list.userSelect(2);
+  EXPECT_EQ(list.Text(), u"") << "gone: an empty line";
+  EXPECT_EQ(list.rowAsText(), u"\t\t");
+  mark(*rs, 0);
+  EXPECT_EQ(list.Columns(1).Value(), Variant(u"anders"));
+  EXPECT_EQ(happened(), "RowColChange:20 RowColChange: RowColChange:10");
+}
+
+TEST_F(ListValue, StaysWhatItWasWhenTheRowWasMarked) {
+  insertMany(600);
+  auto rs = bind();
+  list.fetchRows(600);
+  mark(*rs, 1);
+  execute(u"DELETE FROM Stati WHERE Status='00002'");
+  for (int row = 2; row < 600; ++row) list.cellText(row, 0);
+  EXPECT_EQ(list.Text(), u"00002") << "however many rows are drawn meanwhile";
+  list.userSelect(1);
+  EXPECT_EQ(list.Text(), u"") << "a press on the marked row marks it anew";
+  happened();
+}
+
+TEST_F(ListValue, OfARowThatWasGoneIsNullInAllColumns) {
+  insert({u"10", u"20"});
+  bind();
+  execute(u"DELETE FROM Stati WHERE Status='20'");
+  list.userSelect(1);
+  EXPECT_EQ(list.Columns(0).Value(), Variant(Null));
+  happened();
+}
+
+TEST_F(ListValue, OfAClientsListIsReadWhenTheRowIsMarkedToo) {
+  insert({u"10", u"20", u"30"});
+  auto rs = Ref<ado::Recordset>::make();
+  rs->CursorLocation(ado::adUseClient);
+  rs->Open(u"SELECT * FROM Stati ORDER BY Status", connection, ado::adOpenKeyset, ado::adLockReadOnly);
+  list.DataSource(rs);
+  execute(u"UPDATE Stati SET Bezeichnung='anders' WHERE Status='20'");
+  execute(u"DELETE FROM Stati WHERE Status='30'");
+  EXPECT_THAT(list.rowTextsNow(1), ::testing::ElementsAre(u"20", u"anders", u""));
+  EXPECT_THAT(list.rowTextsNow(2), ::testing::IsEmpty());
+  EXPECT_THAT(texts(list, 1), ::testing::ElementsAre(u"Text 10", u"Text 20", u"Text 30"));
+  list.userSelect(1);
+  EXPECT_EQ(list.Columns(1).Value(), Variant(u"anders"));
+  list.userSelect(2);
+  EXPECT_EQ(list.Text(), u"");
+  EXPECT_EQ(happened(), "RowColChange:20 RowColChange:");
+}
+
+TEST_F(ListValue, ForAScriptIsReadAfreshAndNothingComesOfThat) {
+  insert({u"10", u"20"});
+  bind();
+  list.userSelect(1);
+  happened();
+  execute(u"UPDATE Stati SET Bezeichnung='anders'");
+  EXPECT_EQ(list.Property(u"Columns(1).Value"), Variant(u"anders"));
+  EXPECT_THAT(list.rowTextsNow(0), ::testing::ElementsAre(u"10", u"anders", u""));
+  execute(u"DELETE FROM Stati WHERE Status='20'");
+  EXPECT_EQ(list.Property(u"Text"), Variant(u""));
+  EXPECT_THAT(list.rowTextsNow(1), ::testing::IsEmpty());
+  EXPECT_EQ(list.Text(), u"20");
+  EXPECT_EQ(list.Columns(1).Value(), Variant(u"Text 20"));
+}
+
 // ---- columns
 
 TEST_F(ListColumns, OutsideOfThemIsError9) {
@@ -348,6 +455,9 @@ TEST_F(ListProperties, ReadColumnsByIndexAndMember) {
   EXPECT_EQ(list.Property(u"Columns(1).Visible"), Variant(true));
   EXPECT_EQ(list.Property(u"Columns(1).Width"), Variant(std::int32_t{1500}));
   EXPECT_EQ(list.Property(u"Columns(1).AllowSizing"), Variant(false));
+  EXPECT_EQ(list.Property(u"Splits(0).Columns(1).AllowSizing"), Variant(false));
+  EXPECT_EQ(list.Property(u"splits(0).columns(0).AllowSizing"), Variant(true));
+  EXPECT_EQ(list.Property(u"Splits(0).Columns(1).Caption"), Variant(u"Text"));
 }
 
 TEST_F(ListProperties, OfAColumnThatIsNotThereAreError9AndOfAnUnknownMember438) {
@@ -357,6 +467,9 @@ TEST_F(ListProperties, OfAColumnThatIsNotThereAreError9AndOfAnUnknownMember438) 
   EXPECT_EQ(errorNumberOf([&] { list.Property(u"Columns(0).Color"); }), error::NoSuchMember);
   EXPECT_EQ(errorNumberOf([&] { list.Property(u"Columns(0)"); }), error::NoSuchMember);
   EXPECT_EQ(errorNumberOf([&] { list.Property(u"Columns"); }), error::NoSuchMember);
+  EXPECT_EQ(errorNumberOf([&] { list.Property(u"Splits(1).Columns(0).Width"); }), error::SubscriptOutOfRange);
+  EXPECT_EQ(errorNumberOf([&] { list.Property(u"Splits(0).Columns(3).Width"); }), error::SubscriptOutOfRange);
+  EXPECT_EQ(errorNumberOf([&] { list.Property(u"Splits(0).Row"); }), error::NoSuchMember);
 }
 
 TEST_F(ListProperties, TellTheMarkedRowAndTheLooks) {

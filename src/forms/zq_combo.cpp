@@ -161,6 +161,18 @@ void zqCombo::choose(int index) {
   Click.raise();
 }
 
+void zqCombo::rememberStanding() {
+  standing_ = {Text(), anchor(), caret()};
+  standingValue_ = Value();
+}
+
+void zqCombo::restoreStanding() {
+  if (!allowedit()) return;
+  assignText(standing_.text);
+  if (Value() != standingValue_) assignValue(standingValue_);
+  userSelected(standing_.anchor, standing_.caret);
+}
+
 bool zqCombo::ownKey(const KeyStroke& stroke) {
   needEntries();
   if (closedListTakes(stroke)) return true;

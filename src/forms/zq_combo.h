@@ -76,6 +76,8 @@ class zqCombo : public ValueEntry, public DropDown {
  protected:
   bool mayOpen() override;
   void choose(int index) override;
+  void rememberStanding() override;
+  void restoreStanding() override;
   void listChanged() override { changed(); }
   bool hasEditor() const noexcept override { return allowedit(); }
   void complete(TextState& next) const override;
@@ -100,6 +102,9 @@ class zqCombo : public ValueEntry, public DropDown {
   /// Read when they are first needed.
   mutable std::vector<Entry> entries_;
   mutable bool entriesKnown_ = false;
+  /// The field when the list was opened.
+  StandingText standing_;
+  Variant standingValue_;
   bool enabledMember_;
   bool entryEnabled_ = false;
 };

@@ -377,6 +377,43 @@ TEST_F(ComboList, EscapeLeavesTheValueAndTheForm) {
   });
 }
 
+TEST_F(ComboList, EscapePutsBackWhatStoodBeforeSomethingWasTypedBesideIt) {
+  typed.Value(u"20");
+  showAt(typed, [&] {
+    press(key::F4);
+    type(u"1");
+    EXPECT_EQ(state(typed), "10: 1[0 Erstkontakt] (open at 0)");
+    EXPECT_EQ(happened(), "=10 Typed_Click");
+    press(key::Escape);
+    EXPECT_EQ(state(typed), "20: [20 Angebot]");
+    EXPECT_EQ(happened(), "=20 Typed_Click");
+  });
+}
+
+TEST_F(ComboList, EscapePutsBackATextThatIsNoEntry) {
+  typed.Value(u"V1");
+  showAt(typed, [&] {
+    type(u"2x");
+    happened();
+    press(key::F4);
+    type(u"y");
+    press(key::Escape);
+    EXPECT_EQ(state(typed), "V1: 2x");
+    EXPECT_EQ(happened(), "");
+  });
+}
+
+TEST_F(ComboList, AKeyThatLeadsNowhereTakesNothing) {
+  picked.Value(u"BX");
+  showAt(picked, [&] {
+    press(key::Down);
+    press(key::End);
+    EXPECT_EQ(happened(), "");
+    press(key::Up);
+    EXPECT_EQ(happened(), "Picked_Click");
+  });
+}
+
 TEST_F(ComboList, TypingBesideItMovesTheMark) {
   showAt(typed, [&] {
     press(key::F4);

@@ -237,14 +237,11 @@ void DialogTest::type(StringView text) {
   for (const char16_t character : text) desktop.press(KeyStroke::ofCharacter(character));
 }
 
-void DialogTest::select(int row, StringView name) {
-  auto& list = dynamic_cast<TDBList&>(control(name));
-  if (form().mousePressed(list)) list.userSelect(row);
-}
+void DialogTest::select(int row, StringView name) { dynamic_cast<TDBList&>(control(name)).userPressed(row); }
 
 void DialogTest::doubleClick(int row, StringView name) {
   select(row, name);
-  dynamic_cast<TDBList&>(control(name)).userDoubleClick(row);
+  dynamic_cast<TDBList&>(control(name)).userPressedAgain(row);
 }
 
 Variant DialogTest::get(StringView name, StringView property) const {

@@ -34,8 +34,10 @@ Json listContents(Control& control) {
   }
   Json rows = Json::array();
   for (int row = 0; row < list.knownRows(); ++row) {
+    const std::vector<String> now = list.rowTextsNow(row);
     Json texts = Json::array();
-    for (const int column : shown) texts.push_back(jsonText(list.cellText(row, column)));
+    for (const int column : shown)
+      texts.push_back(jsonText(now.empty() ? String() : now.at(static_cast<std::size_t>(column))));
     rows.push_back(std::move(texts));
   }
   return {{"columns", std::move(columns)}, {"rows", std::move(rows)}, {"row", list.Row()}};

@@ -29,11 +29,13 @@ void HeadlessUser::mouseDown(const MouseTarget& target) {
       pressed_ = headless::pressOn(*grid, {target.row, target.col}, target.button);
       return;
     }
-    pressed_ = desktop_.mouseDown(target.control);
-    auto* list = dynamic_cast<TDBList*>(&target.control);
-    if (pressed_ && list != nullptr) list->userSelect(target.row);
-    auto* rows = dynamic_cast<ListBox*>(&target.control);
-    if (pressed_ && rows != nullptr) rows->userPressed(target.row, target.shift);
+    if (auto* list = dynamic_cast<TDBList*>(&target.control)) {
+      pressed_ = list->userPressed(target.row);
+    } else if (auto* rows = dynamic_cast<ListBox*>(&target.control)) {
+      pressed_ = rows->userPressed(target.row, target.shift);
+    } else {
+      pressed_ = desktop_.mouseDown(target.control);
+    }
   });
   twice_ = false;
 }
@@ -58,12 +60,16 @@ void HeadlessUser::mouseUp(const MouseTarget& target) {
 
 void HeadlessUser::mouseDownAgain(const MouseTarget& target) {
   guarded(target.control, u"MouseDown", [&] {
-    const bool passes = target.control.form().mousePressed(target.control);
-    if (!passes) return;
-    if (auto* list = dynamic_cast<TDBList*>(&target.control)) list->userDoubleClick(target.row);
-    if (auto* rows = dynamic_cast<ListBox*>(&target.control)) rows->userPressed(target.row, target.shift);
+    if (auto* list = dynamic_cast<TDBList*>(&target.control)) {
+      list->userPressedAgain(target.row);
+      return;
+    }
+    if (auto* rows = dynamic_cast<ListBox*>(&target.control)) {
+      rows->userPressedAgain(target.shift);
+      return;
+    }
     auto* grid = dynamic_cast<FlexGrid*>(&target.control);
-    if (grid == nullptr) return;
+    if (!target.control.form().mousePressed(target.control) || grid == nullptr) return;
     pressed_ = twice_ = true;
     grid->userPressedTwice({target.row, target.col});
   });

@@ -205,8 +205,7 @@ TEST_F(OmrSettings, WithoutASelectionTheOptionsAreGreyAndNothingIsTaken) {
   twoLayouts();
   keep(u"OMRLayoutAN", u"Blau");
   show(31, {u"AN"}, [&] {
-    ASSERT_TRUE(form().mousePressed(documents()));
-    documents().userPressed(0, shift::Ctrl);
+    ASSERT_TRUE(documents().userPressed(0, shift::Ctrl));
     form().mouseReleased(documents());
     EXPECT_EQ(documents().SelCount(), 0);
     EXPECT_EQ(layoutRow(), -1);
@@ -326,6 +325,19 @@ TEST_F(OmrSettings, ChoosingAPageTicksTheOption) {
   });
   EXPECT_EQ(kept(u"OMROption0RG"), u"1");
   EXPECT_EQ(kept(u"OMROption0PageRG"), u"2");
+}
+
+TEST_F(OmrSettings, ChoosingThePageThatIsShownTicksTheOptionToo) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"Gelb");
+  show(31, {u"RG"}, [&] {
+    EXPECT_EQ(option(0), "0 Beileger [Alle Seiten|Erste Seite]Alle Seiten");
+    choose(u"cboOption(0)", 0);
+    EXPECT_EQ(option(0), "1 Beileger [Alle Seiten|Erste Seite]Alle Seiten");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMROption0RG"), u"1");
+  EXPECT_EQ(kept(u"OMROption0PageRG"), u"ALL");
 }
 
 TEST_F(OmrSettings, TickingAnOptionWithoutAPageTakesItsFirst) {

@@ -7,7 +7,6 @@
 #include "desktop/qt/text.h"
 #include "forms/day_entry.h"
 #include "forms/form.h"
-#include "forms/label.h"
 
 namespace zqn::qt {
 
@@ -22,18 +21,29 @@ bool meet(int start, int length, int otherStart, int otherLength) {
   return start < otherStart + otherLength && otherStart < start + length;
 }
 
-/// How far the label stands from the control that it may explain, in twips; a label above counts as further
+bool isDropDown(const Control& control) {
+  return control.kind() == ControlKind::ComboBox || control.kind() == ControlKind::zqCombo;
+}
+
+/// "Status auf" [entry]: a box to tick in front of a drop-down says what is chosen there.
+bool mayExplain(const Control& words, const Control& control) {
+  if (words.container() != control.container() || !words.Visible() || words.content().empty()) return false;
+  return words.kind() == ControlKind::Label ||
+         (isDropDown(control) &&
+          (words.kind() == ControlKind::CheckBox || words.kind() == ControlKind::OptionButton));
+}
+
+/// How far the words stand from the control that they may explain, in twips; a label above counts as further
 /// away than any to the left. Labels reach a little into their field in some designs.
-int distance(const Label& label, const Control& control) {
-  if (label.container() != control.container() || !label.Visible()) return farAway;
-  const int left = control.Left() - (label.Left() + label.Width());
-  if (label.Left() < control.Left() && left <= reachLeft &&
-      meet(label.Top(), label.Height(), control.Top() + control.Height() / 4, control.Height() / 2))
+int distance(const Control& words, const Control& control) {
+  const int left = control.Left() - (words.Left() + words.Width());
+  if (words.Left() < control.Left() && left <= reachLeft &&
+      meet(words.Top(), words.Height(), control.Top() + control.Height() / 4, control.Height() / 2))
     return std::max(left, 0);
-  const int above = control.Top() - (label.Top() + label.Height());
-  if (label.Top() < control.Top() && above <= reachAbove &&
-      meet(label.Left(), label.Width(), control.Left(), control.Width()))
-    return reachLeft + std::max(above, 0) + std::abs(control.Left() - label.Left());
+  const int above = control.Top() - (words.Top() + words.Height());
+  if (words.kind() == ControlKind::Label && words.Top() < control.Top() && above <= reachAbove &&
+      meet(words.Left(), words.Width(), control.Left(), control.Width()))
+    return reachLeft + std::max(above, 0) + std::abs(control.Left() - words.Left());
   return farAway;
 }
 
@@ -41,14 +51,31 @@ QString labelFor(const Control& control) {
   QString nearest;
   int least = farAway;
   for (const auto& each : control.form().controls()) {
-    const auto* label = dynamic_cast<const Label*>(each.get());
-    if (label == nullptr || label->Caption().empty()) continue;
-    const int away = distance(*label, control);
+    if (each.get() == &control || !mayExplain(*each, control)) continue;
+    const int away = distance(*each, control);
     if (away >= least) continue;
     least = away;
-    nearest = toQt(label->Caption());
+    nearest = toQt(each->content());
   }
   return nearest;
+}
+
+bool encloses(const Control& frame, const Control& control) {
+  return frame.Left() <= control.Left() && frame.Top() <= control.Top() &&
+         frame.Left() + frame.Width() >= control.Left() + control.Width() &&
+         frame.Top() + frame.Height() >= control.Top() + control.Height();
+}
+
+/// The heading of the frame around a list or drop-down that no label explains.
+QString frameAround(const Control& control) {
+  if (!isDropDown(control) && control.kind() != ControlKind::ListBox) return {};
+  for (const auto& each : control.form().controls()) {
+    const bool frame = each->kind() == ControlKind::Frame && each->Visible();
+    const bool around = each.get() == control.container() ||
+                        (each->container() == control.container() && encloses(*each, control));
+    if (frame && around) return toQt(each->content());
+  }
+  return {};
 }
 
 /// A number has its unit behind it, and the words to its left may stand in front of another number of the
@@ -107,8 +134,12 @@ QString accessibleNameOf(const Control& control) {
   const bool saysItself = saysWhatItIs(control.kind()) && !control.content().empty();
   const QString words = saysItself ? toQt(control.content()) : nameByWords(control);
   QString name = withoutAccessKey(words).simplified();
+  if (name.isEmpty()) name = withoutAccessKey(frameAround(control)).simplified();
   // A button that shows a picture alone says by its tip what it does.
   if (name.isEmpty()) name = toQt(control.ToolTipText()).simplified();
+  // A list that no label stands beside shows what the form is about.
+  if (name.isEmpty() && control.kind() == ControlKind::TDBList)
+    name = toQt(control.form().Caption()).simplified();
   return name.isEmpty() ? toQt(control.fullName()) : name;
 }
 

@@ -6,8 +6,10 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "desktop/qt/row_mark.h"
 #include "desktop/qt/shield.h"
 #include "desktop/qt/text.h"
+#include "forms/form.h"
 
 namespace zqn::qt {
 
@@ -21,10 +23,20 @@ ComboBox::ComboBox(zqn::ComboBox& model, QWidget* parent)
     each->installEventFilter(this);
   connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
     if (isDrawing()) return;
-    // Assistive technology has chosen: undone, and done again by the model's rules.
+    // Assistive technology has chosen: undone, and done again as by a person's click.
     sync();
-    choose(index);
+    shielded(model_, u"Click", [&] {
+      if (model_.form().mousePressed(model_)) model_.userChose(index);
+    });
   });
+  connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& selected) {
+            if (isDrawing()) return;
+            // The pointer is over an entry, or assistive technology has selected one: the model marks it.
+            const int row = selected.isEmpty() ? -1 : selected.first().top();
+            sync();
+            model_.userMarked(row);
+          });
   connect(view()->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& marked) {
             if (!isDrawing()) model_.userMarked(marked.row());
@@ -65,8 +77,7 @@ void ComboBox::drawList() {
       hidePopup();
     }
   }
-  if (!model_.isOpen() || view()->currentIndex().row() == model_.markedEntry()) return;
-  view()->setCurrentIndex(model()->index(model_.markedEntry(), modelColumn(), rootModelIndex()));
+  if (model_.isOpen()) showMark(*view(), model_.markedEntry());
 }
 
 void ComboBox::compare(Differences& found) const {
@@ -75,7 +86,8 @@ void ComboBox::compare(Differences& found) const {
     found.expect("List", itemText(i), toQt(model_.List(i)));
   found.expect("ListIndex", currentIndex(), model_.ListIndex());
   found.expect("open list", listShown(), model_.isOpen());
-  if (model_.isOpen()) found.expect("marked entry", view()->currentIndex().row(), model_.markedEntry());
+  found.expect("Text", currentText(), toQt(model_.Text()));
+  if (model_.isOpen()) found.expect("marked entry", showsMark(*view(), model_.markedEntry()), true);
 }
 
 // ---- input
@@ -83,7 +95,10 @@ void ComboBox::compare(Differences& found) const {
 bool ComboBox::pressed(const QMouseEvent&, bool) { return true; }
 
 void ComboBox::showPopup() {
-  if (!isDrawing()) model_.userOpened();
+  if (isDrawing()) return;
+  shielded(model_, u"MouseDown", [this] {
+    if (model_.form().mousePressed(model_)) model_.userOpened();
+  });
 }
 
 bool ComboBox::eventFilter(QObject* watched, QEvent* event) {

@@ -59,7 +59,7 @@ bool ControlInput::pressed(QMouseEvent& event) {
   shielded(target_.control(), u"MouseDown", [&] {
     Control& control = target_.control();
     const bool focusCame = window_.form().ActiveControl() != &control;
-    if (!window_.form().mousePressed(control)) return;
+    if (!target_.reportPress(event)) return;
     if (event.button() != Qt::LeftButton) {
       swallow = false;
       return;

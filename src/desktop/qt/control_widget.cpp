@@ -82,6 +82,8 @@ QString ControlWidget::description() const { return toQt(control_.ToolTipText())
 
 void ControlWidget::ownKey(const KeyStroke& stroke) { control_.ownKey(stroke); }
 
+bool ControlWidget::reportPress(const QMouseEvent&) { return control_.form().mousePressed(control_); }
+
 bool ControlWidget::pressed(const QMouseEvent&, bool) { return false; }
 
 void ControlWidget::dragged(const QMouseEvent&) {}

@@ -60,7 +60,13 @@ class ControlWidget {
   /// What differs between widget and model, "" when nothing does.
   QString shows() const;
 
-  // ---- input, called after the form has agreed
+  // ---- input
+
+  /// A button went down on the mouse area: tells the form, and which place of the widget that is now, before
+  /// the focus moves and anything scrolls. False when the click is over.
+  virtual bool reportPress(const QMouseEvent& event);
+
+  // called after the form has agreed
 
   /// The control's own effect of a key, as the handlers left it.
   virtual void ownKey(const KeyStroke& stroke);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "desktop/qt/key_events.h"
 #include "desktop/qt/shield.h"
 #include "desktop/qt/text.h"
 
@@ -12,6 +13,7 @@ ListBox::ListBox(zqn::ListBox& model, QWidget* parent)
     : QListWidget(parent),
       ControlWidget(model, *this, {QPalette::Base, QPalette::Text, colour::WindowBackground}),
       model_(model) {
+  cells_ = new PaintedCells(*this, PaintedCells::CellFocus::Shown);
   setSelectionMode(QAbstractItemView::MultiSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -41,6 +43,9 @@ void ListBox::compare(Differences& found) const {
     found.expect("Selected", item(i)->isSelected(), model_.Selected(i));
   }
   found.expect("ListIndex", currentRow(), model_.ListIndex());
+  if (!cells_->bringUpToDate()) return;
+  for (int i = 0; i < std::min(count(), model_.ListCount()); ++i)
+    cells_->compare(found, indexFromItem(item(i)), toQt(model_.List(i)), model_.Selected(i));
 }
 
 void ListBox::focusInEvent(QFocusEvent* event) {
@@ -49,13 +54,15 @@ void ListBox::focusInEvent(QFocusEvent* event) {
   sync();
 }
 
-bool ListBox::pressed(const QMouseEvent& event, bool) {
-  const Qt::KeyboardModifiers held = event.modifiers();
-  const int bits = ((held & Qt::ShiftModifier) != 0 ? shift::Shift : shift::None) |
-                   ((held & Qt::ControlModifier) != 0 ? shift::Ctrl : shift::None);
-  model_.userPressed(indexAt(event.position().toPoint()).row(), bits);
-  return true;
+bool ListBox::reportPress(const QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return ControlWidget::reportPress(event);
+  const int held = shiftOf(event.modifiers()) & (shift::Shift | shift::Ctrl);
+  return event.type() == QEvent::MouseButtonDblClick
+             ? model_.userPressedAgain(held)
+             : model_.userPressed(indexAt(event.position().toPoint()).row(), held);
 }
+
+bool ListBox::pressed(const QMouseEvent&, bool) { return true; }
 
 void ListBox::report() {
   if (isDrawing()) return;

@@ -7,6 +7,7 @@
 #include <QListWidget>
 
 #include "desktop/qt/control_widget.h"
+#include "desktop/qt/painted_cells.h"
 #include "forms/list_box.h"
 
 namespace zqn::qt {
@@ -16,7 +17,10 @@ class ListBox : public QListWidget, public ControlWidget {
   ListBox(zqn::ListBox& model, QWidget* parent);
 
   QWidget& mouseArea() const override { return *viewport(); }
+  bool reportPress(const QMouseEvent& event) override;
   bool pressed(const QMouseEvent& event, bool focusCame) override;
+  /// What is typed is the model's.
+  void keyboardSearch(const QString&) override {}
 
  protected:
   void draw() override;
@@ -27,6 +31,7 @@ class ListBox : public QListWidget, public ControlWidget {
   void report();
 
   zqn::ListBox& model_;
+  PaintedCells* cells_;
 };
 
 }  // namespace zqn::qt

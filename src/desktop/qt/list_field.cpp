@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "desktop/qt/row_mark.h"
 #include "desktop/qt/shield.h"
 #include "desktop/qt/text.h"
 
@@ -49,6 +50,15 @@ ListField::ListField(zqn::TextEntry& field, zqn::DropDown& entries, bool editabl
   if (isReadOnly()) setCursor(Qt::ArrowCursor);
   window_.setFrameShape(QFrame::Box);
   list_.setModel(&rows_);
+  cells_ = new PaintedCells(list_, PaintedCells::CellFocus::Hidden);
+  connect(list_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& selected) {
+            if (isDrawing()) return;
+            // Assistive technology has selected: undone, and done again by the model's rules.
+            const int row = selected.isEmpty() ? -1 : selected.first().top();
+            sync();
+            entries_.userMarked(row);
+          });
   list_.setFrameShape(QFrame::NoFrame);
   list_.setHeaderHidden(true);
   list_.setRootIsDecorated(false);
@@ -82,8 +92,7 @@ void ListField::drawList() {
       window_.hide();
     }
   }
-  if (!entries_.isOpen() || list_.currentIndex().row() == entries_.markedEntry()) return;
-  list_.setCurrentIndex(rows_.index(entries_.markedEntry(), 0));
+  if (entries_.isOpen()) showMark(list_, entries_.markedEntry());
 }
 
 void ListField::openList() {
@@ -114,7 +123,14 @@ void ListField::compare(Differences& found) const {
   found.expect("open list", window_.isVisible(), entries_.isOpen());
   if (!entries_.isOpen()) return;
   found.expect("entries", rows_.rowCount(), entries_.ListCount());
-  found.expect("marked entry", list_.currentIndex().row(), entries_.markedEntry());
+  found.expect("marked entry", showsMark(list_, entries_.markedEntry()), true);
+  if (!cells_->bringUpToDate()) return;
+  for (int row = 0; row < std::min(rows_.rowCount(), entries_.ListCount()); ++row) {
+    for (int column = 0; column < rows_.columnCount(); ++column) {
+      const QModelIndex cell = rows_.index(row, column);
+      cells_->compare(found, cell, cell.data().toString(), row == entries_.markedEntry());
+    }
+  }
 }
 
 void ListField::resizeEvent(QResizeEvent* event) {

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "desktop/qt/field_button.h"
+#include "desktop/qt/painted_cells.h"
 #include "desktop/qt/text_entry.h"
 #include "forms/combo_box.h"
 #include "forms/zq_combo.h"
@@ -70,6 +71,7 @@ class ListField : public TextEntry {
   ListFieldRows rows_;
   QFrame window_;
   QTreeView list_{&window_};
+  PaintedCells* cells_;
 };
 
 /// A ComboBox that takes any text.

@@ -6,14 +6,16 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 #include <chrono>
 
 #include "desktop/qt/colours.h"
+#include "desktop/qt/row_mark.h"
+#include "desktop/qt/shield.h"
 #include "desktop/qt/style.h"
 #include "desktop/qt/text.h"
+#include "forms/form.h"
 
 namespace zqn::qt {
 
@@ -26,18 +28,6 @@ constexpr int keysPerStep = 10'000;
 constexpr std::chrono::milliseconds readFor = 8ms;
 constexpr std::chrono::milliseconds pause = 4ms;
 
-/// The row as a whole has the focus, no cell of it.
-class CellDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
- protected:
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
-  }
-};
-
 }  // namespace
 
 TDBList::TDBList(zqn::TDBList& model, QWidget* parent)
@@ -46,7 +36,8 @@ TDBList::TDBList(zqn::TDBList& model, QWidget* parent)
       model_(model),
       rows_(model) {
   setModel(&rows_);
-  setItemDelegate(new CellDelegate(this));
+  // The row as a whole has the focus, no cell of it.
+  cells_ = new PaintedCells(*this, PaintedCells::CellFocus::Hidden);
   setEditTriggers(NoEditTriggers);
   setSelectionMode(SingleSelection);
   setSelectionBehavior(SelectRows);
@@ -67,6 +58,12 @@ TDBList::TDBList(zqn::TDBList& model, QWidget* parent)
   captions.setFocusPolicy(Qt::NoFocus);
   connect(&captions, &QHeaderView::sectionResized, this,
           [this](int column, int, int pixels) { columnDragged(column, pixels); });
+
+  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& selected) { assisted(selected); });
+  connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+    if (!isDrawing()) sync();
+  });
 
   reading_.setInterval(pause);
   connect(&reading_, &QTimer::timeout, this, [this] { readOn(); });
@@ -92,10 +89,7 @@ void TDBList::draw() {
     reading_.start();
   }
 
-  const QModelIndex marked = rows_.index(model_.Row(), 0);
-  if (currentIndex().row() != marked.row())
-    selectionModel()->setCurrentIndex(marked,
-                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  showMark(*this, model_.Row(), firstShownColumn());
   if (anew || drawnRow_ != model_.Row()) showMarkedRow();
   // A row that is read again may say something else.
   viewport()->update();
@@ -109,6 +103,12 @@ void TDBList::showMarkedRow() {
   const int left = horizontalScrollBar()->value();
   scrollTo(marked);
   horizontalScrollBar()->setValue(left);
+}
+
+int TDBList::firstShownColumn() const {
+  int first = 0;
+  while (first + 1 < rows_.columnCount() && model_.drawnWidth(first) <= 0) ++first;
+  return first;
 }
 
 int TDBList::lastShownColumn() const {
@@ -156,6 +156,7 @@ void TDBList::drawRowStyle() {
 
 void TDBList::compare(Differences& found) const {
   found.expect("Row", currentIndex().row(), model_.Row());
+  found.expect("selection", showsMark(*this, model_.Row()), true);
   // The list may have come to know more rows, by a search, than it has shown so far.
   if (rows_.rowCount() > model_.knownRows()) found.expect("rows", rows_.rowCount(), model_.knownRows());
   found.expect("columns", rows_.columnCount(), model_.columnCount());
@@ -168,11 +169,13 @@ void TDBList::compare(Differences& found) const {
     found.expect("Visible", !isColumnHidden(i), widthOf(i) > 0);
     if (widthOf(i) > 0 && i != last) found.expect("Width", columnWidth(i), widthOf(i));
   }
+  if (!cells_->bringUpToDate()) return;
   const int top = std::max(rowAt(0), 0);
   const int bottom = rowAt(viewport()->height() - 1);
   for (int row = top; row <= (bottom < 0 ? rows_.rowCount() - 1 : bottom); ++row) {
     for (int i = 0; i < rows_.columnCount(); ++i) {
-      found.expect("cell", rows_.index(row, i).data().toString(), qt::toQt(list.cellText(row, i)));
+      if (!isColumnHidden(i))
+        cells_->compare(found, rows_.index(row, i), qt::toQt(list.cellText(row, i)), row == list.Row());
     }
   }
 }
@@ -210,16 +213,23 @@ void TDBList::focusOutEvent(QFocusEvent* event) {
 
 // ---- input
 
-bool TDBList::pressed(const QMouseEvent& event, bool) {
-  pressedRow_ = rowAt(event.position().toPoint().y());
-  model_.userSelect(pressedRow_);
-  return true;
+bool TDBList::reportPress(const QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return ControlWidget::reportPress(event);
+  const int row = rowAt(event.position().toPoint().y());
+  return event.type() == QEvent::MouseButtonDblClick ? model_.userPressedAgain(row) : model_.userPressed(row);
 }
 
-bool TDBList::pressedTwice(const QMouseEvent&) {
-  // The row under the first press: the list may have scrolled to show it whole.
-  model_.userDoubleClick(pressedRow_);
-  return true;
+bool TDBList::pressed(const QMouseEvent&, bool) { return true; }
+
+void TDBList::assisted(const QItemSelection& selected) {
+  if (isDrawing()) return;
+  // Assistive technology has selected: undone, and done again as a person's click.
+  const int row = selected.isEmpty() ? -1 : selected.first().top();
+  sync();
+  if (row < 0) return;
+  shielded(model_, u"MouseDown", [&] {
+    if (model_.userPressed(row)) model_.form().mouseReleased(model_);
+  });
 }
 
 void TDBList::columnDragged(int column, int pixels) {

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "desktop/qt/control_widget.h"
+#include "desktop/qt/painted_cells.h"
 #include "desktop/qt/tdb_list_rows.h"
 #include "forms/tdb_list.h"
 
@@ -19,8 +20,10 @@ class TDBList : public QTableView, public ControlWidget {
   TDBList(zqn::TDBList& model, QWidget* parent);
 
   QWidget& mouseArea() const override { return *viewport(); }
+  bool reportPress(const QMouseEvent& event) override;
   bool pressed(const QMouseEvent& event, bool focusCame) override;
-  bool pressedTwice(const QMouseEvent& event) override;
+  /// What is typed is the model's.
+  void keyboardSearch(const QString&) override {}
 
  protected:
   void draw() override;
@@ -38,15 +41,17 @@ class TDBList : public QTableView, public ControlWidget {
   void showMarkedRow();
   void columnDragged(int column, int pixels);
   void readOn();
+  void assisted(const QItemSelection& selected);
   QString tipFor(const QModelIndex& cell) const;
   int widthOf(int column) const;
+  int firstShownColumn() const;
   int lastShownColumn() const;
 
   zqn::TDBList& model_;
   TDBListRows rows_;
+  PaintedCells* cells_;
   QTimer reading_;
   int drawnRow_ = -1;
-  int pressedRow_ = -1;
 };
 
 }  // namespace zqn::qt

@@ -13,8 +13,20 @@ constexpr int fetchStep = 1000;
 }  // namespace
 
 QVariant TDBListRows::data(const QModelIndex& index, int role) const {
-  if (role != Qt::DisplayRole || !index.isValid()) return {};
+  if (!index.isValid()) return {};
+  if (role == Qt::AccessibleDescriptionRole) return besides(index);
+  if (role != Qt::DisplayRole) return {};
   return toQt(list_.cellText(index.row(), index.column()));
+}
+
+QString TDBListRows::besides(const QModelIndex& cell) const {
+  QStringList texts;
+  for (int i = 0; i < columns_; ++i) {
+    const QString text =
+        list_.drawnWidth(i) > 0 && i != cell.column() ? toQt(list_.cellText(cell.row(), i)) : QString();
+    if (!text.isEmpty()) texts += text;
+  }
+  return texts.join(QStringLiteral(", "));
 }
 
 QVariant TDBListRows::headerData(int section, Qt::Orientation orientation, int role) const {

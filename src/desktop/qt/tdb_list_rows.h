@@ -26,6 +26,9 @@ class TDBListRows : public QAbstractTableModel {
   bool follow();
 
  private:
+  /// What the row says beside the cell: a reader of the cell hears the whole row.
+  QString besides(const QModelIndex& cell) const;
+
   zqn::TDBList& list_;
   int bindings_ = -1;
   int rows_ = 0;

@@ -38,7 +38,7 @@ TEST_F(DropDown, TakesAnEntryByNumberOrText) {
                                  {"select":"cbo(0)","index":0})~"),
               ElementsAre(R"~({"values":{"cbo(0).Text":"Vertrag","Form.ActiveControl":"cbo(0)"}})~",
                           R"~({"values":{"cbo(0).ListIndex":0}})~"));
-  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(clicks, 3) << "the entry that stands is taken, too";
 }
 
 TEST_F(DropDown, RefusesEntriesThatItLacks) {
@@ -85,6 +85,39 @@ TEST_F(DropDown, SelectTakesAnEntryOfTheOpenListToo) {
                                  {"get":["cbo(0).ListIndex","cbo(0).List(1)","cbo(0).ListCount"]})~"),
               ElementsAre(R"~({"values":{"cbo(0).ListIndex":2,"cbo(0).List(1)":"Vertrag",)~"
                           R"~("cbo(0).ListCount":3}})~"));
+}
+
+TEST_F(DropDown, TakingTheEntryThatStandsIsAChoiceToo) {
+  cbo.ListIndex(1);
+  clicks = 0;
+  EXPECT_THAT(
+      actsOnDropDowns(R"~({"select":"cbo(0)","index":1}
+                                 {"get":["cbo(0).ListIndex"]}
+                                 {"key":"F4"}
+                                 {"key":"Enter"}
+                                 {"get":["cbo(0).Text"]})~"),
+      ElementsAre(R"~({"values":{"cbo(0).ListIndex":1}})~", R"~({"values":{"cbo(0).Text":"Vertrag"}})~"));
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(DropDown, KeysOfATextFieldReachTheFormAfterOneWasUsed) {
+  std::string heard;
+  drops.Get<TextBox>(u"txtKey").KeyDown = [&](int& code, int) { heard += std::to_string(code) + " "; };
+  for (const char* use :
+       {R"~({"select":"cbo(0)","index":1})~", "{\"click\":\"cbo(0)\"}\n{\"key\":\"Escape\"}",
+        "{\"click\":\"cbo(0)\"}\n{\"key\":\"Enter\"}"}) {
+    heard.clear();
+    drops.Get<TextBox>(u"txtKey").Text(u"abc");
+    EXPECT_THAT(actsOnDropDowns(std::string(use) + "\n" + R"~({"focus":"txtKey"}
+                                                              {"key":"End"}
+                                                              {"key":"Left"}
+                                                              {"get":["txtKey.SelStart"]}
+                                                              {"key":"Home"}
+                                                              {"get":["txtKey.SelStart"]})~"),
+                ElementsAre(R"~({"values":{"txtKey.SelStart":2}})~", R"~({"values":{"txtKey.SelStart":0}})~"))
+        << use;
+    EXPECT_EQ(heard, "35 37 36 ") << use;
+  }
 }
 
 TEST_F(DropDown, FocusLeavesTheListShut) {
@@ -176,6 +209,28 @@ TEST_F(KeyCombo, RefusesKeysThatItLacks) {
           R"~({"refused":"VertriebsStatus has no entry 5","action":{"select":"VertriebsStatus","index":5}})~",
           R"~({"refused":"Herkunft is disabled","action":{"select":"Herkunft","text":"MESSE"}})~",
           R"~({"values":{"VertriebsStatus.Value":null}})~"));
+}
+
+TEST_F(KeyCombo, EscPutsBackWhatStoodWhenTheListWasOpened) {
+  EXPECT_THAT(actsOnCombos(R"~({"select":"VertriebsStatus","text":"20"}
+                        {"key":"F4"}
+                        {"type":"4"}
+                        {"get":["VertriebsStatus.Value","VertriebsStatus.Text"]}
+                        {"key":"Escape"}
+                        {"get":["VertriebsStatus.Value","VertriebsStatus.Text","Form.ActiveControl"]})~"),
+              ElementsAre(R"~({"values":{"VertriebsStatus.Value":"40","VertriebsStatus.Text":"40 Zusage"}})~",
+                          R"~({"values":{"VertriebsStatus.Value":"20","VertriebsStatus.Text":"20 Angebot",)~"
+                          R"~("Form.ActiveControl":"VertriebsStatus"}})~"));
+}
+
+TEST_F(KeyCombo, KeysOfATextFieldReachTheFormAfterOneWasUsed) {
+  combos.Get<TextBox>(u"txtKey").Text(u"abc");
+  EXPECT_THAT(actsOnCombos(R"~({"select":"VertriebsStatus","text":"20"}
+                               {"focus":"txtKey"}
+                               {"key":"End"}
+                               {"key":"Left"}
+                               {"get":["txtKey.SelStart"]})~"),
+              ElementsAre(R"~({"values":{"txtKey.SelStart":2}})~"));
 }
 
 TEST_F(KeyCombo, IsListedByKeyAndTextAsSomebodyElseLeftThem) {

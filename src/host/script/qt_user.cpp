@@ -159,6 +159,9 @@ void QtUser::takeEntry(Control& control, int entry) {
     QWidget& opener = withButton != nullptr ? withButton->button() : field;
     sendMouse(opener, QEvent::MouseButtonPress, opener.rect().center());
     sendMouse(opener, QEvent::MouseButtonRelease, opener.rect().center());
+    // The window system hears that the list stands open before it is closed again: else the keyboard stays
+    // with a window that is gone.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   }
   if (!drop.isVisible()) return;
   const QModelIndex row = drop.model()->index(entry, 0);

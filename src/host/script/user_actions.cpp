@@ -53,7 +53,10 @@ MouseTarget targetOf(Control& control) {
   if (grid != nullptr && grid->Rows() > 0)
     return {control, std::max(grid->Row(), std::min(grid->FixedRows(), grid->Rows() - 1)), freeColumn(*grid)};
   const RowAccess* rows = traitsOf(control).rows;
-  return {control, rows == nullptr || rows->inDropDown ? -1 : rows->markedRow(control)};
+  if (rows == nullptr || rows->inDropDown) return {control};
+  // Where no row is marked, a click into a list falls on the first one.
+  const int marked = rows->markedRow(control);
+  return {control, marked < 0 && rows->hasRow(control, 0) ? 0 : marked};
 }
 
 /// A cell of a grid, or a place beside its cells, that a person can point at.

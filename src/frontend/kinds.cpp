@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "definitions/buchungskreise.h"
 #include "definitions/coded_catalogues.h"
@@ -193,9 +192,11 @@ constexpr Kind kinds[] = {
 
 constexpr std::size_t kindCount = std::size(kinds);
 static_assert(kindCount == zqnCommonDialogKontaktGruende, "a kind has no row");
-static_assert(std::ranges::equal(kinds, std::views::iota(1, static_cast<int>(kindCount) + 1), {},
-                                 [](const Kind& kind) { return kind.info.number; }),
-              "the rows do not stand in the order of the kinds");
+consteval bool standInOrder() {
+  std::int32_t number = 0;
+  return std::ranges::all_of(kinds, [&](const Kind& kind) { return kind.info.number == ++number; });
+}
+static_assert(standInOrder(), "the rows do not stand in the order of the kinds");
 static_assert(std::ranges::all_of(kinds,
                                   [](const Kind& kind) { return kind.form.make || kind.definition.make; }),
               "a kind has neither a form nor a definition class");

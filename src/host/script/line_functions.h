@@ -39,6 +39,7 @@ void exec(const LineContext& context, const Arguments& line);
 void setting(const LineContext& context, const Arguments& line);
 void auskunft(const LineContext& context, const Arguments& line);
 void fail(const LineContext& context, const Arguments& line);
+void clipboard(const LineContext& context, const Arguments& line);
 }  // namespace outside
 
 }  // namespace zqn::script

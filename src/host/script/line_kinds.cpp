@@ -42,6 +42,7 @@ constexpr LineKind kinds[] = {
     {"setting", LineGroup::Outside, {}, outside::setting},
     {"auskunft", LineGroup::Outside, {}, outside::auskunft},
     {"fail", LineGroup::Outside, {}, outside::fail},
+    {"clipboard", LineGroup::Outside, {}, outside::clipboard},
 };
 
 std::string namesOfLines() {

@@ -90,4 +90,9 @@ void fail(const LineContext& context, const Arguments& line) {
       {operation, fromUtf8(given.text("match", "")), RuntimeError(number, description), times});
 }
 
+/// Somebody has copied a text in another program.
+void clipboard(const LineContext& context, const Arguments& line) {
+  context.desktop.copyToClipboard(fromUtf8(line.text("clipboard")));
+}
+
 }  // namespace zqn::script::outside

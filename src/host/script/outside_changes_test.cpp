@@ -53,6 +53,17 @@ TEST_F(OutsideChanges, SettingIsSavedInItsScope) {
   EXPECT_EQ(settings[2].scope, 1);
 }
 
+TEST_F(OutsideChanges, ClipboardIsWhatAnotherProgramHasCopied) {
+  EXPECT_THAT(acts(R"({"clipboard":"L-1 ß"}
+                      {"focus":"txtName"}
+                      {"key":"v","shift":2}
+                      {"get":["txtName.Text"]}
+                      {"clipboard":"zwei"}
+                      {"key":"v","shift":2}
+                      {"get":["txtName.Text"]})"),
+              ElementsAre(R"({"values":{"txtName.Text":"L-1 ß"}})", R"({"values":{"txtName.Text":"L-1 ßzwei"}})"));
+}
+
 TEST_F(OutsideChanges, AuskunftAnswersWhatTheLastLineSaid) {
   std::vector<AuskunftAnswer> asked;
   form.btnOK.Click = [&] {

@@ -29,7 +29,7 @@ class Menu;
 
 /// What a press of a key has come to, for the desktop that reported it.
 struct KeyOutcome {
-  /// The control's own effect is to take place: the toolkit edits natively, or calls Control::ownKey.
+  /// The control's own effect is to take place: the toolkit calls Control::ownKey.
   bool own = false;
   /// The stroke as the handlers left it: another character, or another code.
   KeyStroke stroke;

@@ -3,7 +3,7 @@
 // Texts between the dialogs and Qt. Both are UTF-16, so nothing is converted but the type:
 //
 //     setText(toQt(model.Caption()));
-//     model.userEdited(fromQt(text()), ...);
+//     model.userPasted(fromQt(text));
 #pragma once
 
 #include <QString>

@@ -340,6 +340,19 @@ TEST_F(OmrSettings, ChoosingThePageThatIsShownTicksTheOptionToo) {
   EXPECT_EQ(kept(u"OMROption0PageRG"), u"ALL");
 }
 
+TEST_F(OmrSettings, TakingThePageThatIsShownTicksTheOptionToo) {
+  twoLayouts();
+  keep(u"OMRLayoutRG", u"Gelb");
+  show(31, {u"RG"}, [&] {
+    EXPECT_EQ(option(0), "0 Beileger [Alle Seiten|Erste Seite]Alle Seiten");
+    choose(u"cboOption(0)", 0);
+    EXPECT_EQ(option(0), "1 Beileger [Alle Seiten|Erste Seite]Alle Seiten");
+    click(u"btnOK");
+  });
+  EXPECT_EQ(kept(u"OMROption0RG"), u"1");
+  EXPECT_EQ(kept(u"OMROption0PageRG"), u"ALL");
+}
+
 TEST_F(OmrSettings, TickingAnOptionWithoutAPageTakesItsFirst) {
   twoLayouts();
   for (const StringView kind : {u"AN", u"AB"}) keep(u"OMRLayout" + String(kind), u"Blau");

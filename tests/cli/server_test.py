@@ -172,7 +172,7 @@ class Init(ServerTest):
 
     @mariadb
     def test_two_at_once_do_not_take_each_other_for_killed(self):
-        start = subprocess.Popen([COMMAND, "init", "--db", self.url, "--rows", "20000"], stdout=subprocess.PIPE,
+        start = subprocess.Popen([COMMAND, "init", "--db", self.url, "--rows", "500"], stdout=subprocess.PIPE,
                                  stderr=subprocess.PIPE, text=True, cwd=self.folder, env=self.environment)
         while start.poll() is None and "zqn_init" not in self.tables():
             pass

@@ -73,7 +73,8 @@ class Place:
 
 def row_counts(place, file):
     tables = [name for name, in place.rows(file, "SELECT name FROM sqlite_master WHERE type='table' ORDER BY name")]
-    return {table: place.rows(file, f'SELECT COUNT(*) FROM "{table}"')[0][0] for table in tables}
+    counts = place.done(["sql", "--db", f"sqlite:{file}"], "".join(f'SELECT COUNT(*) FROM "{table}";\n' for table in tables))
+    return {table: json.loads(line)[0][0] for table, line in zip(tables, counts.splitlines(), strict=True)}
 
 
 class Init:

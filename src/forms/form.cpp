@@ -264,13 +264,15 @@ KeyOutcome Form::keyPressed(KeyStroke stroke) {
     moveFocus(*next, FocusCause::Tab);
     return outcome;
   }
-  Control* const target = active_;
+  Control* target = active_;
   const bool controlFirst = stroke.code == key::Enter && target != nullptr && target->wantsEnter();
   if (!controlFirst && pressesButton(stroke)) return outcome;
 
   const bool formSees = keyPreview_ && !controlFirst;
   int code = stroke.code;
   if (code != 0 && formSees) KeyDown.raise(code, stroke.shift);
+  // Where nobody had the focus, the form may have given it to somebody just now.
+  if (target == nullptr) target = active_;
   if (code != 0 && visible_ && target != nullptr) target->KeyDown.raise(code, stroke.shift);
   int character = stroke.character;
   if (character != 0 && visible_ && formSees) KeyPress.raise(character);

@@ -36,6 +36,20 @@ TEST_F(KeyOrder, ATypedCharacterPassesTheFormTheControlAndThenChangesTheText) {
   });
 }
 
+TEST_F(KeyOrder, AKeyThatNobodyHasTheFocusForGoesToWhomTheFormGivesIt) {
+  for (const auto& each : form.controls()) each->Enabled(false);
+  form.KeyDown = [this](int&, int) {
+    a.Enabled(true);
+    a.SetFocus();
+  };
+  show(form, [&] {
+    EXPECT_EQ(focusOf(form), "");
+    type(u"x");
+    EXPECT_EQ(a.Text(), u"x");
+    EXPECT_EQ(happened(), "a_KeyDown:88 Form_KeyPress:120 a_KeyPress:120 Form_KeyUp:88 a_KeyUp:88");
+  });
+}
+
 TEST_F(KeyOrder, WithoutKeyPreviewTheControlAloneSeesTheKey) {
   form.KeyPreview(false);
   show(form, [&] {

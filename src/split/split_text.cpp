@@ -8,7 +8,6 @@ namespace zqn {
 
 namespace {
 
-constexpr StringView lineBreak = u"\r\n";
 constexpr char16_t separator = u'|';
 constexpr char16_t quote = u'"';
 
@@ -51,21 +50,32 @@ Variant GetField(int index, StringView line, char16_t separator, char16_t quote)
   return wasQuoted ? Variant(field) : plainField(field);
 }
 
-SplitTable ParseSplit(StringView text) {
-  std::vector<String> lines = Split(text, lineBreak);
+std::vector<String> splitLines(StringView text) {
+  std::vector<String> lines = Split(text, splitLineBreak);
   if (lines.back().empty()) lines.pop_back();
+  return lines;
+}
+
+SplitFields splitFieldsOf(StringView line) {
+  SplitFields fields;
+  for (std::size_t j = 0; j < splitFields; ++j)
+    fields[j] = GetField(static_cast<int>(j) + 1, line, separator, quote);
+  return fields;
+}
+
+SplitTable ParseSplit(StringView text) {
+  const std::vector<String> lines = splitLines(text);
   SplitTable table;
   table.rows.resize(lines.size());
   for (std::size_t i = 0; i < lines.size(); ++i) {
     if (Trim(lines[i]).empty()) continue;
     ++table.count;
-    for (std::size_t j = 0; j < splitFields; ++j)
-      table.rows[i][j] = GetField(static_cast<int>(j) + 1, lines[i], separator, quote);
+    table.rows[i] = splitFieldsOf(lines[i]);
   }
   return table;
 }
 
-SplitCells cellsOf(const std::array<Variant, splitFields>& fields, SplitKind kind) {
+SplitCells cellsOf(const SplitFields& fields, SplitKind kind) {
   SplitCells cells;
   for (std::size_t j = 0; j < splitFields; ++j) {
     const bool dropped = (kind == SplitKind::Batches && j == SplitSerial) ||
@@ -78,17 +88,22 @@ SplitCells cellsOf(const std::array<Variant, splitFields>& fields, SplitKind kin
   return cells;
 }
 
+String splitLine(double quantity, const std::array<String, splitFields - 1>& texts) {
+  String line = numberText(quantity);
+  for (const String& text : texts) line += separator + inQuotes(text);
+  return line;
+}
+
 String BuildSplit(const std::vector<SplitCells>& rows) {
   String text;
   for (const SplitCells& row : rows) {
-    if (!text.empty()) text += lineBreak;
+    if (!text.empty()) text += splitLineBreak;
     const double quantity = Val2(row[SplitQuantity]);
     if (quantity == 0) continue;
-    text += numberText(quantity);
-    for (std::size_t j = SplitUnit; j < splitFields; ++j) {
-      const bool isDate = j == SplitDate && !Trim(row[j]).empty();
-      text += separator + inQuotes(isDate ? concatenate(DateToStore(row[j])) : row[j]);
-    }
+    const String& date = row[SplitDate];
+    text +=
+        splitLine(quantity, {row[SplitUnit], row[SplitBatch],
+                             Trim(date).empty() ? date : concatenate(DateToStore(date)), row[SplitSerial]});
   }
   return text;
 }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// The split text: a line a row, CR LF between lines; a line is quantity, unit, batch number, expiry date and
-// serial number, "|" between them, the last four in double quotes:
+// The split text as the form of kind 34 takes it apart and puts it together. A line a row, CR LF between
+// lines; a line is quantity, unit, batch number, expiry date and serial number, "|" between them, the last
+// four in double quotes:
 //
 //     2,5|"Stk"|"L-4711"|"20260630000000"|""
 //
 // What BuildSplit writes, ParseSplit reads back as the same rows, as long as no field holds a double quote.
+// Hosts read and write it through split_rows.h.
 #pragma once
 
 #include <array>
@@ -21,13 +23,16 @@ constexpr std::size_t splitFields = 5;
 
 /// What is split: a quantity over batches, over serial numbers, over both.
 enum class SplitKind { None = 0, Batches = 1, Serials = 2, Both = 3 };
+constexpr std::size_t splitKinds = static_cast<std::size_t>(SplitKind::Both) + 1;
 
+/// A line taken apart.
+using SplitFields = std::array<Variant, splitFields>;
 /// A row as the grid shows it: the texts of its five cells.
 using SplitCells = std::array<String, splitFields>;
 
 struct SplitTable {
   /// A row for each line, also for one without text, which is Empty throughout.
-  std::vector<std::array<Variant, splitFields>> rows;
+  std::vector<SplitFields> rows;
   /// Lines with text. It can be less than there are rows.
   int count = 0;
 };
@@ -42,10 +47,20 @@ Variant GetField(int index, StringView line, char16_t separator, char16_t quote)
 
 /// The cell texts of a row of the table: number and date in the form of the grid, and what the kind does not
 /// have left empty.
-SplitCells cellsOf(const std::array<Variant, splitFields>& fields, SplitKind kind);
+SplitCells cellsOf(const SplitFields& fields, SplitKind kind);
 
 /// Writes the rows. One of quantity 0 is left out, but for its line break: none in front of the first line.
 /// Fields go in as they are.
 String BuildSplit(const std::vector<SplitCells>& rows);
+
+// ---- what reading and writing are made of
+
+constexpr StringView splitLineBreak = u"\r\n";
+
+/// The lines of a text; nothing behind the last line break is no line.
+std::vector<String> splitLines(StringView text);
+SplitFields splitFieldsOf(StringView line);
+/// A line; the texts are unit, batch number, stored date and serial number, and go in as they are.
+String splitLine(double quantity, const std::array<String, splitFields - 1>& texts);
 
 }  // namespace zqn

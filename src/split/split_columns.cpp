@@ -13,21 +13,25 @@ constexpr int right = 7;
 
 struct Design {
   const char16_t* heading;
-  /// For no kind, and for kinds 1 to 3.
-  std::array<int, 4> widths;
+  /// By SplitKind.
+  std::array<int, splitKinds> widths;
 };
 
-constexpr std::array<Design, 5> designs{{
+// clang-format off
+constexpr Design designs[] = {
     {u"Menge", {1000, 1000, 1000, 1000}},
     {u"ME", {700, 700, 700, 700}},
     {u"Chargen-Nr.", {-1, 2000, 0, 2000}},
     {u"Verfalldatum", {-1, 1100, 0, 1100}},
     {u"S/N", {-1, 0, 2000, 2000}},
-}};
-static_assert(designs.size() == SplitSerial + 1);
-static_assert(designs.front().widths.size() == static_cast<std::size_t>(SplitKind::Both) + 1);
+};
+// clang-format on
+static_assert(std::size(designs) == SplitColumns::Last);
 
-const Design& designOf(int col) { return designs.at(static_cast<std::size_t>(col - 1)); }
+const Design& designOf(int col) {
+  if (col < SplitColumns::First || col > SplitColumns::Last) throw RuntimeError(error::SubscriptOutOfRange);
+  return designs[col - SplitColumns::First];
+}
 
 }  // namespace
 

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The columns 1 to 5 of the split grid: what each kind shows of them and lets a person edit. Column 0 holds
-// the marks. The scans look at what can be edited only:
-//
-//     SplitColumns columns(SplitKind::Batches, u"Stk");
-//     columns.NextEditCol(1);  // 3: the unit is never edited
+// The columns of the split grid.
 #pragma once
 
 #include "split/split_text.h"
@@ -25,6 +21,11 @@ struct SplitColumn {
   bool Date = false;
 };
 
+/// The columns 1 to 5 of the split grid: what each kind shows of them and lets a person edit. Column 0 holds
+/// the marks. The scans look at what can be edited only:
+///
+///     SplitColumns columns(SplitKind::Batches, u"Stk");
+///     columns.NextEditCol(1);  // 3: the unit is never edited
 class SplitColumns {
  public:
   static constexpr int First = 1, Last = 5;

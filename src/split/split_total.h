@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The running total of the quantities of a split, kept row by row, so that it is known at once however many
-// rows there are. Quantities of cells have three decimals, as cells show them. Row numbers are the grid's;
-// each row counts as 0 until it is set.
-//
-//     total.rows(4);
-//     total.set(1, 2.5);
-//     total.without(3, 2, 7);  // all rows but 3, with 7 in the place of row 2
+// The running total of a split.
 #pragma once
 
 #include <cstdint>
@@ -14,6 +8,13 @@
 
 namespace zqn {
 
+/// The total of the quantities, kept row by row, so that it is known at once however many rows there are.
+/// Quantities of cells have three decimals, as cells show them. Row numbers are the grid's; each row counts
+/// as 0 until it is set.
+///
+///     total.rows(4);
+///     total.set(1, 2.5);
+///     total.without(3, 2, 7);  // all rows but 3, with 7 in the place of row 2
 class SplitTotal {
  public:
   /// So many rows; rows at the end come as 0 and go with what they hold.

@@ -1,19 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// A grid of texts with a cursor and a selection. Rows and columns count from 0; the first FixedRows and
-// FixedCols of them are headings that do not scroll (0 of either is allowed). Code may put the cursor on any
-// cell, headings included; a person puts it on the others. The selection is the rectangle between the
-// cursor (Row, Col) and the opposite corner (RowSel, ColSel):
-//
-//     grid.Rows(4);
-//     grid.TextMatrix(1, 2, u"Stk");
-//     grid.Row(1);  // LeaveCell on the old cell, then SelChange, EnterCell, RowColChange on the new one
-//     grid.Col(2);  // the same once more: each assignment is a move of its own
-//     grid.ColSel(5);  // SelChange
-//
-// The grid cannot edit: keys move the cursor, a form writes what is typed.
+// A grid of texts with a cursor and a selection, and all that mouse, wheel and keys do to it.
 #pragma once
 
+#include <map>
 #include <vector>
 
 #include "forms/control.h"
@@ -40,6 +30,21 @@ constexpr int RightCenter = 7;
 constexpr int General = 9;
 }  // namespace cell_alignment
 
+/// Which press of a button it is.
+enum class Press { Single, SecondOfDoubleClick };
+
+/// A grid of texts with a cursor and a selection. Rows and columns count from 0; the first FixedRows and
+/// FixedCols of them are headings that do not scroll (0 of either is allowed). Code may put the cursor on any
+/// cell, headings included; a person puts it on the others. The selection is the rectangle between the
+/// cursor (Row, Col) and the opposite corner (RowSel, ColSel):
+///
+///     grid.Rows(4);
+///     grid.TextMatrix(1, 2, u"Stk");
+///     grid.Row(1);  // LeaveCell on the old cell, then SelChange, EnterCell, RowColChange on the new one
+///     grid.Col(2);  // the same once more: each assignment is a move of its own
+///     grid.ColSel(5);  // SelChange
+///
+/// The grid cannot edit: keys move the cursor, a form writes what is typed.
 class FlexGrid : public Control {
  public:
   static constexpr int defaultColWidth = 960;   // twips
@@ -151,9 +156,23 @@ class FlexGrid : public Control {
   /// TopRow or LeftCol have changed, by a person or by code.
   Event<> Scroll{*this, u"Scroll"};
   /// Button (1 left, 2 right, 4 middle) and shift bits. By then the cursor stands where the left button was
-  /// pressed.
+  /// pressed. A double click is two presses, with either button; DblClick follows the second one of the left.
   Event<int, int> MouseDown{*this, u"MouseDown"};
   Event<int, int> MouseUp{*this, u"MouseUp"};
+
+  // ---- for assistive technology
+
+  /// What the grid is called; empty unless set.
+  const String& AccessibleName() const noexcept { return accessibleName_; }
+  void AccessibleName(StringView name) { accessibleName_ = name; }
+  /// The field that the form lays over the cell at the cursor; nullptr for none. It is called by that place.
+  const Control* Editor() const noexcept { return editor_; }
+  void Editor(const Control* field) { editor_ = field; }
+  /// What a picture means; "" unless said.
+  String wordsForPicture(const Picture& picture) const;
+  void wordsForPicture(const Picture& picture, StringView words) { pictureWords_[&picture] = words; }
+  /// Where a cell is: "Chargen-Nr., Zeile 2"; rows below the headings count from 1. Error 381 outside.
+  String wordsForPlace(int row, int col) const;
 
   // ---- for toolkits and automation
 
@@ -164,15 +183,17 @@ class FlexGrid : public Control {
   }
   /// The cell is drawn as selected.
   bool isHighlighted(int row, int col) const noexcept;
-  /// A button goes down, the form having agreed; the pointer moves with the left button down; a button comes
-  /// up. The form raises Click afterwards.
-  void userPressed(GridSpot at, int button, int shift);
+  /// A button goes down, the form having agreed.
+  void userPressed(GridSpot at, int button, int shift, Press press = Press::Single);
+  /// The pointer moves with a button down.
   void userDragged(GridSpot at);
+  /// A button comes up: MouseUp, and Click where a single press of the left button ends inside the grid.
+  /// Nothing when no press of that button was here before.
   void userReleased(GridSpot at, int button, int shift);
-  /// The second press of a double click.
-  void userPressedTwice(GridSpot at);
-  /// A person scrolls.
+  /// A person scrolls: by a bar; by the wheel, in parts of 120 of a notch, positive up and to the left. A
+  /// notch is three rows, three columns.
   void userScrolled(int topRow, int leftCol) { scrollTo(topRow, leftCol); }
+  void userTurnedWheel(int vertical, int horizontal);
   bool ownKey(const KeyStroke& stroke) override;
   using Control::Property;
   /// Also "TextMatrix(1,2)", "ColWidth(1)", "RowHeight(1)", and "CellPicture(2)": the name of the picture in
@@ -218,9 +239,18 @@ class FlexGrid : public Control {
   int topRow_ = 1, leftCol_ = 1;
   int selectionMode_ = Free;
   bool allowBigSelection_ = true;
+  String accessibleName_;
+  const Control* editor_ = nullptr;
+  std::map<const Picture*, String> pictureWords_;
   GridSpot mouse_;
   Drag drag_ = Drag::None;
   bool dragged_ = false;
+  /// Sum of the buttons that were pressed here and are down still.
+  int buttonsDown_ = 0;
+  /// The left button was pressed for the first time, not for the second of a double click.
+  bool clicks_ = false;
+  /// What the wheel has turned beyond whole rows and columns.
+  int turnedRows_ = 0, turnedCols_ = 0;
 };
 
 /// The two kinds of the platform; what the dialogs use of them is the same.

@@ -13,13 +13,18 @@ namespace zqn {
 
 // ---- mouse
 
-void FlexGrid::userPressed(GridSpot at, int button, int shift) {
+void FlexGrid::userPressed(GridSpot at, int button, int shift, Press press) {
+  constexpr int left = 1;
   mouse_ = at;
-  drag_ = Drag::None;
-  dragged_ = false;
-  if (button == 1 && at.row >= 0 && at.col >= 0 && hasFreeCells())
-    selectByMouse(at, (shift & shift::Shift) != 0);
+  buttonsDown_ |= button;
+  if (button == left) {
+    clicks_ = press == Press::Single;
+    drag_ = Drag::None;
+    dragged_ = false;
+    if (at.row >= 0 && at.col >= 0 && hasFreeCells()) selectByMouse(at, (shift & shift::Shift) != 0);
+  }
   if (form().Visible()) MouseDown.raise(button, shift);
+  if (button == left && press == Press::SecondOfDoubleClick && form().Visible()) DblClick.raise();
 }
 
 void FlexGrid::selectByMouse(GridSpot at, bool extend) {
@@ -66,15 +71,34 @@ void FlexGrid::userDragged(GridSpot at) {
 }
 
 void FlexGrid::userReleased(GridSpot at, int button, int shift) {
+  constexpr int left = 1;
+  if ((buttonsDown_ & button) == 0) return;
+  buttonsDown_ &= ~button;
   mouse_ = at;
-  if (button == 1) drag_ = Drag::None;
-  if (button == 1 && std::exchange(dragged_, false)) SelChange.raise();
+  const bool click = button == left && std::exchange(clicks_, false) && at.inside;
+  if (button == left) drag_ = Drag::None;
+  if (button == left && std::exchange(dragged_, false)) SelChange.raise();
   if (form().Visible()) MouseUp.raise(button, shift);
+  if (click) form().mouseReleased(*this);
 }
 
-void FlexGrid::userPressedTwice(GridSpot at) {
-  mouse_ = at;
-  DblClick.raise();
+// ---- wheel
+
+void FlexGrid::userTurnedWheel(int vertical, int horizontal) {
+  constexpr int notch = 120;
+  constexpr int linesPerNotch = 3;
+  // A wheel that turns back begins anew.
+  const auto linesOf = [](int& turned, int by) {
+    if (by == 0) return 0;
+    if ((turned < 0) != (by < 0)) turned = 0;
+    turned += by * linesPerNotch;
+    const int lines = turned / notch;
+    turned %= notch;
+    return lines;
+  };
+  const int rows = linesOf(turnedRows_, vertical);
+  const int cols = linesOf(turnedCols_, horizontal);
+  if (rows != 0 || cols != 0) scrollTo(topRow_ - rows, leftCol_ - cols);
 }
 
 // ---- keys
@@ -144,6 +168,19 @@ bool FlexGrid::ownKey(const KeyStroke& stroke) {
 String FlexGrid::content() const {
   const bool hasCell = row_ < Rows() && col_ < Cols();
   return hasCell ? cell(row_, col_).text : String();
+}
+
+String FlexGrid::wordsForPicture(const Picture& picture) const {
+  const auto found = pictureWords_.find(&picture);
+  return found != pictureWords_.end() ? found->second : String();
+}
+
+String FlexGrid::wordsForPlace(int row, int col) const {
+  const String heading = fixedRows_ > 0 ? cell(0, col).text : String();
+  static_cast<void>(cell(row, col));
+  if (row < fixedRows_) return heading;
+  const String words = u"Zeile " + CStr(std::int32_t{row - fixedRows_ + 1});
+  return heading.empty() ? words : heading + u", " + words;
 }
 
 Variant FlexGrid::indexedProperty(StringView name, StringView indices) const {

@@ -129,15 +129,92 @@ TEST_F(GridMouse, ShowsTheWholeRowThatWasPressed) {
   });
 }
 
-TEST_F(GridMouse, ADoubleClickRaisesDblClickOnTheCellPressed) {
+TEST_F(GridMouse, ADoubleClickIsTwoPressesAndDblClickFollowsTheSecondOfTheLeftButton) {
+  grid.Click = [this] { note("Click"); };
   grid.DblClick = [this] { note("DblClick on " + std::to_string(grid.MouseRow())); };
   open([&] {
     clickCell(2, 2);
-    happened();
-    grid.userPressedTwice({2, 2});
+    EXPECT_EQ(
+        happened(),
+        "LeaveCell:1,1 SelChange:2,2 EnterCell:2,2 RowColChange:2,2 MouseDown1/0 on 2,2 MouseUp1 Click");
+    grid.userPressed({2, 2}, 1, 0, Press::SecondOfDoubleClick);
     grid.userReleased({2, 2}, 1, 0);
-    EXPECT_EQ(happened(), "DblClick on 2 MouseUp1");
+    EXPECT_EQ(happened(), "MouseDown1/0 on 2,2 DblClick on 2 MouseUp1");
+    grid.userPressed({3, 3}, 2, 0, Press::SecondOfDoubleClick);
+    grid.userReleased({3, 3}, 2, 0);
+    EXPECT_EQ(happened(), "MouseDown2/0 on 3,3 MouseUp2");
   });
+}
+
+TEST_F(GridMouse, TheSecondPressOfADoubleClickDragsLikeTheFirst) {
+  open([&] {
+    clickCell(1, 0);
+    grid.userPressed({1, 0}, 1, 0, Press::SecondOfDoubleClick);
+    grid.userDragged({3, 0});
+    grid.userReleased({3, 0}, 1, 0);
+    EXPECT_EQ(selection(), "1,1-3,4");
+    happened();
+  });
+}
+
+TEST_F(GridMouse, AReleaseWithoutAPressIsNone) {
+  grid.Click = [this] { note("Click"); };
+  open([&] {
+    grid.userReleased({2, 2}, 1, 0);
+    EXPECT_EQ(happened(), "");
+    grid.userPressed({2, 2}, 2, 0);
+    grid.userReleased({2, 2}, 1, 0);
+    EXPECT_EQ(happened(), "MouseDown2/0 on 2,2") << "the other button";
+    EXPECT_EQ(grid.MouseRow(), 2);
+    grid.userReleased({2, 2}, 2, 0);
+    EXPECT_EQ(happened(), "MouseUp2");
+  });
+}
+
+TEST_F(GridMouse, AButtonThatComesUpOutsideMakesNoClick) {
+  grid.Click = [this] { note("Click"); };
+  open([&] {
+    grid.userPressed({1, 1}, 1, 0);
+    grid.userReleased(grid.layout().spotAt({-5, 20}), 1, 0);
+    EXPECT_EQ(happened(), "MouseDown1/0 on 1,1 MouseUp1");
+  });
+}
+
+TEST_F(GridMouse, TheWheelScrollsThreeRowsANotchAndItsPartsAddUp) {
+  fill(100);
+  open([&] {
+    grid.userTurnedWheel(-120, 0);
+    EXPECT_EQ(grid.TopRow(), 4);
+    for (int i = 0; i < 3; ++i) grid.userTurnedWheel(-15, 0);
+    EXPECT_EQ(grid.TopRow(), 5);
+    grid.userTurnedWheel(40, 0);
+    EXPECT_EQ(grid.TopRow(), 4) << "what it had turned the other way counts no more";
+    grid.userTurnedWheel(1200, 0);
+    EXPECT_EQ(grid.TopRow(), 1);
+    grid.userTurnedWheel(0, -120);
+    EXPECT_EQ(grid.LeftCol(), 1) << "all columns are in sight";
+    EXPECT_EQ(happened(), "Scroll:4,1 Scroll:5,1 Scroll:4,1 Scroll:1,1");
+  });
+}
+
+TEST_F(GridMouse, DraggedBeyondTheEdgeMeansTheNextRowOutOfSight) {
+  fill(100);
+  grid.TopRow(20);
+  happened();
+  const FlexGridLayout layout = grid.layout();
+  EXPECT_EQ(layout.draggedTo({10, -5}), (GridSpot{19, 0}));
+  EXPECT_EQ(layout.draggedTo({10, 5000}), (GridSpot{30, 0}));
+  EXPECT_EQ(layout.draggedTo({-100, 20}), (GridSpot{20, 0}));
+  EXPECT_FALSE(layout.spotAt({10, -5}).inside);
+}
+
+TEST_F(GridMouse, APlaceIsSaidByItsHeadingAndItsRow) {
+  EXPECT_EQ(grid.wordsForPlace(2, 3), u"0/3, Zeile 2");
+  EXPECT_EQ(grid.wordsForPlace(0, 3), u"0/3");
+  EXPECT_EQ(errorNumberOf([&] { static_cast<void>(grid.wordsForPlace(4, 0)); }),
+            error::InvalidPropertyArrayIndex);
+  grid.FixedRows(0);
+  EXPECT_EQ(grid.wordsForPlace(2, 3), u"Zeile 3");
 }
 
 TEST_F(GridMouse, WithoutHeadingsEveryCellCanBeTaken) {

@@ -109,9 +109,18 @@ std::optional<GridBand> FlexGridLayout::row(int index) const { return find(rows_
 
 std::optional<GridBand> FlexGridLayout::column(int index) const { return find(columns_, index); }
 
-GridSpot FlexGridLayout::spotAt(int x, int y) const {
-  if (x < 0 || y < 0 || x >= clientWidth_ || y >= clientHeight_) return {};
-  return {indexAt(rows_, y), indexAt(columns_, x)};
+GridSpot FlexGridLayout::spotAt(GridPlace place) const {
+  if (place.x < 0 || place.y < 0 || place.x >= clientWidth_ || place.y >= clientHeight_)
+    return {.inside = false};
+  return {indexAt(rows_, place.y), indexAt(columns_, place.x)};
+}
+
+GridSpot FlexGridLayout::draggedTo(GridPlace place) const {
+  GridSpot spot = spotAt({std::clamp(place.x, 0, std::max(0, clientWidth_ - 1)),
+                          std::clamp(place.y, 0, std::max(0, clientHeight_ - 1))});
+  if (place.y < 0) spot.row = std::max(grid_.TopRow() - 1, grid_.FixedRows());
+  if (place.y >= clientHeight_ && spot.row >= 0) spot.row = std::min(spot.row + 1, grid_.Rows() - 1);
+  return spot;
 }
 
 namespace {
@@ -133,6 +142,12 @@ std::optional<int> placeIn(const std::vector<GridBand>& bands, int index, int ed
 std::optional<int> FlexGridLayout::xOf(int col) const { return placeIn(columns_, col, clientWidth_); }
 
 std::optional<int> FlexGridLayout::yOf(int row) const { return placeIn(rows_, row, clientHeight_); }
+
+std::optional<GridPlace> FlexGridLayout::placeOf(GridSpot spot) const {
+  const std::optional<int> x = xOf(spot.col);
+  const std::optional<int> y = yOf(spot.row);
+  return x && y ? std::optional(GridPlace{*x, *y}) : std::nullopt;
+}
 
 int FlexGridLayout::topRowShowing(int row) const {
   const int top = std::min(grid_.TopRow(), lastTopRow_);

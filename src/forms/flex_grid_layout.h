@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the rows and columns of a grid stand on a screen of a given resolution, in whole pixels from the
-// inner side of the grid's frame. The frame is one pixel wide; the last pixel of a cell, to the right and
-// below, is its line. Everything that draws a grid, points at it or lays something over a cell takes the
-// place from here:
-//
-//     const FlexGridLayout layout = grid.layout();
-//     for (const GridBand& row : layout.rows()) ...  // the rows in sight, row.start, row.length
+// Where the rows and columns of a grid stand on a screen of a given resolution.
 #pragma once
 
 #include <optional>
@@ -16,10 +10,19 @@ namespace zqn {
 
 class FlexGrid;
 
-/// A cell by its row and column; -1 for none.
+/// What is under the pointer: a cell by its row and column, -1 for beside the rows, the columns.
 struct GridSpot {
   int row = -1;
   int col = -1;
+  /// In the room for cells; else the pointer has left it with a button down.
+  bool inside = true;
+
+  bool operator==(const GridSpot&) const = default;
+};
+
+/// A place in pixels from the inner side of the grid's frame.
+struct GridPlace {
+  int x = 0, y = 0;
 };
 
 /// A row or column in sight.
@@ -28,6 +31,12 @@ struct GridBand {
   int start, length;  // pixels; the last one may reach beyond the edge
 };
 
+/// Where everything of a grid stands, in whole pixels from the inner side of its frame, as it is scrolled
+/// when this is made. The frame is a pixel wide; the last pixel of a cell, right and below, is its line. What
+/// draws a grid, points at it or lays something over a cell takes the place from here:
+///
+///     const FlexGridLayout layout = grid.layout();
+///     for (const GridBand& row : layout.rows()) ...  // the rows in sight, row.start, row.length
 class FlexGridLayout {
  public:
   static constexpr int frame = 1;        // pixels
@@ -54,13 +63,19 @@ class FlexGridLayout {
   /// No value when it is out of sight or hidden.
   std::optional<GridBand> row(int index) const;
   std::optional<GridBand> column(int index) const;
-  /// What stands at a place; -1 beyond the last row or column, and outside the room for cells.
-  GridSpot spotAt(int x, int y) const;
+  /// What stands at a place.
+  GridSpot spotAt(GridPlace place) const;
+  /// What a drag means there: beyond the edge at the side the nearest column, above and below the next row
+  /// that is out of sight.
+  GridSpot draggedTo(GridPlace place) const;
 
   /// A place to point at: the middle of what can be seen of a column, a row; for -1 beyond the last one. No
   /// value when nothing of it can be seen.
   std::optional<int> xOf(int col) const;
   std::optional<int> yOf(int row) const;
+  std::optional<GridPlace> placeOf(GridSpot spot) const;
+  /// The middle of the room for cells.
+  GridPlace middle() const noexcept { return {clientWidth_ / 2, clientHeight_ / 2}; }
 
   /// The TopRow and LeftCol next to the present ones with which the row, the column is in sight as a whole.
   int topRowShowing(int row) const;

@@ -354,19 +354,19 @@ TEST_F(GridPlaces, ManyColumnsScrollSideways) {
   grid.Col(10);
   EXPECT_EQ(grid.CellLeft(), 960);
   EXPECT_EQ(grid.LeftCol(), 10);
-  EXPECT_EQ(grid.layout().spotAt(70, 20).col, 10);
+  EXPECT_EQ(grid.layout().spotAt({70, 20}).col, 10);
 }
 
 TEST_F(GridPlaces, APlaceBesideTheCellsIsNoCell) {
   const FlexGridLayout layout = grid.layout();
-  EXPECT_EQ(layout.spotAt(0, 0).row, 0);
-  EXPECT_EQ(layout.spotAt(0, 0).col, 0);
-  EXPECT_EQ(layout.spotAt(64, 16).row, 1);
-  EXPECT_EQ(layout.spotAt(63, 16).col, 0);
-  EXPECT_EQ(layout.spotAt(10, 4 * 16).row, -1);
-  EXPECT_EQ(layout.spotAt(5 * 64, 20).col, -1);
-  EXPECT_EQ(layout.spotAt(-1, 20).row, -1);
-  EXPECT_EQ(layout.spotAt(10, 10'000).col, -1);
+  EXPECT_EQ(layout.spotAt({0, 0}).row, 0);
+  EXPECT_EQ(layout.spotAt({0, 0}).col, 0);
+  EXPECT_EQ(layout.spotAt({64, 16}).row, 1);
+  EXPECT_EQ(layout.spotAt({63, 16}).col, 0);
+  EXPECT_EQ(layout.spotAt({10, 4 * 16}).row, -1);
+  EXPECT_EQ(layout.spotAt({5 * 64, 20}).col, -1);
+  EXPECT_EQ(layout.spotAt({-1, 20}).row, -1);
+  EXPECT_EQ(layout.spotAt({10, 10'000}).col, -1);
 }
 
 // ---- automation

@@ -6,6 +6,7 @@
 
 #include "desktop/qt/text.h"
 #include "forms/day_entry.h"
+#include "forms/flex_grid.h"
 #include "forms/form.h"
 
 namespace zqn::qt {
@@ -122,6 +123,16 @@ QString nameByWords(const Control& control) {
   }
 }
 
+/// What a grid is called, and where the field stands that a form lays over its cells.
+String nameByGrid(const Control& control) {
+  if (const auto* grid = dynamic_cast<const zqn::FlexGrid*>(&control)) return grid->AccessibleName();
+  for (const auto& each : control.form().controls()) {
+    const auto* grid = dynamic_cast<const zqn::FlexGrid*>(each.get());
+    if (grid != nullptr && grid->Editor() == &control) return grid->wordsForPlace(grid->Row(), grid->Col());
+  }
+  return {};
+}
+
 bool saysWhatItIs(ControlKind kind) {
   using enum ControlKind;
   return kind == Label || kind == CommandButton || kind == CheckBox || kind == ToggleButton ||
@@ -131,6 +142,7 @@ bool saysWhatItIs(ControlKind kind) {
 }  // namespace
 
 QString accessibleNameOf(const Control& control) {
+  if (const String name = nameByGrid(control); !name.empty()) return toQt(name);
   const bool saysItself = saysWhatItIs(control.kind()) && !control.content().empty();
   const QString words = saysItself ? toQt(control.content()) : nameByWords(control);
   QString name = withoutAccessKey(words).simplified();

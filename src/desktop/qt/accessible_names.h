@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // What a screen reader says when it comes to a control: its own caption; for a field or a list the label that
-// stands to its left or above it; else the control's name.
+// stands to its left or above it; for a grid and the field over its cells what the grid says; else the
+// control's name.
 #pragma once
 
 #include <QString>

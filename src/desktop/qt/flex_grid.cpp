@@ -2,16 +2,21 @@
 #include "desktop/qt/flex_grid.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
+#include "desktop/qt/accessible_names.h"
 #include "desktop/qt/flex_grid_painter.h"
 #include "desktop/qt/key_events.h"
 #include "desktop/qt/shield.h"
 #include "desktop/qt/text.h"
+#include "forms/form.h"
 
 namespace zqn::qt {
 
@@ -34,6 +39,11 @@ class GridScrollBar : public QScrollBar {
 
 int buttonOf(const QMouseEvent& event) {
   return event.button() == Qt::LeftButton ? 1 : event.button() == Qt::RightButton ? 2 : 4;
+}
+
+GridPlace pointerOf(const QMouseEvent& event) {
+  const QPoint place = event.position().toPoint();
+  return {place.x(), place.y()};
 }
 
 /// Draws anew only what differs: a bar tells of each change.
@@ -76,10 +86,16 @@ FlexGridLayout FlexGrid::layout() const {
 // ---- drawing
 
 void FlexGrid::draw() {
-  cells_.follow();
   drawBars();
-  drawSelection();
   viewport()->update();
+  if (std::exchange(settling_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        const Drawing drawing(*this);
+        settle();
+      },
+      Qt::QueuedConnection);
 }
 
 void FlexGrid::drawBars() {
@@ -97,17 +113,57 @@ void FlexGrid::drawBars() {
          std::max(1, columnsInSight));
 }
 
-void FlexGrid::drawSelection() {
+void FlexGrid::settle() {
+  settling_ = false;
+  cells_.follow();
   const QModelIndex cursor = cells_.index(model_.Row(), model_.Col());
   const QModelIndex corner = cells_.index(model_.RowSel(), model_.ColSel());
   const QItemSelection wanted(
       cells_.index(std::min(cursor.row(), corner.row()), std::min(cursor.column(), corner.column())),
       cells_.index(std::max(cursor.row(), corner.row()), std::max(cursor.column(), corner.column())));
-  if (wanted != drawnSelection_) {
-    drawnSelection_ = wanted;
+  if (wanted != selectionModel()->selection())
     selectionModel()->select(wanted, QItemSelectionModel::ClearAndSelect);
-  }
   if (currentIndex() != cursor) selectionModel()->setCurrentIndex(cursor, QItemSelectionModel::NoUpdate);
+  nameEditor();
+}
+
+void FlexGrid::nameEditor() {
+  if (model_.Editor() == nullptr) return;
+  const QString editor = toQt(model_.Editor()->fullName());
+  auto* const field = parentWidget()->findChild<QWidget*>(editor, Qt::FindDirectChildrenOnly);
+  const QString name = accessibleNameOf(*model_.Editor());
+  if (field != nullptr && field->accessibleName() != name) field->setAccessibleName(name);
+}
+
+void FlexGrid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  // What is told of cells that nobody is at would drown what is told of the field that has the focus.
+  if (hasFocus()) {
+    QTableView::selectionChanged(selected, deselected);
+  } else {
+    QAbstractItemView::selectionChanged(selected, deselected);
+  }
+  if (!isDrawing()) selectedByAssistance(selected);
+}
+
+void FlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  if (hasFocus()) {
+    QTableView::currentChanged(current, previous);
+  } else {
+    QAbstractItemView::currentChanged(current, previous);
+  }
+}
+
+void FlexGrid::selectedByAssistance(const QItemSelection& selected) {
+  const QModelIndex cell = selected.indexes().value(0);
+  if (cell.isValid()) {
+    shielded(model_, u"MouseDown", [&] {
+      if (!model_.form().mousePressed(model_)) return;
+      model_.userPressed({cell.row(), cell.column()}, 1, shift::None);
+      model_.userReleased({cell.row(), cell.column()}, 1, shift::None);
+    });
+  }
+  // Whatever came of it, the view shows what the model says.
+  sync();
 }
 
 void FlexGrid::updateGeometries() {
@@ -117,22 +173,19 @@ void FlexGrid::updateGeometries() {
 
 void FlexGrid::compare(Differences& found) const {
   const FlexGridLayout place = layout();
-  found.expect("Rows", cells_.rowCount(), model_.Rows());
-  found.expect("Cols", cells_.columnCount(), model_.Cols());
-  if (model_.Rows() > 0 && model_.Cols() > 0) {
-    found.expect("Row", currentIndex().row(), model_.Row());
-    found.expect("Col", currentIndex().column(), model_.Col());
-  }
   found.expect("TopRow", verticalScrollBar()->value(), model_.TopRow());
   found.expect("LeftCol", horizontalScrollBar()->value(), model_.LeftCol());
   if (!isVisible()) return;
   found.expect("width for cells", viewport()->width(), place.clientWidth());
   found.expect("height for cells", viewport()->height(), place.clientHeight());
+  // Only what is on the screen counts: what waits to be painted is painted, and nothing else.
+  QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest);
+  if (painted_) found.expect("the picture", painted_->differenceFrom({model_, place}), QString());
 }
 
 void FlexGrid::paintEvent(QPaintEvent*) {
-  const FlexGridLayout place = layout();
-  FlexGridPainter(model_, place, *this, *viewport()).paint(hasFocus());
+  painted_.emplace(model_, layout());
+  FlexGridPainter(*this, *viewport()).paint(*painted_, hasFocus());
 }
 
 void FlexGrid::focusInEvent(QFocusEvent* event) {
@@ -157,25 +210,11 @@ QRect FlexGrid::visualRect(const QModelIndex& index) const {
 }
 
 QModelIndex FlexGrid::indexAt(const QPoint& place) const {
-  const GridSpot spot = layout().spotAt(place.x(), place.y());
+  const GridSpot spot = layout().spotAt({place.x(), place.y()});
   return cells_.index(spot.row, spot.col);
 }
 
-GridSpot FlexGrid::spotAt(const QMouseEvent& event) const {
-  const QPoint place = event.position().toPoint();
-  return layout().spotAt(place.x(), place.y());
-}
-
-GridSpot FlexGrid::spotNear(const QMouseEvent& event) const {
-  const FlexGridLayout place = layout();
-  const QPoint at = event.position().toPoint();
-  GridSpot spot = place.spotAt(std::clamp(at.x(), 0, std::max(0, place.clientWidth() - 1)),
-                               std::clamp(at.y(), 0, std::max(0, place.clientHeight() - 1)));
-  // Above and below the edge is the next row that is out of sight.
-  if (at.y() < 0) spot.row = std::max(model_.TopRow() - 1, model_.FixedRows());
-  if (at.y() >= place.clientHeight() && spot.row >= 0) spot.row = std::min(spot.row + 1, model_.Rows() - 1);
-  return spot;
-}
+GridSpot FlexGrid::spotAt(const QMouseEvent& event) const { return layout().spotAt(pointerOf(event)); }
 
 void FlexGrid::scrollToCell(GridSpot cell) {
   if (cell.row >= 0) verticalScrollBar()->setValue(layout().topRowShowing(cell.row));
@@ -183,10 +222,13 @@ void FlexGrid::scrollToCell(GridSpot cell) {
 }
 
 std::optional<QPoint> FlexGrid::placeOf(GridSpot cell) const {
-  const FlexGridLayout place = layout();
-  const auto x = place.xOf(cell.col);
-  const auto y = place.yOf(cell.row);
-  return x && y ? std::optional(QPoint(*x, *y)) : std::nullopt;
+  const std::optional<GridPlace> place = layout().placeOf(cell);
+  return place ? std::optional(QPoint(place->x, place->y)) : std::nullopt;
+}
+
+QPoint FlexGrid::middle() const {
+  const GridPlace place = layout().middle();
+  return {place.x, place.y};
 }
 
 // ---- input
@@ -198,36 +240,37 @@ void FlexGrid::scrolled() {
 }
 
 bool FlexGrid::pressed(const QMouseEvent& event, bool) {
-  twice_ = false;
-  model_.userPressed(spotAt(event), 1, shiftOf(event.modifiers()));
+  model_.userPressed(spotAt(event), buttonOf(event), shiftOf(event.modifiers()));
   return false;
 }
 
 bool FlexGrid::pressedTwice(const QMouseEvent& event) {
-  twice_ = true;
-  model_.userPressedTwice(spotAt(event));
+  model_.userPressed(spotAt(event), buttonOf(event), shiftOf(event.modifiers()), Press::SecondOfDoubleClick);
   return false;
 }
 
 void FlexGrid::mousePressEvent(QMouseEvent* event) {
   // The left button has come by pressed().
-  if (event->button() == Qt::LeftButton) return;
-  shielded(model_, u"MouseDown",
-           [&] { model_.userPressed(spotAt(*event), buttonOf(*event), shiftOf(event->modifiers())); });
+  if (event->button() != Qt::LeftButton) shielded(model_, u"MouseDown", [&] { pressed(*event, false); });
 }
 
-void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) shielded(model_, u"MouseDown", [&] { pressedTwice(*event); });
+}
 
 void FlexGrid::mouseMoveEvent(QMouseEvent* event) {
-  if (!(event->buttons() & Qt::LeftButton)) return;
-  shielded(model_, u"Scroll", [&] { model_.userDragged(spotNear(*event)); });
+  shielded(model_, u"Scroll", [&] { model_.userDragged(layout().draggedTo(pointerOf(*event))); });
 }
 
 void FlexGrid::mouseReleaseEvent(QMouseEvent* event) {
   shielded(model_, u"MouseUp",
            [&] { model_.userReleased(spotAt(*event), buttonOf(*event), shiftOf(event->modifiers())); });
-  const bool inside = viewport()->rect().contains(event->position().toPoint());
-  if (event->button() == Qt::LeftButton && inside && !twice_) userClicked();
+}
+
+void FlexGrid::wheelEvent(QWheelEvent* event) {
+  const QPoint turned = event->angleDelta();
+  shielded(model_, u"Scroll", [&] { model_.userTurnedWheel(turned.y(), turned.x()); });
+  event->accept();
 }
 
 bool FlexGrid::viewportEvent(QEvent* event) {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Draws a FlexGrid of either kind. Every place comes from the layout of the model, so that what a form lays
-// over a cell meets it to the pixel; the table view below is there for assistive technology and the scroll
-// bars.
+// Draws a FlexGrid of either kind.
 #pragma once
 
 #include <QTableView>
@@ -10,10 +8,15 @@
 
 #include "desktop/qt/control_widget.h"
 #include "desktop/qt/flex_grid_cells.h"
+#include "desktop/qt/flex_grid_drawing.h"
 #include "forms/flex_grid.h"
 
 namespace zqn::qt {
 
+/// Every place comes from the layout of the model, so that what a form lays over a cell meets it to the
+/// pixel; the table view below is there for assistive technology and the scroll bars. That hears of the cursor
+/// once, when all moves of a key are over: by the grid while it has the focus, else by the name of the field
+/// over the cell.
 class FlexGrid : public QTableView, public ControlWidget {
  public:
   FlexGrid(zqn::FlexGrid& model, QWidget* parent);
@@ -27,6 +30,8 @@ class FlexGrid : public QTableView, public ControlWidget {
   void scrollToCell(GridSpot cell);
   /// A place in the mouse area on a cell that is in sight; -1 for beside all rows, all columns.
   std::optional<QPoint> placeOf(GridSpot cell) const;
+  /// The middle of the room for cells.
+  QPoint middle() const;
 
   QRect visualRect(const QModelIndex& index) const override;
   QModelIndex indexAt(const QPoint& place) const override;
@@ -47,23 +52,28 @@ class FlexGrid : public QTableView, public ControlWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
   FlexGridLayout layout() const;
   GridSpot spotAt(const QMouseEvent& event) const;
-  /// The same while a button is held, also beyond the edge.
-  GridSpot spotNear(const QMouseEvent& event) const;
   void drawBars();
-  void drawSelection();
+  /// The view below follows: how many cells there are, which are selected, which is the current one.
+  void settle();
+  void nameEditor();
   void scrolled();
+  void selectedByAssistance(const QItemSelection& selected);
 
   zqn::FlexGrid& model_;
   FlexGridCells cells_;
-  QItemSelection drawnSelection_;
-  /// The press that is held was the second one of a double click: no Click follows.
-  bool twice_ = false;
+  /// What is on the screen; nothing before the first time.
+  std::optional<FlexGridDrawing> painted_;
+  /// settle() is to come.
+  bool settling_ = false;
 };
 
 }  // namespace zqn::qt

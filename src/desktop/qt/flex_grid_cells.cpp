@@ -6,11 +6,13 @@
 namespace zqn::qt {
 
 QVariant FlexGridCells::data(const QModelIndex& index, int role) const {
-  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole && role != Qt::AccessibleDescriptionRole)
+    return {};
   if (!index.isValid() || index.row() >= grid_.Rows() || index.column() >= grid_.Cols()) return {};
+  if (role == Qt::AccessibleDescriptionRole) return toQt(grid_.wordsForPlace(index.row(), index.column()));
   const zqn::FlexGrid::Cell& cell = grid_.cell(index.row(), index.column());
   if (role == Qt::AccessibleTextRole && cell.text.empty() && cell.picture != nullptr)
-    return toQt(StringView(cell.picture->name));
+    return toQt(grid_.wordsForPicture(*cell.picture));
   return toQt(cell.text);
 }
 

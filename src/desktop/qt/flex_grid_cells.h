@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The cells of a grid for a table view, headings included, so that assistive technology reads them. Nothing
-// is copied; follow() tells the view how many rows and columns there are by now.
+// The cells of a grid for assistive technology.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -10,6 +9,8 @@
 
 namespace zqn::qt {
 
+/// The cells of a grid for a table view, headings included. Nothing is copied; follow() tells the view how
+/// many rows and columns there are by now.
 class FlexGridCells : public QAbstractTableModel {
  public:
   explicit FlexGridCells(const zqn::FlexGrid& grid)
@@ -17,7 +18,8 @@ class FlexGridCells : public QAbstractTableModel {
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
   int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : columns_; }
-  /// The text; for a cell with a picture alone, the name of the picture.
+  /// The text; for a cell with a picture alone, what the picture means. Its description is the cell's place
+  /// in words.
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 

@@ -8,8 +8,11 @@
 
 #include <QAccessible>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
+#include <optional>
 
 #include "desktop/qt/text.h"
 #include "forms/picture_box.h"
@@ -185,7 +188,8 @@ TEST_F(Grids, TheMouseMovesTheCursorAndExtendsTheSelection) {
                      QTest::mouseDClick(&window(), Qt::LeftButton, {}, inWindow(placeOf(3, 2)));
                    },
                    [&] {
-                     EXPECT_THAT(events, ElementsAre("down1/0", "up1", "click", "double 3", "up1"));
+                     EXPECT_THAT(events,
+                                 ElementsAre("down1/0", "up1", "click", "down1/0", "double 3", "up1"));
                      events.clear();
                      click(-1, 2);
                    },
@@ -294,6 +298,7 @@ TEST_F(Grids, AreReadOutCellByCell) {
   form.Grid.Row(3);
   form.Grid.Col(0);
   form.Grid.CellPicture(&mark);
+  form.Grid.wordsForPicture(mark, u"neue Zeile");
   form.Grid.Col(2);
   person.at(form, {[&] {
               QAccessibleInterface* grid = QAccessible::queryAccessibleInterface(&widget());
@@ -302,9 +307,116 @@ TEST_F(Grids, AreReadOutCellByCell) {
               ASSERT_NE(table, nullptr);
               EXPECT_EQ(table->rowCount(), 5);
               EXPECT_EQ(table->cellAt(3, 2)->text(QAccessible::Name), QStringLiteral("Zelle 32"));
-              EXPECT_EQ(table->cellAt(3, 0)->text(QAccessible::Name), QStringLiteral("mark"));
+              EXPECT_EQ(table->cellAt(3, 0)->text(QAccessible::Name), QStringLiteral("neue Zeile"));
+              EXPECT_EQ(table->cellAt(3, 2)->text(QAccessible::Description), QStringLiteral("Zeile 3"));
               EXPECT_TRUE(table->cellAt(3, 2)->state().selected);
             }});
+}
+
+// ---- what assistive technology hears and does
+
+TEST_F(Grids, MoveTheirCurrentCellOnceAKey) {
+  form.Grid.RowColChange = [&] {
+    if (form.Grid.Row() == 3) form.Grid.Col(3);  // a form moves it further
+  };
+  std::optional<QSignalSpy> moves;
+  person.at(form, {[&] {
+                     form.Grid.SetFocus();
+                     form.Grid.Row(2);
+                   },
+                   [&] {
+                     moves.emplace(widget().selectionModel(), &QItemSelectionModel::currentChanged);
+                     person.key(Qt::Key_Down);
+                   },
+                   [&] {
+                     EXPECT_EQ(moves->size(), 1);
+                     EXPECT_EQ(widget().currentIndex().row(), 3);
+                     EXPECT_EQ(widget().currentIndex().column(), 3);
+                   }});
+}
+
+TEST_F(Grids, ACellThatAssistiveTechnologySelectsIsClickedOn) {
+  form.Grid.Click = [&] { form.Grid.TextMatrix(0, 0, u"geklickt"); };
+  person.at(form, {[&] {
+                     form.Other.SetFocus();
+                     auto* table = QAccessible::queryAccessibleInterface(&widget())->tableInterface();
+                     auto* cell = table->cellAt(4, 2);
+                     cell->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+                   },
+                   [&] {
+                     EXPECT_EQ(selection(), "4,2-4,2");
+                     EXPECT_EQ(form.Grid.TextMatrix(0, 0), u"geklickt");
+                     EXPECT_EQ(form.ActiveControl(), &form.Grid);
+                     EXPECT_EQ(widget().selectionModel()->selectedIndexes().size(), 1);
+                     form.Grid.Enabled(false);
+                     form.Other.SetFocus();
+                     widget().selectionModel()->select(widget().model()->index(1, 1),
+                                                       QItemSelectionModel::ClearAndSelect);
+                   },
+                   [&] {
+                     EXPECT_EQ(selection(), "4,2-4,2") << "refused";
+                     ASSERT_EQ(widget().selectionModel()->selectedIndexes().size(), 1);
+                     EXPECT_EQ(widget().selectionModel()->selectedIndexes().at(0).row(), 4);
+                   }});
+}
+
+// ---- the check of window against form
+
+TEST_F(Grids, ThatPaintSomethingElseThanTheFormSaysAreFoundOut) {
+  const auto differences = [&] { return person.desktop.differences(form).toStdString(); };
+  person.at(form, {[&] { EXPECT_EQ(differences(), ""); },
+                   [&] {
+                     form.Grid.TextMatrix(2, 2, u"neu");
+                     EXPECT_EQ(differences(), "") << "what waits to be painted is painted first";
+                     // The window does not hear of what follows.
+                     FormView* const view = form.view();
+                     form.attach(nullptr);
+                     form.Grid.TextMatrix(2, 3, u"still");
+                     EXPECT_THAT(differences(),
+                                 ::testing::HasSubstr("Grid: the picture is \"shows cell 2,3"));
+                     form.Grid.TextMatrix(2, 3, u"Zelle 23");
+                     EXPECT_EQ(differences(), "");
+                     form.Grid.setPicture(1, 0, &mark);
+                     EXPECT_THAT(differences(), ::testing::HasSubstr("mark"));
+                     form.Grid.setPicture(1, 0, nullptr);
+                     form.Grid.ColSel(2);
+                     EXPECT_THAT(differences(), ::testing::HasSubstr("selected"));
+                     form.Grid.Col(form.Grid.Col());
+                     form.attach(view);
+                     EXPECT_EQ(differences(), "");
+                   }});
+}
+
+TEST_F(Grids, AnEntryFieldThatIsCoveredIsFoundOut) {
+  person.at(form, {[&] {
+                     form.Other.SetFocus();
+                     form.placeEditor(person.desktop);
+                   },
+                   [&] {
+                     EXPECT_EQ(person.desktop.differences(form), QString());
+                     widget().raise();
+                     EXPECT_EQ(person.desktop.differences(form), QStringLiteral("Editor is covered"));
+                     person.desktop.widgetOf(form.Editor)->raise();
+                   }});
+}
+
+TEST(LongGrids, ScrollThreeRowsANotchOfTheWheel) {
+  Person person;
+  GridForm form(200);
+  const auto turn = [&](int angle) {
+    QWidget& area = *person.desktop.mouseAreaOf(form.Grid);
+    const QPoint place = area.rect().center();
+    QWheelEvent event(place, area.mapToGlobal(place), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&area, &event);
+  };
+  person.at(form, {[&] { turn(-120); },
+                   [&] {
+                     EXPECT_EQ(form.Grid.TopRow(), 4);
+                     turn(-60);
+                     turn(-60);
+                   },
+                   [&] { EXPECT_EQ(form.Grid.TopRow(), 7); }});
 }
 
 }  // namespace

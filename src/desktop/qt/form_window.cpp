@@ -94,6 +94,12 @@ QString FormWindow::differences() const {
   for (const ControlWidget* each : widgets_) {
     const QString difference = each->shows();
     if (!difference.isEmpty()) lines += difference;
+    const QWidget& widget = each->widget();
+    // A field over the cells of a grid is of use only on top of them.
+    const bool hasToBeOnTop =
+        each->control().design().other.Flat && widget.isVisible() && !widget.size().isEmpty();
+    if (hasToBeOnTop && childAt(widget.geometry().center()) != &widget)
+      lines += QStringLiteral("%1 is covered").arg(widget.objectName());
   }
   const Control* const active = form_.ActiveControl();
   const QWidget* const wanted = active != nullptr ? &widgetOf(*active)->widget() : nullptr;

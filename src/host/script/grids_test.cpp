@@ -92,8 +92,47 @@ TEST_F(GridScript, MousePressesAndReleasesApart) {
   on(R"({"mouse":"MSHFlexGrid1","row":1,"col":1,"event":"down"}
         {"mouse":"MSHFlexGrid1","row":1,"col":2,"event":"up"}
         {"mouse":"MSHFlexGrid1","row":2,"col":1,"event":"dblclick"})");
-  EXPECT_THAT(events, ElementsAre("down1 1,1", "up1 1,2", "click", "down1 2,1", "up1 2,1", "click", "double",
-                                  "up1 2,1"));
+  EXPECT_THAT(events, ElementsAre("down1 1,1", "up1 1,2", "click", "down1 2,1", "up1 2,1", "click",
+                                  "down1 2,1", "double", "up1 2,1"));
+}
+
+TEST_F(GridScript, ADoubleClickIsTwoPressesWithEitherButton) {
+  watch();
+  on(R"({"mouse":"MSHFlexGrid1","row":2,"col":1,"button":2,"event":"dblclick"})");
+  EXPECT_THAT(events, ElementsAre("down2 2,1", "up2 2,1", "down2 2,1", "up2 2,1"));
+}
+
+TEST_F(GridScript, AReleaseWithoutAPressIsNone) {
+  watch();
+  EXPECT_THAT(
+      on(R"({"mouse":"MSHFlexGrid1","row":2,"col":1,"event":"up"}
+                    {"mouse":"MSHFlexGrid1","row":2,"col":1,"button":2,"event":"up"}
+                    {"mouse":"MSHFlexGrid1","row":2,"col":1,"button":2,"event":"down"}
+                    {"mouse":"MSHFlexGrid1","row":2,"col":1,"button":1,"event":"up"}
+                    {"get":["Form.ActiveControl","MSHFlexGrid1.Row","MSHFlexGrid1.MouseRow"]})"),
+      ElementsAre(
+          R"({"values":{"Form.ActiveControl":"MSHFlexGrid1","MSHFlexGrid1.Row":1,"MSHFlexGrid1.MouseRow":2}})"));
+  EXPECT_THAT(events, ElementsAre("down2 2,1"));
+}
+
+TEST_F(GridScript, ShiftExtendsTheSelectionAndIsTold) {
+  int held = 0;
+  grid.Grid.MouseUp = [&](int, int shift) { held += shift; };
+  EXPECT_THAT(
+      on(R"({"mouse":"MSHFlexGrid1","row":1,"col":1}
+            {"mouse":"MSHFlexGrid1","row":3,"col":2,"shift":1}
+            {"get":["MSHFlexGrid1.Row","MSHFlexGrid1.RowSel","MSHFlexGrid1.ColSel"]})"),
+      ElementsAre(R"({"values":{"MSHFlexGrid1.Row":1,"MSHFlexGrid1.RowSel":3,"MSHFlexGrid1.ColSel":2}})"));
+  EXPECT_EQ(held, 1);
+}
+
+TEST_F(GridScript, APressOnARowThatTheEdgeCutsMeansThatRowThroughout) {
+  grid.fill(100);
+  grid.Grid.Height(11 * 240 + 30 + 120);
+  watch();
+  on(R"({"mouse":"MSHFlexGrid1","row":11,"col":1,"event":"dblclick"})");
+  EXPECT_THAT(events,
+              ElementsAre("scroll 2", "down1 11,1", "up1 11,1", "click", "down1 11,1", "double", "up1 11,1"));
 }
 
 TEST_F(GridScript, DragExtendsTheSelection) {
@@ -147,6 +186,14 @@ TEST_F(GridScript, UnknownEventsAndCellsEndTheScript) {
               HasSubstr(R"(unknown event \"kick\"; there is down, up, click, dblclick)"));
   EXPECT_THAT(errorOf(R"({"mouse":"MSHFlexGrid1","row":1,"col":1,"button":3})"),
               HasSubstr(R"(\"button\" must be a whole number from 1 to 2)"));
+  EXPECT_THAT(errorOf(R"({"mouse":"MSHFlexGrid1","row":1,"col":1,"shift":8})"),
+              HasSubstr(R"(\"shift\" must be a whole number from 0 to 7)"));
+  for (const char* property : {"TextMatrix(4,1)", "TextMatrix(1,-1)", "TextMatrix(1,99999999999)",
+                               "CellPicture(4)", "ColWidth(4)", "RowHeight(-1)", "TextMatrix(1,x)"}) {
+    EXPECT_THAT(errorOf(R"({"get":["MSHFlexGrid1.)" + std::string(property) + "\"]}"),
+                HasSubstr("MSHFlexGrid1." + std::string(property) + " cannot be read"))
+        << property;
+  }
   for (const char* cell : {"7", "[1]", "[1,0,0]", "[1,0.5]", R"(["1",0])", "[4294967297,0]"}) {
     EXPECT_THAT(errorOf(R"({"drag":"MSHFlexGrid1","from":)" + std::string(cell) + R"(,"to":[3,0]})"),
                 HasSubstr(R"(\"from\" must be [row, column])"))
@@ -159,8 +206,8 @@ TEST_F(GridScript, RowsAreClickedAsThoseOfAList) {
   on(R"({"select":"MSHFlexGrid1","row":3}
         {"dblclick":"MSHFlexGrid1","row":2}
         {"click":"MSHFlexGrid1"})");
-  EXPECT_THAT(events, ElementsAre("down1 3,1", "up1 3,1", "click", "down1 2,1", "up1 2,1", "click", "double",
-                                  "up1 2,1", "down1 2,1", "up1 2,1", "click"));
+  EXPECT_THAT(events, ElementsAre("down1 3,1", "up1 3,1", "click", "down1 2,1", "up1 2,1", "click",
+                                  "down1 2,1", "double", "up1 2,1", "down1 2,1", "up1 2,1", "click"));
 }
 
 }  // namespace

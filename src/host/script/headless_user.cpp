@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/script/headless_user.h"
 
-#include "desktop/headless/grid_mouse.h"
+#include <utility>
+
 #include "forms/drop_down.h"
 #include "forms/list_box.h"
 #include "forms/tdb_list.h"
@@ -26,7 +27,7 @@ void HeadlessUser::mouseDown(const MouseTarget& target) {
   auto* grid = dynamic_cast<FlexGrid*>(&target.control);
   guarded(target.control, u"MouseDown", [&] {
     if (grid != nullptr) {
-      pressed_ = headless::pressOn(*grid, {target.row, target.col}, target.button);
+      pressed_ = gridMouse_.press(*grid, {target.row, target.col}, target.button, target.shift);
       return;
     }
     if (auto* list = dynamic_cast<TDBList*>(&target.control)) {
@@ -37,41 +38,37 @@ void HeadlessUser::mouseDown(const MouseTarget& target) {
       pressed_ = desktop_.mouseDown(target.control);
     }
   });
-  twice_ = false;
 }
 
 void HeadlessUser::mouseMove(const MouseTarget& target) {
   auto* grid = dynamic_cast<FlexGrid*>(&target.control);
   if (!pressed_ || grid == nullptr) return;
-  guarded(target.control, u"Scroll", [&] { headless::dragTo(*grid, {target.row, target.col}); });
+  guarded(target.control, u"Scroll", [&] { gridMouse_.drag(*grid, {target.row, target.col}); });
 }
 
 void HeadlessUser::mouseUp(const MouseTarget& target) {
-  if (!pressed_) return;
-  pressed_ = false;
-  auto* grid = dynamic_cast<FlexGrid*>(&target.control);
-  if (grid != nullptr)
+  if (auto* grid = dynamic_cast<FlexGrid*>(&target.control)) {
+    // The grid itself knows which buttons are down on it.
     guarded(target.control, u"MouseUp", [&] {
-      grid->userReleased({target.row, target.col}, target.button, 0);
+      gridMouse_.release(*grid, {target.row, target.col}, target.button, target.shift);
     });
-  if (target.button != 1 || twice_) return;
+    return;
+  }
+  if (!std::exchange(pressed_, false) || target.button != 1) return;
   guarded(target.control, u"Click", [&] { target.control.form().mouseReleased(target.control); });
 }
 
 void HeadlessUser::mouseDownAgain(const MouseTarget& target) {
   guarded(target.control, u"MouseDown", [&] {
-    if (auto* list = dynamic_cast<TDBList*>(&target.control)) {
+    if (auto* grid = dynamic_cast<FlexGrid*>(&target.control)) {
+      gridMouse_.pressAgain(*grid, target.button, target.shift);
+    } else if (auto* list = dynamic_cast<TDBList*>(&target.control)) {
       list->userPressedAgain(target.row);
-      return;
-    }
-    if (auto* rows = dynamic_cast<ListBox*>(&target.control)) {
+    } else if (auto* rows = dynamic_cast<ListBox*>(&target.control)) {
       rows->userPressedAgain(target.shift);
-      return;
+    } else {
+      target.control.form().mousePressed(target.control);
     }
-    auto* grid = dynamic_cast<FlexGrid*>(&target.control);
-    if (!target.control.form().mousePressed(target.control) || grid == nullptr) return;
-    pressed_ = twice_ = true;
-    grid->userPressedTwice({target.row, target.col});
   });
 }
 

@@ -4,6 +4,7 @@
 // that a window would make.
 #pragma once
 
+#include "desktop/headless/grid_mouse.h"
 #include "desktop/headless/headless_desktop.h"
 #include "host/script/user_input.h"
 
@@ -27,10 +28,9 @@ class HeadlessUser : public UserInput {
 
  private:
   headless::HeadlessDesktop& desktop_;
+  headless::GridMouse gridMouse_;
   /// The form let the press pass, so a release belongs to the control.
   bool pressed_ = false;
-  /// It was the second press of a double click, which makes no further Click.
-  bool twice_ = false;
 };
 
 }  // namespace zqn::script

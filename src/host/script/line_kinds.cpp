@@ -14,7 +14,7 @@ namespace {
 constexpr const char* keyMembers[] = {"shift"};
 constexpr const char* selectMembers[] = {"row", "rows", "index", "text"};
 constexpr const char* rowMember[] = {"row"};
-constexpr const char* mouseMembers[] = {"row", "col", "button", "event"};
+constexpr const char* mouseMembers[] = {"row", "col", "button", "event", "shift"};
 constexpr const char* dragMembers[] = {"from", "to"};
 
 constexpr LineKind kinds[] = {

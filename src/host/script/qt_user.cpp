@@ -104,7 +104,7 @@ void QtUser::point(const MouseTarget& target) {
   QWidget* const widget = desktop_.widgetOf(target.control);
   if (auto* grid = dynamic_cast<qt::FlexGrid*>(widget)) {
     grid->scrollToCell({target.row, target.col});
-    pointer_ = grid->placeOf({target.row, target.col}).value_or(grid->viewport()->rect().center());
+    pointer_ = grid->placeOf({target.row, target.col}).value_or(grid->middle());
     return;
   }
   auto* const table = qobject_cast<QTableView*>(widget);

@@ -60,7 +60,7 @@ MouseTarget targetOf(Control& control) {
 }
 
 /// A cell of a grid, or a place beside its cells, that a person can point at.
-MouseTarget cellTarget(FlexGrid& grid, int row, int col, int button) {
+MouseTarget cellTarget(FlexGrid& grid, int row, int col) {
   if (row < -1 || row >= grid.Rows()) throw Refusal(nameOf(grid) + " has no row " + std::to_string(row));
   if (col < -1 || col >= grid.Cols()) throw Refusal(nameOf(grid) + " has no column " + std::to_string(col));
   if (col >= 0 && grid.ColWidth(col) <= 0)
@@ -70,7 +70,7 @@ MouseTarget cellTarget(FlexGrid& grid, int row, int col, int button) {
   const FlexGridLayout place = grid.layout();
   if ((row < 0 && !place.yOf(row)) || (col < 0 && !place.xOf(col)))
     throw Refusal(nameOf(grid) + " shows no place beside its cells");
-  return {grid, row, col, button};
+  return {grid, row, col};
 }
 
 FlexGrid& usableGrid(const LineContext& context, const std::string& name) {
@@ -177,11 +177,15 @@ void mouse(const LineContext& context, const Arguments& line) {
   const int row = line.wholeNumber("row");
   const int col = line.wholeNumber("col");
   const int button = line.has("button") ? line.wholeNumber("button", 1, 2) : 1;
+  const int held = line.has("shift") ? line.wholeNumber("shift", 0, 7) : shift::None;
   const std::string event = line.text("event", "click");
   const auto known = std::ranges::find(mouseEvents, event, &MouseEvent::name);
   if (known == mouseEvents.end())
     throw ScriptError("unknown event \"" + event + "\"; there is down, up, click, dblclick");
-  (context.gestures.*known->act)(cellTarget(usableGrid(context, name), row, col, button));
+  MouseTarget target = cellTarget(usableGrid(context, name), row, col);
+  target.button = button;
+  target.shift = held;
+  (context.gestures.*known->act)(target);
 }
 
 void drag(const LineContext& context, const Arguments& line) {
@@ -189,8 +193,7 @@ void drag(const LineContext& context, const Arguments& line) {
   const auto from = cellOf(line, "from");
   const auto to = cellOf(line, "to");
   FlexGrid& grid = usableGrid(context, name);
-  context.gestures.drag(cellTarget(grid, from.first, from.second, 1),
-                        cellTarget(grid, to.first, to.second, 1));
+  context.gestures.drag(cellTarget(grid, from.first, from.second), cellTarget(grid, to.first, to.second));
 }
 
 void menu(const LineContext& context, const Arguments& line) {

@@ -70,6 +70,7 @@ frmOfferTemplates::frmOfferTemplates() : Form(plan::form) {
   Angebotsnummer.ForeColor(darkBlue);
   MSFlexGrid1.FixedRows(0);
   MSFlexGrid1.FixedCols(0);
+  MSFlexGrid1.AccessibleName(u"Vorlagen");
   Get<PictureBox>(u"picNew").Picture(&pictures::newSheet);
   Get<PictureBox>(u"picOpen").Picture(&pictures::folder);
   Get<PictureBox>(u"Picture1").Picture(&pictures::twoSheets);

@@ -36,11 +36,11 @@ class OfferTemplates : public DialogTest {
     if (!form().mousePressed(grid())) return;
     grid().userPressed({row, row < 0 ? -1 : 0}, button, 0);
     grid().userReleased({row, row < 0 ? -1 : 0}, button, 0);
-    if (button == 1 && form().Visible()) form().mouseReleased(grid());
   }
   void doubleClickRow(int row) {
     clickRow(row);
-    grid().userPressedTwice({row, row < 0 ? -1 : 0});
+    if (form().mousePressed(grid()))
+      grid().userPressed({row, row < 0 ? -1 : 0}, 1, 0, Press::SecondOfDoubleClick);
   }
   bool option(int index) const { return form().Get<OptionButton>(u"optAuswahl", index).Value(); }
   bool optionEnabled(int index) const { return form().Get<OptionButton>(u"optAuswahl", index).Enabled(); }

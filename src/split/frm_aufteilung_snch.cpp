@@ -46,11 +46,12 @@ struct KindDesign {
   const char16_t* caption;
   int startCol;
 };
-constexpr std::array<KindDesign, 4> kindDesigns{{{u" ", -1},
-                                                 {u"Chargenaufteilung", 3},
-                                                 {u"Seriennummernaufteilung", 5},
-                                                 {u"Chargen/Seriennummernaufteilung", 3}}};
-static_assert(kindDesigns.size() == static_cast<std::size_t>(SplitKind::Both) + 1);
+/// By SplitKind.
+constexpr KindDesign kindDesigns[] = {{u" ", -1},
+                                      {u"Chargenaufteilung", 3},
+                                      {u"Seriennummernaufteilung", 5},
+                                      {u"Chargen/Seriennummernaufteilung", 3}};
+static_assert(std::size(kindDesigns) == splitKinds);
 
 /// No kind for what is no number from 1 to 3.
 SplitKind kindOf(const Variant& Aufteilungsart) {
@@ -94,7 +95,16 @@ frmAufteilungSNCH::frmAufteilungSNCH() : Form(plan::form) {
   MSHFlexGrid1.Scroll = [this] { MSHFlexGrid1_Scroll(); };
   btnCancel.Click = [this] { btnCancel_Click(); };
   btnOK.Click = [this] { btnOK_Click(); };
+  KeyDown = [this](int& KeyCode, int Shift) { Form_KeyDown(KeyCode, Shift); };
   KeyUp = [this](int KeyCode, int) { Form_KeyUp(KeyCode); };
+  MSHFlexGrid1.AccessibleName(u"Aufteilung");
+  MSHFlexGrid1.Editor(&txtEdit);
+  for (const Picture* mark : {&split_marks::current, &split_marks::currenti})
+    MSHFlexGrid1.wordsForPicture(*mark, u"aktuelle Zeile");
+  for (const Picture* mark : {&split_marks::edit, &split_marks::editi})
+    MSHFlexGrid1.wordsForPicture(*mark, u"geänderte Zeile");
+  for (const Picture* mark : {&split_marks::fresh, &split_marks::freshi})
+    MSHFlexGrid1.wordsForPicture(*mark, u"neue Zeile");
   total_.rows(MSHFlexGrid1.Rows());
 }
 
@@ -284,7 +294,26 @@ void frmAufteilungSNCH::SyncRow() {
   if (!isRowMode()) step([&] { txtEdit.Text(MSHFlexGrid1.Text()); });
 }
 
+void frmAufteilungSNCH::goTo(int row, int col) {
+  {
+    const Held held(bLockCell);
+    MSHFlexGrid1.Row(row);
+    MSHFlexGrid1.Col(col);
+  }
+  MSHFlexGrid1_RowColChange();
+}
+
 // ---- the running total
+
+/// What a total of so much means for the target; nothing without one.
+String frmAufteilungSNCH::restText(double sum) const {
+  if (target_ == 0) return {};
+  const double rest = sixDecimals(target_ - sum);
+  const String all = numberText(sixDecimals(target_));
+  if (rest == 0) return all + u" von " + all + u" verteilt";
+  return rest > 0 ? u"noch " + numberText(rest) + u" von " + all + u" zu verteilen"
+                  : numberText(-rest) + u" mehr als " + all + u" verteilt";
+}
 
 void frmAufteilungSNCH::RecalcTotals() {
   constexpr int quantityCol = 1;
@@ -294,7 +323,10 @@ void frmAufteilungSNCH::RecalcTotals() {
   const double sum =
       typing ? total_.without(bottom, MSHFlexGrid1.Row(), Val2(txtEdit.Text())) : total_.without(bottom);
   // It runs at every turn: what stands there already is not written again.
-  if (sum != shownTotal_) lblGmenge.Caption(quantityText(sum));
+  if (sum != shownTotal_) {
+    lblGmenge.Caption(quantityText(sum));
+    lblGmenge.ToolTipText(restText(sum));
+  }
   shownTotal_ = sum;
   if (target_ != 0) lblGmenge.ForeColor(sum == sixDecimals(target_) ? darkGreen : darkRed);
   const double rest = sixDecimals(target_ - sum);

@@ -1,17 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// frmAufteilungSNCH, kind 34: divides the quantity of a document line over batches, serial numbers or both. A
-// grid with a row for each part and one bottom row that offers a further one; a text box floats over the cell
-// at the cursor and looks like part of it. It touches no table.
-//
-//     frmAufteilungSNCH form;
-//     form.Aufteilung = u"2|\"Stk\"|\"L-4711\"|\"20260630000000\"|\"\"";
-//     form.Gmenge = 5.0;
-//     form.Aufteilungsart = std::int32_t{1};
-//     form.ShowData();  // OK: Aufteilung and Gmenge are what was divided; else they are as they were
-//
-// Error modes. No handler: KeyDown and KeyPress of the text box, KeyDown and cell change of the grid. All
-// others go on statement by statement.
+// The form of kind 34, the quantity split.
 #pragma once
 
 #include <optional>
@@ -30,6 +19,18 @@
 
 namespace zqn {
 
+/// Divides the quantity of a document line over batches, serial numbers or both. A grid with a row for each
+/// part and one bottom row that offers a further one; a text box floats over the cell at the cursor and looks
+/// like part of it. It touches no table.
+///
+///     frmAufteilungSNCH form;
+///     form.Aufteilung = u"2|\"Stk\"|\"L-4711\"|\"20260630000000\"|\"\"";
+///     form.Gmenge = 5.0;
+///     form.Aufteilungsart = std::int32_t{1};
+///     form.ShowData();  // OK: Aufteilung and Gmenge are what was divided; else they are as they were
+///
+/// Error modes. No handler: KeyDown and KeyPress of the text box, KeyDown and cell change of the grid. All
+/// others go on statement by statement.
 class frmAufteilungSNCH final : public Form {
  public:
   frmAufteilungSNCH();
@@ -63,6 +64,7 @@ class frmAufteilungSNCH final : public Form {
   void MarkEdited();
   void SyncRow();
   void RecalcTotals();
+  String restText(double sum) const;
   bool isRowMode() const { return MSHFlexGrid1.SelectionMode() == FlexGrid::ByRow; }
   int bottomRow() const { return MSHFlexGrid1.Rows() - 1; }
   void setRows(int count);
@@ -74,13 +76,20 @@ class frmAufteilungSNCH final : public Form {
   // ---- the cell editor (frm_aufteilung_snch_edit.cpp)
 
   void PlaceEdit(bool full);
+  void showEditor();
+  void focusEditor();
   void CommitEdit();
   bool IsRowComplete() const;
+  /// Nothing leads down from the bottom row as long as it is incomplete.
+  bool isHeldByRow() const { return MSHFlexGrid1.Row() == bottomRow() && !IsRowComplete(); }
   void DeleteRows();
   /// The cursor has come to its cell: the marks, the total and the editor follow.
   void noteCell();
   void addRow();
+  /// Moves the cursor to a cell, and the editor with it, as one step.
+  void goTo(int row, int col);
   void goOn();
+  void goDown(int col);
   void goBack();
   void typed();
   void enterPressed(int& KeyCode);
@@ -93,11 +102,15 @@ class frmAufteilungSNCH final : public Form {
   void txtEdit_KeyDown(int& KeyCode, int Shift);
   void txtEdit_KeyPress(int& KeyAscii);
   void txtEdit_Paste(StringView text, bool& taken);
+  /// A tab, a line break of what is pasted.
+  void pastedTab();
+  void pastedBreak(int startCol);
   void MSHFlexGrid1_RowColChange();
   void MSHFlexGrid1_MouseDown();
   void MSHFlexGrid1_MouseUp();
   void MSHFlexGrid1_KeyDown(int KeyCode);
   void MSHFlexGrid1_Scroll();
+  void Form_KeyDown(int KeyCode, int Shift);
   void Form_KeyUp(int KeyCode);
 
   // ---- check and result (frm_aufteilung_snch_check.cpp)

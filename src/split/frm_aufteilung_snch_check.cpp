@@ -33,7 +33,7 @@ void frmAufteilungSNCH::btnOK_Click() {
   ResumeNext step;
   bool Cancel = false;
   if (bRowEdited) step([&] { MSHFlexGrid1_RowColChange(); });
-  step([&] { isRowMode() ? MSHFlexGrid1.SetFocus() : txtEdit.SetFocus(); });
+  step([&] { isRowMode() ? MSHFlexGrid1.SetFocus() : focusEditor(); });
   step([&] { CheckSplit(Cancel); });
   if (Cancel) return;
   step([&] { Aufteilung = BuildSplit(); });
@@ -63,11 +63,9 @@ void frmAufteilungSNCH::showFailed(int row, const Complaint& complaint) {
   step([&] { MsgBox(complaint.text, msgbox::OKOnly | msgbox::Exclamation, invalidInput); });
   // A cell that nobody can edit leads to the first one of its row that somebody can.
   const int col = aCols.isEditable(complaint.col) ? complaint.col : aCols.FirstEditCol();
-  step([&] { MSHFlexGrid1.Row(row); });
-  step([&] { MSHFlexGrid1.Col(col); });
   MSHFlexGrid1.SelectionMode(FlexGrid::Free);
   txtEdit.Visible(true);
-  step([&] { MSHFlexGrid1_RowColChange(); });
+  step([&] { goTo(row, col); });
   step([&] { PlaceEdit(true); });
 }
 

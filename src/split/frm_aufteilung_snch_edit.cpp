@@ -3,6 +3,7 @@
 // The cell editor of the quantity split: where it floats, what each key does, how rows are taken and deleted.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "forms/desktop.h"
 #include "runtime/convert.h"
@@ -24,14 +25,26 @@ Alignment editorAlignment(int cell) {
   return cell >= 6 && cell <= 8 ? Alignment::Right : Alignment::Left;
 }
 
+bool isFunctionKey(int code) { return code >= key::F1 && code <= key::F12; }
+
+bool isLockOrSystemKey(int code) {
+  constexpr int windowsKey = 91, menuKey = 93, numLock = 144, scrollLock = 145;
+  return code == windowsKey || code == menuKey || code == numLock || code == scrollLock;
+}
+
 /// The keys that move, and what else types nothing.
 bool isTypingKey(int code, int shift) {
   constexpr int firstTyping = 48;
-  constexpr int windowsKey = 91, menuKey = 93, numLock = 144, scrollLock = 145;
-  if (code >= key::F1 && code <= key::F12) return false;
-  if (code < firstTyping || code == windowsKey || code == menuKey) return false;
-  if (code == numLock || code == scrollLock) return false;
+  if (code < firstTyping || isFunctionKey(code) || isLockOrSystemKey(code)) return false;
+  if ((shift & shift::Alt) != 0) return false;
   return (shift & shift::Ctrl) == 0 || code == 'V' || code == 'X';
+}
+
+/// Keys that do nothing to a cell, wherever it is.
+bool isMeantForNoCell(int code, int shift) {
+  constexpr int shiftKey = 16, capsLock = 20;
+  return isFunctionKey(code) || isLockOrSystemKey(code) || code == key::Escape ||
+         (code >= shiftKey && code <= capsLock) || (shift & shift::Alt) != 0;
 }
 
 }  // namespace
@@ -49,16 +62,27 @@ void frmAufteilungSNCH::PlaceEdit(bool full) {
     if (MSHFlexGrid1.Top() + MSHFlexGrid1.Height() < txtEdit.Top() + txtEdit.Height()) txtEdit.Visible(false);
     return;
   }
+  showEditor();
+  step([&] { txtEdit.SelStart(0); });
+  step([&] { txtEdit.SelLength(static_cast<int>(txtEdit.Text().size())); });
+  step([&] { txtEdit.SetFocus(); });
+}
+
+/// Gives the focus back to the editor, over its cell, as it stands.
+void frmAufteilungSNCH::focusEditor() {
+  ResumeNext step;
+  if (!txtEdit.Visible()) showEditor();
+  step([&] { txtEdit.SetFocus(); });
+}
+
+void frmAufteilungSNCH::showEditor() {
+  ResumeNext step;
   // The cell is scrolled into view, and while that goes on the box may be hidden as out of sight.
-  const bool visible = txtEdit.Visible();
   step([&] { txtEdit.Left(MSHFlexGrid1.Left() + MSHFlexGrid1.CellLeft() + pixelsX(inset)); });
   step([&] { txtEdit.Top(MSHFlexGrid1.Top() + MSHFlexGrid1.CellTop() + pixelsY(line)); });
   step([&] { txtEdit.Width(std::max(0, MSHFlexGrid1.CellWidth() - pixelsX(inset))); });
   step([&] { txtEdit.Height(std::max(0, MSHFlexGrid1.CellHeight() - pixelsY(line))); });
-  txtEdit.Visible(visible);
-  step([&] { txtEdit.SelStart(0); });
-  step([&] { txtEdit.SelLength(static_cast<int>(txtEdit.Text().size())); });
-  step([&] { txtEdit.SetFocus(); });
+  txtEdit.Visible(true);
 }
 
 void frmAufteilungSNCH::CommitEdit() {
@@ -125,9 +149,7 @@ void frmAufteilungSNCH::txtEdit_KeyDown(int& KeyCode, int Shift) {
 
 void frmAufteilungSNCH::enterPressed(int& KeyCode) {
   CommitEdit();
-  if (aCols.IsLastEditCol(MSHFlexGrid1.Col()) && MSHFlexGrid1.Row() == bottomRow() && !IsRowComplete())
-    return placeAndSwallow(KeyCode);
-  goOn();
+  if (!aCols.IsLastEditCol(MSHFlexGrid1.Col()) || !isHeldByRow()) goOn();
   placeAndSwallow(KeyCode);
 }
 
@@ -137,9 +159,8 @@ void frmAufteilungSNCH::tabPressed(int& KeyCode, int Shift) {
     return placeAndSwallow(KeyCode);
   }
   if (Shift != shift::None) return;
-  const bool atTheEnd = aCols.IsLastEditCol(MSHFlexGrid1.Col()) && MSHFlexGrid1.Row() == bottomRow();
   // The row is tested before the editor's text is in it: what was only just typed does not count.
-  if (atTheEnd && !IsRowComplete()) return placeAndSwallow(KeyCode);
+  if (aCols.IsLastEditCol(MSHFlexGrid1.Col()) && isHeldByRow()) return placeAndSwallow(KeyCode);
   CommitEdit();
   goOn();
   placeAndSwallow(KeyCode);
@@ -151,10 +172,13 @@ void frmAufteilungSNCH::goOn() {
     MSHFlexGrid1.Col(aCols.NextEditCol(col));
     return noteCell();
   }
+  goDown(aCols.FirstEditCol());
+}
+
+void frmAufteilungSNCH::goDown(int col) {
   const bool furtherRow = MSHFlexGrid1.Row() == bottomRow();
   if (furtherRow) addRow();
-  MSHFlexGrid1.Col(aCols.FirstEditCol());
-  MSHFlexGrid1.Row(MSHFlexGrid1.Row() + 1);
+  goTo(MSHFlexGrid1.Row() + 1, col);
   if (furtherRow) InitRow(MSHFlexGrid1.Row());
   noteCell();
 }
@@ -166,20 +190,14 @@ void frmAufteilungSNCH::goBack() {
     noteCell();
   } else if (MSHFlexGrid1.Row() >= 2) {
     CommitEdit();
-    MSHFlexGrid1.Col(aCols.LastEditCol());
-    MSHFlexGrid1.Row(MSHFlexGrid1.Row() - 1);
+    goTo(MSHFlexGrid1.Row() - 1, aCols.LastEditCol());
     noteCell();
   }
 }
 
 void frmAufteilungSNCH::downPressed(int& KeyCode) {
   CommitEdit();
-  const bool furtherRow = MSHFlexGrid1.Row() == bottomRow();
-  if (furtherRow && !IsRowComplete()) return placeAndSwallow(KeyCode);
-  if (furtherRow) addRow();
-  MSHFlexGrid1.Row(MSHFlexGrid1.Row() + 1);
-  if (furtherRow) InitRow(MSHFlexGrid1.Row());
-  noteCell();
+  if (!isHeldByRow()) goDown(MSHFlexGrid1.Col());
   placeAndSwallow(KeyCode);
 }
 
@@ -213,14 +231,35 @@ void frmAufteilungSNCH::txtEdit_Paste(StringView text, bool& taken) {
   typed();
   taken = text.find_first_of(u"\t\r\n") != StringView::npos;
   if (!taken) return;
-  // Lines of a spreadsheet fill cell after cell, as if somebody typed them.
-  const String keys = withBreaks(text, u"\r");
-  for (const char16_t unit : keys) {
-    const bool named = unit == u'\t' || unit == u'\r';
-    const KeyStroke stroke = named ? KeyStroke::ofCode(unit) : KeyStroke::ofCharacter(unit);
-    const KeyOutcome outcome = keyPressed(stroke);
-    if (outcome.own) ActiveControl()->ownKey(outcome.stroke);
+  // Lines of a spreadsheet fill cell after cell, and what stands in them goes in as it is. An empty cell of
+  // theirs leaves ours alone.
+  const int startCol = MSHFlexGrid1.Col();
+  const std::vector<String> lines = Split(withBreaks(text, u"\n"), u"\n");
+  for (const String& line : lines) {
+    const std::vector<String> cells = Split(line, u"\t");
+    for (const String& cell : cells) {
+      txtEdit.userPasted(cell);
+      if (&cell != &cells.back()) pastedTab();
+    }
+    if (&line != &lines.back()) pastedBreak(startCol);
   }
+}
+
+void frmAufteilungSNCH::pastedTab() {
+  CommitEdit();
+  if (!aCols.IsLastEditCol(MSHFlexGrid1.Col()) || !isHeldByRow()) goOn();
+  PlaceEdit(true);
+}
+
+void frmAufteilungSNCH::pastedBreak(int startCol) {
+  CommitEdit();
+  if (isHeldByRow()) {
+    MSHFlexGrid1.Col(startCol);
+    noteCell();
+  } else {
+    goDown(startCol);
+  }
+  PlaceEdit(true);
 }
 
 // ---- the grid
@@ -248,7 +287,7 @@ void frmAufteilungSNCH::MSHFlexGrid1_MouseDown() {
   const int row = MSHFlexGrid1.MouseRow();
   const int col = MSHFlexGrid1.MouseCol();
   if (row < 0 || col < 0) {
-    if (!isRowMode()) step([&] { txtEdit.SetFocus(); });
+    if (!isRowMode()) focusEditor();
     return;
   }
   bMouseDown = true;
@@ -264,21 +303,15 @@ void frmAufteilungSNCH::MSHFlexGrid1_MouseDown() {
   }
   MSHFlexGrid1.SelectionMode(FlexGrid::Free);
   const bool editable = aCols.isEditable(col);
-  if (!editable && lEditRow >= 1) {
-    step([&] { txtEdit.SetFocus(); });
-    return;
-  }
+  if (!editable && lEditRow >= 1) return focusEditor();
   // Out of the row mode a read-only cell leads to the cell of its row that can be edited.
   txtEdit.Visible(true);
-  step([&] { MSHFlexGrid1.Col(editable ? col : aCols.FirstEditCol()); });
-  if (editable) step([&] { MSHFlexGrid1.Row(std::max(row, 1)); });
-  step([&] { MSHFlexGrid1_RowColChange(); });
+  step([&] { editable ? goTo(std::max(row, 1), col) : goTo(MSHFlexGrid1.Row(), aCols.FirstEditCol()); });
 }
 
 void frmAufteilungSNCH::MSHFlexGrid1_MouseUp() {
+  if (!std::exchange(bMouseDown, false) || !isRowMode()) return;
   ResumeNext step;
-  bMouseDown = false;
-  if (!isRowMode()) return;
   const int Row = MSHFlexGrid1.Row();
   const int RowSel = MSHFlexGrid1.RowSel();
   step([&] { MSHFlexGrid1.Row(Row); });
@@ -336,6 +369,11 @@ void frmAufteilungSNCH::DeleteRows() {
   step([&] { SyncRow(); });
   takeFirst();
   step([&] { RecalcTotals(); });
+}
+
+void frmAufteilungSNCH::Form_KeyDown(int KeyCode, int Shift) {
+  // The editor is out of sight with its cell, and the focus is nowhere: a key brings both back first.
+  if (ActiveControl() == nullptr && !isRowMode() && !isMeantForNoCell(KeyCode, Shift)) focusEditor();
 }
 
 void frmAufteilungSNCH::Form_KeyUp(int KeyCode) {

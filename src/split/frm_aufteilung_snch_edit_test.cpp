@@ -264,6 +264,11 @@ TEST_F(SplitKeys, FunctionKeysAndShortcutsAreNoTyping) {
     press(key::Delete);
     press(144);
     EXPECT_EQ(grid().Rows(), 2);
+    for (const int held : {int{shift::Alt}, shift::Alt | shift::Shift, shift::Alt | shift::Ctrl}) {
+      desktop.press({'S', held, u's'});
+      desktop.press({'7', held, u'7'});
+    }
+    EXPECT_EQ(grid().Rows(), 2) << "with Alt, whatever it would type";
     press('X', shift::Ctrl);
     EXPECT_EQ(grid().Rows(), 3);
   });
@@ -341,7 +346,55 @@ TEST_F(SplitUndo, EndsWithTheRow) {
 
 // ---- paste
 
-TEST_F(SplitPaste, LinesFillCellAfterCellAsIfTyped) {
+TEST_F(SplitPaste, IsNoTyping) {
+  split(2, u"", 2.0, [&] {
+    paste(u"A&(B)");
+    EXPECT_EQ(editor().Text(), u"A&(B)");
+    paste(u"C&(1)\r\nC&(2)");
+    EXPECT_EQ(grid().TextMatrix(1, 5), u"A&(B)C&(1)");
+    EXPECT_EQ(editor().Text(), u"C&(2)");
+  });
+}
+
+TEST_F(SplitPaste, AColumnStaysAColumn) {
+  split(1, u"", 9.0, [&] {
+    paste(u"L-1\r\nL-2\nL-3\rL-4");
+    press(key::Tab);
+    EXPECT_THAT(gridRows(), ElementsAre(u"9,000|Stk|L-1||", u"0,000|Stk|L-2||", u"0,000|Stk|L-3||",
+                                        u"0,000|Stk|L-4||", u"0,000|Stk|||"));
+  });
+  split(3, twoBatches, 5.0, [&] {
+    clickCell(1, 4);
+    paste(u"31.1.27\r\n28.2.27\r\n");
+    EXPECT_EQ(grid().TextMatrix(1, 4), u"31.01.2027");
+    EXPECT_EQ(grid().TextMatrix(2, 4), u"28.02.2027");
+    EXPECT_EQ(at(), "3,4") << "below the last line";
+  });
+}
+
+TEST_F(SplitPaste, ABlockStaysABlockFromTheColumnWhereItBegan) {
+  split(1, u"", 9.0, [&] {
+    paste(u"L-1\t31.1.27\r\nL-2\t28.2.27");
+    press(key::Enter);
+    EXPECT_THAT(gridRows(),
+                ElementsAre(u"9,000|Stk|L-1|31.01.2027|", u"0,000|Stk|L-2|28.02.2027|", u"0,000|Stk|||"));
+  });
+}
+
+TEST_F(SplitPaste, EmptyCellsLeaveOursAloneAndEmptyLinesAddNoRow) {
+  split(1, twoBatches, 5.0, [&] {
+    clickCell(1, 1);
+    paste(u"1\t\t1.1.27\r\n\tneu");
+    press(key::Enter);
+    EXPECT_THAT(gridRows(), ElementsAre(u"1,000|Stk|L-1|01.01.2027|", u"3,000|Stk|neu||", u"1,000|Stk|||"));
+    clickCell(3, 3);
+    paste(u"A\r\n\r\n\r\nB\r\n\r\n");
+    EXPECT_THAT(gridRows(), SizeIs(5)) << "the two, A, B and the bottom row";
+    EXPECT_EQ(at(), "5,3");
+  });
+}
+
+TEST_F(SplitPaste, LinesFillCellAfterCell) {
   split(1, u"", 9.0, [&] {
     clickCell(1, 1);
     paste(u"2\tL-1\t31.12.26\r\n3\tL-2\t311227\r\n");

@@ -41,6 +41,55 @@ TEST_F(SplitMouse, OnAReadOnlyCellLeavesTheEditorWhereItWas) {
   });
 }
 
+TEST_F(SplitMouse, ADoubleClickOnAReadOnlyCellLeavesTheKeyboardToTheEditor) {
+  for (const int button : {1, 2}) {
+    split(1, twoBatches, 5.0, [&] {
+      clickCell(1, 3);
+      headless::doubleClickOn(grid(), {2, 2}, button);
+      EXPECT_EQ(focus(), u"txtEdit") << "button " << button;
+      EXPECT_EQ(at(), "1,3");
+      typeAnd(u"neu", key::Enter);
+      EXPECT_EQ(grid().TextMatrix(1, 3), u"neu");
+    });
+  }
+}
+
+TEST_F(SplitMouse, ADoubleClickIsTwoPressesWithEitherButton) {
+  for (const int button : {1, 2}) {
+    split(1, twoBatches, 5.0, [&] {
+      clickCell(1, 3);
+      type(u"neu");
+      headless::doubleClickOn(grid(), {2, 4}, button);
+      EXPECT_EQ(at(), "2,4") << "button " << button;
+      EXPECT_EQ(grid().TextMatrix(1, 3), u"neu");
+      EXPECT_EQ(focus(), u"txtEdit");
+      headless::doubleClickOn(grid(), {1, 0}, button);
+      EXPECT_TRUE(isRowMode());
+      EXPECT_EQ(at() + " " + std::to_string(grid().ColSel()), "1,1 5");
+      EXPECT_EQ(marks(), "picCurrenti - picNew");
+      EXPECT_EQ(focus(), u"MSHFlexGrid1");
+    });
+  }
+}
+
+TEST_F(SplitMouse, AReleaseWithoutAPressChangesNothing) {
+  split(1, twoBatches, 5.0, [&] {
+    takeRows(1, 2);
+    expectDeleteQuestion(u"2 Datensätze", MsgBoxResult::Yes);
+    press(key::Delete);
+    EXPECT_EQ(at(), "1,0");
+    headless::GridMouse().release(grid(), {1, 3});
+    EXPECT_EQ(at(), "1,0");
+    headless::clickOn(grid(), {-1, 3});
+    EXPECT_EQ(at(), "1,0") << "nor does one of a press beside the cells";
+    clickCell(1, 3);
+    type(u"neu");
+    for (const int button : {1, 2}) headless::GridMouse().release(grid(), {2, 0}, button);
+    EXPECT_EQ(editor().Text(), u"neu");
+    EXPECT_EQ(focus(), u"txtEdit");
+  });
+}
+
 TEST_F(SplitMouse, OnTheHeadingGoesToTheFirstRow) {
   split(1, twoBatches, 5.0, [&] {
     clickCell(0, 4);
@@ -126,9 +175,10 @@ TEST_F(SplitRowMode, LooksSelectedOnlyOnceTheButtonIsReleased) {
   split(1, twoBatches, 5.0, [&] {
     clickCell(1, 0);
     EXPECT_EQ(marks(), "picCurrenti - picNew");
-    headless::pressOn(grid(), {2, 0});
+    headless::GridMouse mouse;
+    mouse.press(grid(), {2, 0});
     EXPECT_EQ(marks(), "- picCurrent picNew");
-    grid().userReleased({2, 0}, 1, 0);
+    mouse.release(grid(), {2, 0});
     EXPECT_EQ(marks(), "- picCurrenti picNew");
   });
 }
@@ -248,6 +298,59 @@ TEST_F(SplitScroll, TheEditorHidesAboveAndWhereTheEdgeCutsItsRow) {
     int top = 20;
     while (editor().Visible()) grid().userScrolled(--top, 1);
     EXPECT_TRUE(grid().RowIsVisible(20)) << "part of the row is still in sight";
+  });
+}
+
+TEST_F(SplitScroll, AKeyTypedWhileTheEditorIsOutOfSightBringsItsCellBackFirst) {
+  String text;
+  for (int i = 0; i < 100; ++i) text += u"1|\"Stk\"|\"L\"\r\n";
+  const auto scrolledAway = [&] {
+    clickCell(2, 3);
+    press(key::End);
+    grid().userScrolled(60, 1);
+    EXPECT_FALSE(editor().Visible());
+    EXPECT_EQ(focus(), u"");
+  };
+  const auto isBack = [&] {
+    EXPECT_TRUE(grid().RowIsVisible(2));
+    EXPECT_TRUE(editor().Visible());
+    EXPECT_EQ(editor().Top(), grid().Top() + grid().CellTop() + 15);
+    EXPECT_EQ(focus(), u"txtEdit");
+  };
+  split(1, text, 200.0, [&] {
+    scrolledAway();
+    type(u"-7");
+    isBack();
+    EXPECT_EQ(editor().Text(), u"L-7") << "the caret stands where it stood";
+    EXPECT_EQ(marks().substr(0, 9), "- picEdit");
+    scrolledAway();
+    press(key::Enter);
+    EXPECT_EQ(at(), "2,4");
+    EXPECT_EQ(grid().TextMatrix(2, 3), u"L-7");
+    EXPECT_EQ(focus(), u"txtEdit");
+    scrolledAway();
+    paste(u"x");
+    isBack();
+    EXPECT_EQ(editor().Text(), u"L-7x");
+    scrolledAway();
+    for (const int silent : {16, 17, 18, int{key::F2}, 144}) press(silent);
+    press('A', shift::Alt);
+    EXPECT_FALSE(editor().Visible()) << "keys that do nothing to a cell";
+    expectDifference(MsgBoxResult::No);
+    click(u"btnOK");
+    isBack();
+  });
+}
+
+TEST_F(SplitScroll, APressOnAReadOnlyCellBringsTheEditorBackFromOutOfSight) {
+  String text;
+  for (int i = 0; i < 100; ++i) text += u"1|\"Stk\"|\"L\"\r\n";
+  split(1, text, 200.0, [&] {
+    clickCell(2, 3);
+    clickCell(80, 2);
+    EXPECT_EQ(at(), "2,3");
+    EXPECT_TRUE(editor().Visible());
+    EXPECT_EQ(focus(), u"txtEdit");
   });
 }
 

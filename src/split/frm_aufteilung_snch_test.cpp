@@ -116,6 +116,21 @@ TEST_F(SplitOpens, WithTheTextOfTheFirstCellSelected) {
   });
 }
 
+TEST_F(SplitOpens, WithAnEditorThatSaysWhereItStands) {
+  const auto name = [this] { return grid().wordsForPlace(grid().Row(), grid().Col()); };
+  split(1, twoBatches, 5.0, [&] {
+    EXPECT_EQ(grid().Editor(), &editor());
+    EXPECT_EQ(name(), u"Chargen-Nr., Zeile 3");
+    clickCell(2, 4);
+    EXPECT_EQ(name(), u"Verfalldatum, Zeile 2");
+    press(key::Enter);
+    EXPECT_EQ(name(), u"Menge, Zeile 3");
+    press(key::Up);
+    EXPECT_EQ(name(), u"Menge, Zeile 2");
+    EXPECT_EQ(grid().AccessibleName(), u"Aufteilung");
+  });
+}
+
 TEST_F(SplitOpens, AShortLineHasEmptyCells) {
   split(3, u"1", 5.0, [&] { EXPECT_EQ(gridRows().front(), u"1,000||||"); });
 }
@@ -178,6 +193,19 @@ TEST_F(SplitRunningTotal, IsGreenWhenEverythingIsDivided) {
     EXPECT_EQ(gridRows().back(), u"0,000|Stk|||");
   });
   split(1, twoBatches, u"5,0001", [&] { EXPECT_EQ(totalColour(), red); });
+}
+
+TEST_F(SplitRunningTotal, SaysWhatIsLeftAsItsTip) {
+  const auto tip = [this] { return *get(u"lblGmenge", u"ToolTipText").as<String>(); };
+  split(1, u"6,5|\"Stk\"|\"L-1\"", 10.0, [&] {
+    EXPECT_EQ(tip(), u"noch 3,5 von 10 zu verteilen");
+    clickCell(1, 1);
+    type(u"10");
+    EXPECT_EQ(tip(), u"10 von 10 verteilt");
+    type(u",25");
+    EXPECT_EQ(tip(), u"0,25 mehr als 10 verteilt");
+  });
+  split(1, u"2|\"Stk\"|\"L-1\"", std::int32_t{0}, [&] { EXPECT_EQ(tip(), u"") << "without a target"; });
 }
 
 TEST_F(SplitRunningTotal, ReadsThePointOfItsTargetAsThousandsSign) {

@@ -79,7 +79,7 @@ class Init(CommandTest):
 
     def test_a_locked_file_is_left_alone(self):
         self.lock("a.sqlite", "BEGIN EXCLUSIVE")
-        self.assert_refused(CANNOT_OPEN, ["a.sqlite", "in use"], "init", "--db", "sqlite:a.sqlite", "--sample")
+        self.assert_refused(CANNOT_OPEN, ["a.sqlite", "benutzt"], "init", "--db", "sqlite:a.sqlite", "--sample")
 
 
 class Sql(CommandTest):
@@ -185,7 +185,7 @@ class UnusableDatabases(CommandTest):
 
     def test_a_file_that_is_no_database(self):
         (self.folder / "a.txt").write_text("Das ist ein Brief und keine Datenbank.\n" * 40)
-        self.assert_unusable("a.txt", "no SQLite database")
+        self.assert_unusable("a.txt", "keine SQLite-Datenbank")
         self.assert_refused(CANNOT_OPEN, ["a.txt"], "init", "--db", "sqlite:a.txt")
 
     def test_a_database_without_a_table_of_the_system(self):
@@ -211,7 +211,7 @@ class UnusableDatabases(CommandTest):
     def test_a_locked_file(self):
         self.sample("a.sqlite")
         self.lock("a.sqlite", "PRAGMA locking_mode=EXCLUSIVE", "BEGIN EXCLUSIVE")
-        self.assert_unusable("a.sqlite", "in use")
+        self.assert_unusable("a.sqlite", "benutzt")
 
     def test_a_damaged_file(self):
         self.sample("a.sqlite")

@@ -17,6 +17,7 @@
 #include <functional>
 
 #include "desktop/headless/headless_desktop.h"
+#include "forms/form.h"
 #include "frontend/kinds.h"
 #include "host/database/database.h"
 #include "host/desk/desk_window.h"

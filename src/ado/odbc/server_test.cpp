@@ -1,78 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
 // What a database server adds to the rules of recordsets: drops, locks, types, long texts, what is sent.
-#include <algorithm>
-
 #include "runtime/digits.h"
 #include "runtime/locale.h"
-#include "testing/server_context.h"
+#include "testing/server_fixture.h"
 
 namespace zqn::ado::odbc {
 
 namespace {
 
-class Server : public testing::Test {
- protected:
-  Server() {
-    connection->Execute(u"CREATE TABLE Stamm (Schluessel " + context.textColumn(10) +
-                        u" NOT NULL PRIMARY KEY, Wert " + context.textColumn(30) +
-                        u", Zahl DOUBLE PRECISION)");
-    connection->Execute(u"INSERT INTO Stamm VALUES ('a', 'eins', 1), ('b', 'zwei', 2)");
-    sent.clear();
-  }
-
-  Ref<Connection> watched() {
-    return openOdbc(context.address(), {.ran = [this](StringView text) { sent.emplace_back(text); }});
-  }
-  static Ref<Recordset> open(const Ref<Connection>& on, const sql::Text& statement,
-                             int location = adUseServer) {
-    auto rs = Ref<Recordset>::make();
-    rs->CursorLocation(location);
-    rs->Open(statement, on, adOpenKeyset, adLockOptimistic);
-    return rs;
-  }
-  String value(const sql::Text& statement) {
-    const auto rs = open(other, statement, adUseClient);
-    return rs->IsEOF() ? u"EOF" : concatenate(rs->Fields(0).Value());
-  }
-  /// How often a page of keys was asked for.
-  std::ptrdiff_t pages() const {
-    return std::ranges::count_if(sent,
-                                 [](const String& text) { return text.find(u"OFFSET") != String::npos; });
-  }
-  /// Rows k100000 to k119999.
-  void insertTwentyThousand() {
-    for (int i = 0; i < 20; ++i) {
-      sql::Text statement = u"INSERT INTO Stamm VALUES ";
-      for (int row = 0; row < 1000; ++row)
-        statement += (row == 0 ? u"(" : u", (") +
-                     sql::value(fromUtf8("k" + std::to_string(100000 + i * 1000 + row))) + u", 'x', 0)";
-      connection->Execute(statement);
-    }
-  }
-  /// The server ends the session of `connection`, as an administrator would.
-  void drop() {
-    if (ServerContext::isPostgreSql()) {
-      const String process = CStr(open(connection, u"SELECT pg_backend_pid()")->Fields(0).Value());
-      value(u"SELECT pg_terminate_backend(" + sql::number(process) + u")");
-    } else {
-      const String process = CStr(open(connection, u"SELECT connection_id()")->Fields(0).Value());
-      other->Execute(u"KILL " + sql::number(process));
-    }
-  }
-
-  ServerContext context;
-  std::vector<String> sent;
-  Ref<Connection> connection = watched();
-  Ref<Connection> other = context.connect();
-};
+class Server : public ServerTest {};
 
 const sql::Text RowA = u"SELECT * FROM Stamm WHERE Schluessel='a'";
-
-/// The dropped connection is told, at the first statement or, where the server was slower, at the second.
-bool toldOnce(const std::function<void()>& statement) {
-  return errorNumberOf(statement) == error::ProviderFailure;
-}
 
 }  // namespace
 

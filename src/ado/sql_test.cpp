@@ -77,6 +77,36 @@ TEST(SqlShape, KnowsAnOrderOfItsOwn) {
   EXPECT_FALSE(Shape(u"SELECT * FROM T WHERE K='ORDER BY'").ordered);
 }
 
+TEST(SqlTokens, KnowTheLiteralsOfPostgreSql) {
+  Scanner scanner(u"E'\\'; ''' e'x' $$it's; $$ $tag$a $$ 'b$tag$ $1 $name Ende");
+  std::vector<String> seen;
+  for (Token token = scanner.next(); token.kind != Token::Kind::End; token = scanner.next())
+    seen.push_back((token.kind == Token::Kind::Literal     ? u"L:"
+                    : token.kind == Token::Kind::Parameter ? u"P:"
+                                                           : u"W:") +
+                   String(token.text));
+  EXPECT_EQ(seen, (std::vector<String>{u"L:E'\\'; '''", u"L:e'x'", u"L:$$it's; $$", u"L:$tag$a $$ 'b$tag$",
+                                       u"P:$1", u"P:$name", u"W:Ende"}));
+  EXPECT_EQ(Scanner(u"E'\\'").next().kind, Token::Kind::Unclosed);
+  EXPECT_EQ(Scanner(u"$a$ without an end").next().kind, Token::Kind::Parameter);
+}
+
+TEST(SqlShape, LeavesTheLiteralsOfPostgreSqlInTheirPlaces) {
+  for (const char16_t* statement :
+       {u"SELECT * FROM T WHERE K=E'\\'' AND L=E'x'", u"SELECT * FROM T WHERE K=$$it's$$"}) {
+    const Shape shape(statement);
+    EXPECT_EQ(shape.text, statement);
+    EXPECT_TRUE(shape.literals.empty());
+  }
+}
+
+TEST(SqlTokens, TellTheTableOfAnInsert) {
+  EXPECT_EQ(insertedTable(u"INSERT INTO \"Die Tabelle\" (a) VALUES (?)"), u"Die Tabelle");
+  EXPECT_EQ(insertedTable(u"insert into T DEFAULT VALUES"), u"T");
+  EXPECT_EQ(insertedTable(u"SELECT 1"), u"");
+  EXPECT_EQ(insertedTable(u"INSERT INTO"), u"");
+}
+
 // ---- plain selects
 
 TEST(PlainSelect, HasListTableAndRest) {

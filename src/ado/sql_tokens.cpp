@@ -35,7 +35,7 @@ bool isComparison(const Token& token) {
 bool Token::is(StringView keyword) const noexcept { return kind == Kind::Word && ascii::same(text, keyword); }
 
 String Token::unquoted() const {
-  if (kind != Kind::Name && kind != Kind::Literal) return String(text);
+  if (kind != Kind::Name && !isPlainLiteral()) return String(text);
   const StringView inside = text.substr(1, text.size() - 2);
   const char16_t quote = text.back();
   String plain;
@@ -75,6 +75,28 @@ std::size_t Scanner::endOfQuoted(char16_t close, bool& closed) const {
   return statement_.size();
 }
 
+std::size_t Scanner::endOfEscaped() const {
+  for (std::size_t i = at_ + 2; i < statement_.size(); ++i) {
+    if (statement_[i] == u'\\') {
+      ++i;
+    } else if (statement_[i] == u'\'') {
+      if (!statement_.substr(i + 1).starts_with(u'\'')) return i + 1;
+      ++i;
+    }
+  }
+  return StringView::npos;
+}
+
+std::size_t Scanner::endOfDollars() const {
+  std::size_t tag = at_ + 1;
+  while (tag < statement_.size() && continuesWord(statement_[tag]) && statement_[tag] != u'$') ++tag;
+  const bool opens = tag < statement_.size() && statement_[tag] == u'$' && !isDigit(statement_[at_ + 1]);
+  if (!opens) return StringView::npos;
+  const StringView quote = statement_.substr(at_, tag + 1 - at_);
+  const std::size_t end = statement_.find(quote, tag + 1);
+  return end == StringView::npos ? end : end + quote.size();
+}
+
 Token Scanner::take(Kind kind, std::size_t end) {
   const Token token{kind, statement_.substr(at_, end - at_), depth_};
   at_ = end;
@@ -94,6 +116,13 @@ Token Scanner::next() {
     bool closed = false;
     const std::size_t end = endOfQuoted(first == u'[' ? u']' : first, closed);
     return take(!closed ? Kind::Unclosed : first == u'\'' ? Kind::Literal : Kind::Name, end);
+  }
+  if ((first == u'e' || first == u'E') && second == u'\'') {
+    const std::size_t end = endOfEscaped();
+    return end == StringView::npos ? take(Kind::Unclosed, statement_.size()) : take(Kind::Literal, end);
+  }
+  if (first == u'$') {
+    if (const std::size_t end = endOfDollars(); end != StringView::npos) return take(Kind::Literal, end);
   }
   if (startsWord(first)) return take(Kind::Word, endOf(at_, continuesWord));
   if (isDigit(first) || (first == u'.' && isDigit(second))) {
@@ -131,7 +160,7 @@ Shape::Shape(StringView statement) {
     }
     condition = condition || token.is(u"WHERE");
     ordered = ordered || (token.depth == 0 && token.is(u"ORDER"));
-    if (token.kind == Kind::Literal && recurs && condition && isComparison(before)) {
+    if (token.isPlainLiteral() && recurs && condition && isComparison(before)) {
       const auto begin = static_cast<std::size_t>(token.text.data() - statement.data());
       text.append(statement, copied, begin - copied).append(1, u'?');
       copied = begin + token.text.size();
@@ -139,6 +168,13 @@ Shape::Shape(StringView statement) {
     }
   }
   text.append(statement, copied);
+}
+
+String insertedTable(StringView statement) {
+  Scanner scanner(statement);
+  if (!scanner.next().is(u"INSERT") || !scanner.next().is(u"INTO")) return {};
+  const Token table = scanner.next();
+  return table.kind == Kind::Word || table.kind == Kind::Name ? table.unquoted() : String();
 }
 
 String quoted(StringView identifier) {

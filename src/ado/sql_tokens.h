@@ -16,8 +16,8 @@
 namespace zqn::ado::sql {
 
 struct Token {
-  /// `Name` is an identifier in double quotes, brackets or backticks, `Literal` a text in apostrophes;
-  /// `Unclosed` is a quote without its end.
+  /// `Name` is an identifier in double quotes, brackets or backticks; `Literal` a text in apostrophes, or one of
+  /// PostgreSQL's own: E'it\'s', $$it's$$, $tag$it's$tag$. `Unclosed` is a quote without its end.
   enum class Kind { Word, Name, Literal, Number, Parameter, Symbol, Unclosed, End };
 
   Kind kind = Kind::End;
@@ -29,8 +29,10 @@ struct Token {
   /// It is this keyword, in any case; `keyword` in upper case.
   bool is(StringView keyword) const noexcept;
   bool isSymbol(StringView symbol) const noexcept { return kind == Kind::Symbol && text == symbol; }
-  /// A word, or what is inside the quotes, doubled ones made single.
+  /// A word, or what is inside the quotes, doubled ones made single. PostgreSQL's own literals as they stand.
   String unquoted() const;
+  /// A text in apostrophes alone, which every database reads the same.
+  bool isPlainLiteral() const noexcept { return kind == Kind::Literal && text.starts_with(u'\''); }
 };
 
 /// Reads the tokens one after the other; blanks and comments are none.
@@ -44,12 +46,18 @@ class Scanner {
  private:
   void skipBlanks();
   std::size_t endOfQuoted(char16_t close, bool& closed) const;
+  /// Behind the text that begins with E' at the place, or with $tag$; npos for another beginning or no end.
+  std::size_t endOfEscaped() const;
+  std::size_t endOfDollars() const;
   Token take(Token::Kind kind, std::size_t end);
 
   StringView statement_;
   std::size_t at_ = 0;
   int depth_ = 0;
 };
+
+/// The table of an "INSERT INTO table ...", without quotes; empty for another statement.
+String insertedTable(StringView statement);
 
 /// An identifier in double quotes, those inside doubled.
 String quoted(StringView identifier);

@@ -2,6 +2,7 @@
 #include "ado/recordset.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "ado/cursor.h"
 #include "ado/raise.h"
@@ -207,8 +208,11 @@ void Recordset::Find(const sql::Text& criterion, int skipRecords, int direction,
   try {
     if (!criterion.valid()) raise(error::InvalidArgument);
     const Criterion comparisons(criterion.text(), cursor_->columns());
-    const int from = (start.isMissing() ? row_ : begin) + skipRecords * direction;
-    if (from >= 0 && hasRow(from)) found = cursor_->find(comparisons, from, direction, scratch_);
+    const std::int64_t from =
+        std::int64_t{start.isMissing() ? row_ : begin} + std::int64_t{skipRecords} * direction;
+    const bool inRange = from >= 0 && from < std::numeric_limits<int>::max();
+    if (inRange && hasRow(static_cast<int>(from)))
+      found = cursor_->find(comparisons, static_cast<int>(from), direction, scratch_);
   } catch (const RuntimeError& failure) {
     const bool unreadable =
         failure.number() == error::InvalidArgument || failure.number() == error::ProviderTypeMismatch;

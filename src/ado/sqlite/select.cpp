@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <limits>
 
 #include "ado/enums.h"
 #include "ado/select_text.h"
@@ -15,16 +17,19 @@ namespace {
 
 String asText(const char* utf8) { return utf8 ? fromUtf8(utf8) : String(); }
 
+/// No text is longer than this; a declaration that says more says nothing.
+constexpr std::int64_t NoLimit = std::numeric_limits<std::int32_t>::max();
+
 /// Type and size from a declaration such as "VARCHAR(30)".
 void readDeclaration(Column& column, const char* declaration) {
   std::string name;
-  int size = 0;
+  std::int64_t size = 0;
   bool inside = false;
   for (const char* at = declaration ? declaration : ""; *at; ++at) {
     if (*at == '(' || *at == ',') {
       inside = !inside && *at == '(';
     } else if (inside && ascii::isDigit(static_cast<unsigned char>(*at))) {
-      size = size * 10 + (*at - '0');
+      size = std::min(size * 10 + (*at - '0'), NoLimit);
     } else if (!inside && size == 0) {
       name += static_cast<char>(*at >= 'a' && *at <= 'z' ? *at - 32 : *at);
     }
@@ -37,8 +42,9 @@ void readDeclaration(Column& column, const char* declaration) {
   } else if (holds("DATE") || holds("TIME")) {
     column.type = adDBTimeStamp;
   } else if (holds("CHAR") || holds("TEXT") || holds("CLOB")) {
-    column.type = size > 0 ? adVarWChar : adLongVarWChar;
-    column.definedSize = size;
+    const bool limited = size > 0 && size < NoLimit;
+    column.type = limited ? adVarWChar : adLongVarWChar;
+    column.definedSize = limited ? static_cast<int>(size) : 0;
   } else if (holds("BIGINT")) {
     column.type = adBigInt;
   } else if (holds("SMALLINT") || holds("TINYINT")) {

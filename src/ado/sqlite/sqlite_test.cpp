@@ -239,6 +239,16 @@ TEST_F(SqliteTable, DeclaredTypesSayHowAValueReads) {
   EXPECT_EQ(rs->Fields(u"n").DefinedSize(), 0);
 }
 
+TEST_F(SqliteTable, ADeclaredSizeBeyondAnyTextIsNoLimit) {
+  execute(
+      u"CREATE TABLE Weit (a VARCHAR(99999999999999999999), b VARCHAR(2147483646), c NUMERIC(999999999999))");
+  const auto rs = open(connection, u"SELECT * FROM Weit", adLockReadOnly);
+  EXPECT_EQ(rs->Fields(u"a").DefinedSize(), 0);
+  EXPECT_EQ(rs->Fields(u"a").Type(), adLongVarWChar);
+  EXPECT_EQ(rs->Fields(u"b").DefinedSize(), 2147483646);
+  EXPECT_EQ(rs->Fields(u"c").Type(), adNumeric);
+}
+
 TEST_F(SqliteTable, ValuesAreStoredAsTheirColumnSays) {
   execute(u"CREATE TABLE T (k INTEGER PRIMARY KEY, b BIT, s SMALLINT, d DATE, g BIGINT, o)");
   const auto rs = open(connection, u"SELECT * FROM T", adLockOptimistic);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <limits>
+
 #include "testing/provider_suite/suite.h"
 
 namespace zqn::ado::suite {
@@ -215,6 +217,17 @@ TEST_P(RecordsetTest, FindDoesNotMeetRowsThatTheStatementLeavesOut) {
   const auto rs = open(u"SELECT Status FROM Vertriebsstati WHERE Status<>'-' ORDER BY Status");
   EXPECT_EQ(found(*rs, u"Status='-'"), u"EOF");
   EXPECT_EQ(rs->RecordCount(), 3);
+}
+
+TEST_P(RecordsetTest, FindBeyondAnyRowMeetsNone) {
+  const auto rs = list();
+  rs->MoveNext();
+  rs->Find(u"Status='10'", std::numeric_limits<int>::max());
+  EXPECT_TRUE(rs->IsEOF());
+  rs->MoveLast();
+  rs->Find(u"Status='10'", std::numeric_limits<int>::max(), adSearchBackward);
+  EXPECT_TRUE(rs->IsBOF());
+  EXPECT_EQ(find(*rs, u"Status='10'"), error::NoCurrentRecord);
 }
 
 }  // namespace zqn::ado::suite

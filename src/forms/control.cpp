@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "forms/control.h"
 
+#include <cmath>
+
 #include "forms/desktop.h"
 #include "forms/form.h"
 #include "forms/names.h"
 #include "runtime/convert.h"
 
 namespace zqn {
+
+namespace {
+
+/// A colour as the language writes it: as a 32-bit integer, which is negative for a system colour, or as the
+/// number itself. Error 6 beyond 32 bits.
+std::uint32_t colourOf(const Variant& value) {
+  const double number = std::nearbyint(CDbl(value));
+  if (!(number >= -0x1p31 && number < 0x1p32)) throw RuntimeError(error::Overflow);
+  return static_cast<std::uint32_t>(static_cast<std::int64_t>(number));
+}
+
+}  // namespace
 
 Control::Control(Form& form, const ControlDesign& design, int tabIndex)
     : form_(form),
@@ -138,9 +152,9 @@ const PropertyEntry* Control::findProperty(StringView name) const {
       {u"ToolTipText", [](const Control& c) { return Variant(c.ToolTipText()); },
        [](Control& c, const Variant& value) { c.ToolTipText(CStr(value)); }},
       {u"BackColor", [](const Control& c) { return Variant(double{1.0 * c.BackColor()}); },
-       [](Control& c, const Variant& value) { c.BackColor(static_cast<std::uint32_t>(CDbl(value))); }},
+       [](Control& c, const Variant& value) { c.BackColor(colourOf(value)); }},
       {u"ForeColor", [](const Control& c) { return Variant(double{1.0 * c.ForeColor()}); },
-       [](Control& c, const Variant& value) { c.ForeColor(static_cast<std::uint32_t>(CDbl(value))); }},
+       [](Control& c, const Variant& value) { c.ForeColor(colourOf(value)); }},
   };
   return findIn(entries, name);
 }

@@ -65,6 +65,18 @@ TEST_F(Properties, EveryControlTellsItsPlaceAndState) {
   EXPECT_EQ(form.control(u"btnOK").Property(u"Cancel"), Variant(false));
 }
 
+TEST_F(Properties, AColourIsTheSameInEveryKindOfNumber) {
+  key.Property(u"BackColor", -2147483643);
+  EXPECT_EQ(key.BackColor(), 0x80000005);
+  key.Property(u"BackColor", 2147483656.0);
+  EXPECT_EQ(key.BackColor(), 0x80000008);
+  key.Property(u"ForeColor", u"255");
+  EXPECT_EQ(key.ForeColor(), 255u);
+  for (const double beyond : {4294967296.0, -2147483649.0, 1e300})
+    EXPECT_EQ(errorNumberOf([&] { key.Property(u"BackColor", beyond); }), error::Overflow);
+  EXPECT_EQ(key.BackColor(), 0x80000008);
+}
+
 TEST_F(Properties, AreAssignedWithTheEventsOfTheAssignment) {
   watchChange(key);
   watchClicks(form);

@@ -432,7 +432,8 @@ class Unexpected(ServerTest):
 
 @postgresql
 class NarrowEncoding(ServerTest):
-    FINDING = "zqn-dialog: the database has the encoding LATIN1, which cannot hold every character; UTF8 would be right"
+    FINDING = ("zqn-dialog: the database has the encoding LATIN1, which cannot hold every character; make another one "
+               "with CREATE DATABASE name ENCODING 'UTF8' TEMPLATE template0, and copy the tables with pg_dump and psql")
 
     def setUp(self):
         super().setUp()

@@ -119,6 +119,15 @@ std::string tooNarrow(const String& set, const std::string& right) {
   return toUtf8(set) + ", which cannot hold every character; " + right + " would be right";
 }
 
+/// PostgreSQL changes the encoding of no database.
+std::string wrongEncoding(const String& encoding) {
+  const StringView why = encoding == u"SQL_ASCII" ? u", which takes bytes of any encoding for text"
+                                                  : u", which cannot hold every character";
+  return toUtf8(encoding + String(why)) +
+         "; make another one with CREATE DATABASE name ENCODING 'UTF8' TEMPLATE template0, and copy the "
+         "tables with pg_dump and psql";
+}
+
 /// "COLLATE ..." as the text columns of the system say it.
 std::string rightCollation(DatabaseProduct product) {
   const std::string type = toUtf8(columnType({.name = {}, .length = 1}, product));
@@ -199,7 +208,7 @@ std::vector<std::string> findings(const ServerSchema& schema) {
   const TablesOnServer present(schema);
   std::vector<std::string> findings;
   if (!schema.narrow.empty())
-    findings.push_back("the database has the encoding " + tooNarrow(schema.narrow, "UTF8"));
+    findings.push_back("the database has the encoding " + wrongEncoding(schema.narrow));
   for (const Table& table : tables()) {
     if (const auto* columns = present.find(table.name)) {
       addColumnFindings(table, *columns, schema.product, findings);

@@ -158,8 +158,13 @@ TEST(AnEncoding, ThatCannotHoldEveryTextIsTold) {
   schema.narrow = u"LATIN1";
   EXPECT_THAT(
       findings(schema),
-      ElementsAre("the database has the encoding LATIN1, which cannot hold every character; UTF8 would be "
-                  "right"));
+      ElementsAre("the database has the encoding LATIN1, which cannot hold every character; make another "
+                  "one with CREATE DATABASE name ENCODING 'UTF8' TEMPLATE template0, and copy the tables "
+                  "with pg_dump and psql"));
+  schema.narrow = u"SQL_ASCII";
+  EXPECT_THAT(findings(schema), ElementsAre(testing::StartsWith(
+                                    "the database has the encoding SQL_ASCII, which takes bytes of any "
+                                    "encoding for text; make another one with CREATE DATABASE")));
 }
 
 TEST(TextColumns, ThatCannotHoldEveryTextAreToldOnceForATable) {

@@ -38,9 +38,9 @@ class Cursor {
 
   /// The row has been written with these values, one a column, Empty for those that were left alone.
   virtual void updated(int row, const std::vector<Variant>& values) = 0;
-  /// A row has been inserted with these values, as above; it is the last one from now on. All rows were known
-  /// before.
-  virtual void inserted(const std::vector<Variant>& values) = 0;
+  /// A row has been inserted with these values, as above, and its statement returned `returned`; it is the last
+  /// one from now on. All rows were known before.
+  virtual void inserted(const std::vector<Variant>& values, const RowView& returned) = 0;
 
  protected:
   /// find, row by row.

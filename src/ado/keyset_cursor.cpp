@@ -11,6 +11,8 @@ namespace zqn::ado {
 namespace {
 constexpr int FirstKeys = 64;
 constexpr int KeysPerBatch = 1024;
+/// A new row whose key the database does not tell: it has its place, but nothing of it can be read.
+constexpr RowHandle Untold = std::numeric_limits<RowHandle>::min();
 }  // namespace
 
 KeysetCursor::KeysetCursor(Provider& provider, StringView statement, std::unique_ptr<Keyset> keyset)
@@ -57,7 +59,8 @@ RowView KeysetCursor::row(int row, RowStore& buffer) {
     return {&buffer, 0};
   }
   buffer.clear(static_cast<int>(columns_->size()));
-  const bool there = keyset().readRow(handles_[static_cast<std::size_t>(row)], buffer);
+  const RowHandle handle = handles_[static_cast<std::size_t>(row)];
+  const bool there = handle != Untold && keyset().readRow(handle, buffer);
   return there ? RowView{&buffer, 0} : RowView{};
 }
 
@@ -119,9 +122,9 @@ void KeysetCursor::updated(int row, const std::vector<Variant>& values) {
   if (keyset_) keyset_->written(handles_[static_cast<std::size_t>(row)], values);
 }
 
-void KeysetCursor::inserted(const std::vector<Variant>& values) {
+void KeysetCursor::inserted(const std::vector<Variant>& values, const RowView& returned) {
   first_.clear(0);
-  if (const auto handle = keyset().inserted(values)) handles_.push_back(*handle);
+  handles_.push_back(keyset().inserted(values, returned).value_or(Untold));
 }
 
 }  // namespace zqn::ado

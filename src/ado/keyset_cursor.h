@@ -30,7 +30,7 @@ class KeysetCursor : public Cursor {
   bool readsRows() const noexcept override { return true; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;
-  void inserted(const std::vector<Variant>& values) override;
+  void inserted(const std::vector<Variant>& values, const RowView& returned) override;
 
  private:
   Keyset& keyset();

@@ -87,8 +87,9 @@ class Keyset {
   /// The handle of a row that a Keyed statement of the same SELECT has read.
   virtual RowHandle handleOf(const RowView& row) = 0;
   /// This connection has inserted a row with these values, one a column, Empty for those that were left to
-  /// the database; nothing else has run since. Its handle, where it can be told.
-  virtual std::optional<RowHandle> inserted(const std::vector<Variant>& values) = 0;
+  /// the database; nothing else has run since. `returned` is the row that the Insert statement gave, empty when
+  /// it gave none. The new row's handle, where it can be told.
+  virtual std::optional<RowHandle> inserted(const std::vector<Variant>& values, const RowView& returned) = 0;
   /// This connection has written these values into a row, Empty for those that were left alone: the handle
   /// goes on naming it, whatever its key is now.
   virtual void written(RowHandle row, const std::vector<Variant>& values) = 0;
@@ -107,6 +108,9 @@ enum class Purpose {
   /// The rows must be found again: add what identifies a row and is not among the statement's own columns, as
   /// hidden columns.
   Keyed,
+  /// An INSERT of one row: let it return what tells the row from all others, as the database has written it,
+  /// if it can. Its Keyset is given that.
+  Insert,
 };
 
 /// One database, open for as long as this lives.

@@ -125,9 +125,19 @@ void Recordset::insertRow() {
   }
   String text = u"INSERT INTO " + provider.quoted(tableOf(columns));
   text += names.empty() ? u" DEFAULT VALUES" : u" (" + names + u") VALUES (" + marks + u")";
-  const RunningStatement run(connection_->statement(text, Purpose::Plain), parameters);
-
-  cursor_->inserted(assigned_);
+  RowStore returned;
+  {
+    Statement& insert = connection_->statement(text, Purpose::Insert);
+    const RunningStatement run(insert, parameters);
+    returned.clear(static_cast<int>(insert.columns()->size()));
+    try {
+      if (returned.columns() > 0) insert.fetch(returned, 1);
+    } catch (const RuntimeError&) {
+      // The row is written: another attempt would write it twice.
+      returned.clear(0);
+    }
+  }
+  cursor_->inserted(assigned_, returned.rows() > 0 ? RowView{&returned, 0} : RowView{});
   endEdit();
   goTo(cursor_->knownRows() - 1);
 }

@@ -93,10 +93,10 @@ void SnapshotCursor::updated(int row, const std::vector<Variant>& values) {
   }
 }
 
-void SnapshotCursor::inserted(const std::vector<Variant>& values) {
+void SnapshotCursor::inserted(const std::vector<Variant>& values, const RowView& returned) {
   indexes_.clear();
   if (!reader_) reader_ = connection_.provider().keyset(statement_, columns_);
-  if (reader_) unread_ = reader_->inserted(values);
+  if (reader_) unread_ = reader_->inserted(values, returned);
   for (std::size_t column = 0; column < columns_->size(); ++column) {
     rows_.add(column < values.size() ? storedAs(values[column]) : Value{});
   }

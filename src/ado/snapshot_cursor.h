@@ -28,7 +28,7 @@ class SnapshotCursor : public Cursor {
   bool readsRows() const noexcept override { return false; }
   int find(const Criterion& criterion, int from, int direction, RowStore& buffer) override;
   void updated(int row, const std::vector<Variant>& values) override;
-  void inserted(const std::vector<Variant>& values) override;
+  void inserted(const std::vector<Variant>& values, const RowView& returned) override;
 
  private:
   const ValueIndex& index(int column);

@@ -6,7 +6,8 @@ namespace zqn::ado {
 Statement& StatementCache::get(Provider& provider, StringView text, Purpose purpose) {
   String key;
   key.reserve(text.size() + 1);
-  key.append(1, purpose == Purpose::Keyed ? u'K' : u'P').append(text);
+  constexpr StringView letters = u"PKI";
+  key.append(1, letters[static_cast<std::size_t>(purpose)]).append(text);
   if (const auto known = byKey_.find(key); known != byKey_.end()) {
     entries_.splice(entries_.begin(), entries_, known->second);
     return *entries_.front().statement;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ado/odbc/odbc.h"
+
 namespace zqn::ado::odbc {
 
 static bool operator==(const ConnectionPair& left, const ConnectionPair& right) {
@@ -90,6 +92,18 @@ TEST(ConnectionString, APasswordIsNotShown) {
 
 TEST(ConnectionString, NorTheRestOfAPasswordThatLacksItsBraces) {
   EXPECT_EQ(withoutPassword(u"PWD=ge;heim;weiter;UID=anna;rest"), u"PWD=***;***;***;UID=anna;rest");
+}
+
+TEST(ConnectionString, ThatIsTooLongForOdbcIsRefused) {
+  const String text = u"Driver={Gibt es nicht};Comment=" + String(40000, u'x');
+  try {
+    openOdbc(text);
+    FAIL();
+  } catch (const RuntimeError& failure) {
+    EXPECT_EQ(failure.number(), error::ProviderFailure);
+    EXPECT_NE(failure.description().find(u"40031 Zeichen statt höchstens 32767"), String::npos)
+        << failure.what();
+  }
 }
 
 }  // namespace

@@ -4,15 +4,26 @@
 // is not there is taken at its word (standard SQL).
 #pragma once
 
+#include <climits>
+#include <compare>
 #include <vector>
 
 #include "runtime/string.h"
 
 namespace zqn::ado::odbc {
 
+struct Version {
+  int major = 0, minor = 0;
+  auto operator<=>(const Version&) const = default;
+  /// As drivers write it: "10.11.000019" is 10.11.
+  static Version of(StringView text);
+};
+
 struct Dialect {
   /// As the driver reports it.
   StringView product;
+  /// Holds from this version on; a product has its rows from the newest to the oldest.
+  Version since = {};
   /// Keys that the driver must be given, appended to a connection string that does not have them.
   std::vector<std::pair<StringView, StringView>> connection = {};
   /// Run on each new connection.
@@ -44,14 +55,27 @@ struct Dialect {
   /// BEGIN, and an INSERT without values, as the server writes them.
   StringView begin = u"BEGIN";
   StringView defaultValues = u"DEFAULT VALUES";
-  /// The number that the last INSERT of this connection got; empty where there is no such thing.
-  StringView lastNumber = {};
+  /// An INSERT may end in RETURNING and the columns of its key.
+  bool returns = false;
+  /// Where it may not: a statement in the same batch, with the number that the INSERT has counted. Nothing
+  /// that a trigger inserts changes it.
+  StringView numberInBatch = {};
+  /// Where neither goes: what asks for the number behind the INSERT, and what forgets an older one before it.
+  StringView lastNumber = {}, forgetNumber = {};
+  /// The key of the connection string that says which size a column gets whose longest text the driver does
+  /// not know.
+  StringView madeUpSize = {};
+  /// The driver reads on in any row of a block of rows.
+  bool readsOnInBlocks = false;
+  /// What asks for the tables, the columns and the key of the table `?`, in the columns of SQLTables, SQLColumns
+  /// and SQLPrimaryKeys; empty where the driver is asked by those.
+  StringView tables = {}, columns = {}, primaryKey = {};
   /// Begins a transaction that shows one state of the database and writes nothing; empty where a list reads
   /// all its keys at once.
   std::vector<StringView> snapshot = {};
 };
 
 /// The row for a product; never fails.
-const Dialect& dialectOf(StringView product);
+const Dialect& dialectOf(StringView product, Version version = {INT_MAX, 0});
 
 }  // namespace zqn::ado::odbc

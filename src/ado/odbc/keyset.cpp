@@ -154,9 +154,14 @@ RowHandle OdbcKeyset::handleOf(const RowView& row) {
   return keys_.add(key);
 }
 
-std::optional<RowHandle> OdbcKeyset::inserted(const std::vector<Variant>& values) {
+std::optional<RowHandle> OdbcKeyset::inserted(const std::vector<Variant>& values, const RowView& returned) {
+  const Dialect& dialect = server_->dialect();
   std::vector<Value> key;
-  RowStore given(1);
+  if (returned && dialect.returns) {
+    for (std::size_t i = 0; i < keyColumns_.size(); ++i) key.push_back(returned.at(static_cast<int>(i)));
+    return keys_.add(key);
+  }
+  RowStore counted(1);
   for (const int column : keyColumns_) {
     const auto place = static_cast<std::size_t>(column);
     if (place < values.size() && !values[place].isEmpty()) {
@@ -164,19 +169,30 @@ std::optional<RowHandle> OdbcKeyset::inserted(const std::vector<Variant>& values
       continue;
     }
     // The database has counted: one column can be told.
-    if (given.rows() > 0 || server_->dialect().lastNumber.empty()) return {};
-    try {
-      Query& last = server_->kept(String(server_->dialect().lastNumber));
-      last.open();
-      last.fetch(given, 1);
-      last.close();
-    } catch (const RuntimeError&) {
-      return {};
+    if (counted.rows() > 0) return {};
+    if (returned) {
+      counted.addRow(returned);
+    } else if (!dialect.lastNumber.empty()) {
+      askForNumber(counted);
     }
-    if (given.rows() == 0) return {};
-    key.push_back(given.at(0, 0));
+    if (counted.rows() == 0) return {};
+    const Value number = counted.at(0, 0);
+    if (number.kind == Value::Kind::Null || (number.kind == Value::Kind::Integer && number.integer == 0))
+      return {};
+    key.push_back(number);
   }
   return keys_.add(key);
+}
+
+void OdbcKeyset::askForNumber(RowStore& counted) {
+  try {
+    Query& last = server_->kept(String(server_->dialect().lastNumber));
+    last.open();
+    last.fetch(counted, 1);
+    last.close();
+  } catch (const RuntimeError&) {
+    // The row is written; which one it is cannot be told.
+  }
 }
 
 void OdbcKeyset::written(RowHandle row, const std::vector<Variant>& values) {

@@ -20,7 +20,7 @@ class OdbcKeyset : public Keyset {
   std::shared_ptr<const Columns> columns() const override { return columns_; }
   bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) override;
   RowHandle handleOf(const RowView& row) override;
-  std::optional<RowHandle> inserted(const std::vector<Variant>& values) override;
+  std::optional<RowHandle> inserted(const std::vector<Variant>& values, const RowView& returned) override;
   void written(RowHandle row, const std::vector<Variant>& values) override;
   bool readRow(RowHandle row, RowStore& rows) override;
   std::optional<std::vector<RowHandle>> rowsWhere(std::span<const ColumnEquals> comparisons) override;
@@ -28,6 +28,8 @@ class OdbcKeyset : public Keyset {
  private:
   OdbcKeyset(std::shared_ptr<Server> server, KeyedSelect select, std::shared_ptr<const Columns> columns);
 
+  /// Adds the number that the last INSERT has counted, where the server tells it.
+  void askForNumber(RowStore& counted);
   void begin();
   /// Takes the second connection; false where it cannot be had.
   bool beginSnapshot();

@@ -3,10 +3,13 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 #include "ado/odbc/connection_string.h"
 #include "ado/odbc/wide.h"
 #include "runtime/ascii.h"
+#include "runtime/convert.h"
+#include "runtime/digits.h"
 
 #ifdef ZQN_SANITIZE
 /// The driver of PostgreSQL keeps some memory for the life of the process.
@@ -21,6 +24,9 @@ extern "C" const char* __lsan_default_options() {  // NOLINT(bugprone-reserved-i
 namespace zqn::ado::odbc {
 
 namespace {
+
+/// What ODBC can be told.
+constexpr std::size_t LongestConnectionString = std::numeric_limits<SQLSMALLINT>::max();
 
 /// Empty when it is refused; the reason stands on the parent then.
 Handle allocate(SQLSMALLINT kind, SQLHANDLE parent) {
@@ -54,14 +60,23 @@ SQLHENV environment() {
 
 Link::Link(String connectionString, std::chrono::seconds loginTimeout)
     : connectionString_(std::move(connectionString)), loginTimeout_(loginTimeout) {
-  product_ = connectOnce(connectionString_);
-  dialect_ = &dialectOf(product_);
+  connectOnce(connectionString_);
+  product_ = told(SQL_DBMS_NAME);
+  dialect_ = &dialectOf(product_, Version::of(told(SQL_DBMS_VER)));
   connectionString_ = completed(connectionString_, *dialect_);
+  if (!dialect_->madeUpSize.empty())
+    madeUpSize_ = static_cast<SQLULEN>(
+        std::clamp(Val(connectionValue(connectionString_, dialect_->madeUpSize)), 0.0, 0x1p31));
   connect();
 }
 
-String Link::connectOnce(const String& connectionString) {
+void Link::connectOnce(const String& connectionString) {
   connection_.reset();
+  if (connectionString.size() > LongestConnectionString)
+    throw RuntimeError(error::ProviderFailure,
+                       u"Die Verbindungszeichenfolge ist zu lang: " + digits(connectionString.size()) +
+                           u" Zeichen statt höchstens " + digits(LongestConnectionString) + u".",
+                       product_);
   Handle connection = allocate(SQL_HANDLE_DBC, environment());
   SQLSetConnectAttrW(connection.get(), SQL_ATTR_LOGIN_TIMEOUT,
                      reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(loginTimeout_.count())), 0);
@@ -70,11 +85,15 @@ String Link::connectOnce(const String& connectionString) {
                                              nullptr, SQL_DRIVER_NOPROMPT);
   if (!SQL_SUCCEEDED(result)) throw failure(diagnosticOf(SQL_HANDLE_DBC, connection.get()));
   connection_ = std::move(connection);
+}
 
-  std::array<SQLWCHAR, 128> product = {};
+String Link::told(SQLUSMALLINT what) {
+  std::array<SQLWCHAR, 128> text = {};
   SQLSMALLINT bytes = 0;
-  SQLGetInfoW(connection_.get(), SQL_DBMS_NAME, product.data(), sizeof product, &bytes);
-  return String(asText(product.data()), static_cast<std::size_t>(bytes) / sizeof(SQLWCHAR));
+  if (!SQL_SUCCEEDED(SQLGetInfoW(connection_.get(), what, text.data(), sizeof text, &bytes)))
+    throw failure(diagnosticOf(SQL_HANDLE_DBC, connection_.get()));
+  text.back() = 0;
+  return asText(text.data());
 }
 
 void Link::connect() {
@@ -112,7 +131,15 @@ RuntimeError Link::failure(const Handle& statement) {
 RuntimeError Link::failure(const Diagnostic& diagnostic) {
   const std::int32_t number = errorNumber(diagnostic);
   dropped_ = dropped_ || isDrop(diagnostic) || (number == error::ProviderFailure && isDead());
+  gaveUp_ = gaveUp_ || number == error::RowConflict;
   return RuntimeError(number, diagnostic.text, product_);
+}
+
+void Link::requireAlive() {
+  if (!isDead()) return;
+  dropped_ = true;
+  throw RuntimeError(error::ProviderFailure, u"Die Verbindung zur Datenbank ist verloren gegangen.",
+                     product_);
 }
 
 // A drop that a prepared statement meets has no state of its own in PostgreSQL's driver.

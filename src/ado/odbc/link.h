@@ -36,11 +36,21 @@ class Link {
   /// The product's name as the driver reports it: the source of errors.
   const String& product() const noexcept { return product_; }
 
+  /// The size that the driver makes up for a column whose longest text it does not know; 0 for none.
+  SQLULEN madeUpSize() const noexcept { return madeUpSize_; }
+
   /// A new statement handle; connects again first when the connection has dropped.
   Handle statement();
   /// Counts the connections: a statement handle belongs to one of them.
   int generation() const noexcept { return generation_; }
   bool dropped() const noexcept { return dropped_; }
+  /// The server has given up a transaction on this connection by itself (a deadlock, a conflict) since
+  /// `beganTransaction`.
+  bool gaveUp() const noexcept { return gaveUp_; }
+  void beganTransaction() noexcept { gaveUp_ = false; }
+  /// Raises the drop when the connection has gone without a call that said so: what a driver has told since
+  /// then may be half of it.
+  void requireAlive();
 
   /// Runs a statement of which the result does not matter. Not translated.
   void run(StringView statement);
@@ -50,7 +60,9 @@ class Link {
 
  private:
   void connect();
-  String connectOnce(const String& connectionString);
+  void connectOnce(const String& connectionString);
+  /// A text that the driver tells of the connection.
+  String told(SQLUSMALLINT what);
   bool isDead() const noexcept;
 
   String connectionString_;
@@ -58,8 +70,10 @@ class Link {
   std::shared_ptr<void> connection_;
   const Dialect* dialect_ = nullptr;
   String product_ = u"ODBC";
+  SQLULEN madeUpSize_ = 0;
   int generation_ = 0;
   bool dropped_ = true;
+  bool gaveUp_ = false;
 };
 
 /// The driver manager's handle of this process.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
 
 #include "ado/enums.h"
 #include "ado/odbc/server.h"
@@ -15,6 +16,8 @@ namespace {
 
 /// Longest text that is read in blocks, in characters; a longer one, or one without a limit, comes alone.
 constexpr SQLULEN LongestInBlock = 1000;
+/// Room in a block for a text of a column without a declared size, in characters.
+constexpr SQLULEN UsualText = 100;
 constexpr std::size_t BlockBytes = std::size_t{8} * 1024;
 constexpr std::size_t LargestBlock = 1000;
 /// A text beyond it is sent as a long one.
@@ -58,8 +61,8 @@ int typeOf(SQLSMALLINT type, const Dialect& dialect) {
 
 }  // namespace
 
-Query::Query(Server& server, Link& link, StringView text)
-    : server_(server), link_(link), text_(wellFormed(text)) {}
+Query::Query(Server& server, Link& link, StringView text, Rows from)
+    : server_(server), link_(link), text_(wellFormed(text)), from_(from) {}
 
 void Query::fail() {
   const RuntimeError error = link_.failure(handle_);
@@ -177,6 +180,17 @@ void Query::execute(bool prepared) {
   SQLLEN rows = 0;
   SQLRowCount(handle_.get(), &rows);
   rowsAffected_ = result == SQL_NO_DATA ? 0 : rows;
+  if (from_ == Rows::BehindStatement) goToRows();
+}
+
+void Query::goToRows() {
+  for (SQLSMALLINT count = 0;;) {
+    if (!SQL_SUCCEEDED(SQLNumResultCols(handle_.get(), &count))) fail();
+    if (count > 0) return;
+    const SQLRETURN result = SQLMoreResults(handle_.get());
+    if (result == SQL_NO_DATA) return;
+    if (!SQL_SUCCEEDED(result)) fail();
+  }
 }
 
 void Query::readDescription() {
@@ -206,13 +220,27 @@ void Query::readDescription() {
     if (!column.baseTable.empty()) column.baseColumn = attribute(SQL_DESC_BASE_COLUMN_NAME);
     const bool stored = !column.baseColumn.empty();
     column.type = stored ? typeOf(type, link_.dialect()) : adVariant;
-    if (column.type == adVarWChar) column.definedSize = static_cast<int>(size);
-    sources_.push_back(sourceOf(type, size, stored));
+    SQLULEN room = size;
+    if (column.type == adVarWChar) {
+      column.definedSize = declaredSize(size);
+      const bool guessed = column.definedSize == 0;
+      if (guessed) column.type = adLongVarWChar;
+      // Most texts are short; the driver reads on where one is not.
+      if (guessed && link_.dialect().readsOnInBlocks) room = UsualText;
+    }
+    sources_.push_back(sourceOf(type, room, stored));
     columns_.push_back(std::move(column));
   }
+  // Some drivers ask the server for tables and columns on the way, and give nothing when that fails.
+  link_.requireAlive();
   if (count > 0) bindColumns();
   described_ = true;
   ++descriptions_;
+}
+
+int Query::declaredSize(SQLULEN told) const {
+  const bool declared = told != link_.madeUpSize() && told < static_cast<SQLULEN>(INT_MAX);
+  return declared ? static_cast<int>(told) : 0;
 }
 
 Query::Source Query::sourceOf(SQLSMALLINT type, SQLULEN size, bool stored) const {
@@ -230,7 +258,7 @@ Query::Source Query::sourceOf(SQLSMALLINT type, SQLULEN size, bool stored) const
   }
   const bool utf8 = link_.dialect().utf8Texts;
   // The size that a driver names for an expression is a guess.
-  const bool block = isText(type) && stored && size > 0 && size <= LongestInBlock;
+  const bool block = isText(type) && stored && size > 0 && size <= LongestInBlock && !inPieces_;
   const std::size_t width = utf8 ? size * 4 + 1 : (size * 2 + 1) * sizeof(char16_t);
   return {static_cast<SQLSMALLINT>(utf8 ? SQL_C_CHAR : SQL_C_WCHAR), block ? width : 0, {}, {}};
 }
@@ -241,6 +269,7 @@ void Query::bindColumns() {
   for (; bound_ < sources_.size() && sources_[bound_].width > 0; ++bound_) width += sources_[bound_].width;
   const bool inBlocks = bound_ == sources_.size();
   const std::size_t rows = inBlocks ? std::clamp<std::size_t>(BlockBytes / width, 1, LargestBlock) : 1;
+  block_ = rows;
   SQLFreeStmt(handle_.get(), SQL_UNBIND);
   SQLSetStmtAttrW(handle_.get(), SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(rows), 0);
   SQLSetStmtAttrW(handle_.get(), SQL_ATTR_ROWS_FETCHED_PTR, &blockRows_, 0);
@@ -290,10 +319,34 @@ void Query::deliver(RowStore& rows, std::size_t row) {
       rows.addInteger(*reinterpret_cast<const std::int64_t*>(value));
     } else if (source.type == SQL_C_DOUBLE) {
       rows.addReal(*reinterpret_cast<const double*>(value));
-    } else {
+    } else if (length >= 0 && static_cast<std::size_t>(length) <= source.width - endSize()) {
       addText(rows, value, static_cast<std::size_t>(length));
+    } else {
+      readOn(rows, i, row);
     }
   }
+}
+
+std::size_t Query::endSize() const noexcept { return link_.dialect().utf8Texts ? 1 : sizeof(char16_t); }
+
+void Query::readOn(RowStore& rows, std::size_t column, std::size_t row) {
+  const Source& source = sources_[column];
+  const SQLLEN length = source.lengths[row];
+  const bool placed =
+      block_ == 1 || (link_.dialect().readsOnInBlocks &&
+                      SQL_SUCCEEDED(SQLSetPos(handle_.get(), static_cast<SQLSETPOSIROW>(row + 1),
+                                              SQL_POSITION, SQL_LOCK_NO_CHANGE)));
+  const auto text = placed ? pieces(column) : std::nullopt;
+  const bool whole = text && (length < 0 || text->size() == static_cast<std::size_t>(length));
+  if (whole) return addText(rows, text->data(), text->size());
+  const String name = columns_[column].name;
+  inPieces_ = true;
+  close();
+  handle_.reset();
+  throw RuntimeError(error::ProviderFailure,
+                     u"Ein Text der Spalte \"" + name +
+                         u"\" ist länger, als sie beim letzten Mal fasste. Bitte noch einmal lesen.",
+                     link_.product());
 }
 
 void Query::addText(RowStore& rows, const char* bytes, std::size_t length) const {
@@ -316,7 +369,16 @@ void Query::readPieces(RowStore& rows, std::size_t column) {
     if (length != SQL_NULL_DATA) value.kind = whole ? Value::Kind::Integer : Value::Kind::Real;
     return rows.add(value);
   }
-  const std::size_t end = link_.dialect().utf8Texts ? 1 : sizeof(char16_t);
+  const auto text = pieces(column);
+  if (!text) return rows.addNull();
+  addText(rows, text->data(), text->size());
+}
+
+std::optional<std::vector<char>> Query::pieces(std::size_t column) {
+  const Source& source = sources_[column];
+  const auto number = static_cast<SQLUSMALLINT>(column + 1);
+  SQLLEN length = 0;
+  const std::size_t end = endSize();
   std::vector<char> text;
   std::vector<char> piece(BlockBytes);
   for (;;) {
@@ -324,14 +386,14 @@ void Query::readPieces(RowStore& rows, std::size_t column) {
                                         static_cast<SQLLEN>(piece.size()), &length);
     if (result == SQL_NO_DATA) break;
     if (!SQL_SUCCEEDED(result)) fail();
-    if (length == SQL_NULL_DATA) return rows.addNull();
+    if (length == SQL_NULL_DATA) return std::nullopt;
     const std::size_t room = piece.size() - end;
-    const bool more = length == SQL_NO_TOTAL || static_cast<std::size_t>(length) > room;
+    const bool more = length < 0 || static_cast<std::size_t>(length) > room;
     text.insert(text.end(), piece.begin(),
                 piece.begin() + static_cast<std::ptrdiff_t>(more ? room : static_cast<std::size_t>(length)));
     if (!more) break;
   }
-  addText(rows, text.data(), text.size());
+  return text;
 }
 
 void Query::close() noexcept {

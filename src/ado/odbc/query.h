@@ -8,6 +8,7 @@
 //     while (query.fetch(rows, 100)) ...
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -20,7 +21,13 @@ class Server;
 
 class Query {
  public:
-  Query(Server& server, Link& link, StringView text);
+  /// Where its rows come from: the statement, or another one that follows it in the same batch.
+  enum class Rows { OfStatement, BehindStatement };
+
+  Query(Server& server, Link& link, StringView text, Rows from = Rows::OfStatement);
+  // The driver writes to places inside.
+  Query(const Query&) = delete;
+  Query& operator=(const Query&) = delete;
 
   /// Prepares it without running it: the server says what columns there will be.
   void describe();
@@ -55,13 +62,24 @@ class Query {
   bool advance();
   void deliver(RowStore& rows, std::size_t row);
   void readPieces(RowStore& rows, std::size_t column);
+  /// The bytes of a text that SQLGetData gives for the row that it stands on; no value for Null.
+  std::optional<std::vector<char>> pieces(std::size_t column);
+  /// A text that the driver has cut to the buffer: all of it. Error -2147467259 where the driver cannot do that;
+  /// the next run reads such texts piece by piece.
+  void readOn(RowStore& rows, std::size_t column, std::size_t row);
+  std::size_t endSize() const noexcept;
+  /// Characters that a text of this column can have at most; 0 where nobody says so.
+  int declaredSize(SQLULEN told) const;
   void addText(RowStore& rows, const char* bytes, std::size_t length) const;
   Source sourceOf(SQLSMALLINT type, SQLULEN size, bool stored) const;
+  void goToRows();
   [[noreturn]] void fail();
 
   Server& server_;
   Link& link_;
   String text_;
+  Rows from_;
+  bool inPieces_ = false;  // a text has been longer than its column's size
   Handle handle_;
   int generation_ = 0;
   bool prepared_ = false;
@@ -69,6 +87,7 @@ class Query {
   int descriptions_ = 0;
   Columns columns_;
   std::vector<Source> sources_;
+  std::size_t block_ = 1;  // rows that one fetch brings at most
   std::size_t bound_ = 0;  // columns in front that the driver writes by itself
   std::int64_t rowsAffected_ = 0;
 

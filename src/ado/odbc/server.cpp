@@ -43,25 +43,48 @@ void Server::forgetTables() noexcept {
 }
 
 bool Server::mayRun(const Translation& statement) {
-  if (!inTransaction_ || (!link_.dropped() && link_.generation() == begunOn_)) return true;
-  const bool ends = statement.effect == Effect::Commit || statement.effect == Effect::Rollback;
-  if (ends) inTransaction_ = false;
-  if (statement.effect == Effect::Rollback) return false;
+  if (!inTransaction_) return true;
+  const bool gone = link_.dropped() || link_.generation() != begunOn_;
+  if (!gone && !link_.gaveUp()) return true;
+  const bool commits = statement.effect == Effect::Commit;
+  const bool rollsBack = statement.effect == Effect::Rollback;
+  if (commits || rollsBack) inTransaction_ = false;
+  if (rollsBack) return !gone;
+  if (commits && !gone) link_.run(u"ROLLBACK");
   throw RuntimeError(error::ProviderFailure,
-                     u"Die Verbindung ist in einer Transaktion abgebrochen; von ihr ist nichts gespeichert.",
+                     gone ? u"Die Verbindung ist in einer Transaktion abgebrochen; was sie noch nicht "
+                            u"festgeschrieben hatte, ist nicht gespeichert."
+                          : u"Der Server hat die Transaktion von sich aus beendet; was sie noch nicht "
+                            u"festgeschrieben hatte, ist nicht gespeichert.",
                      link_.product());
 }
 
-void Server::ran(const Translation& statement, bool failed) {
-  if (statement.effect == Effect::Commit || statement.effect == Effect::Rollback) {
-    inTransaction_ = false;
-  } else if (statement.effect == Effect::Begin) {
-    if (failed || inTransaction_) return;
-    inTransaction_ = true;
-    begunOn_ = link_.generation();
-  } else if (statement.effect == Effect::Schema) {
-    forgetTables();
+void Server::ran(const Translation& statement, const RuntimeError* failure) {
+  const bool misread = failure && failure->number() == error::CommandText;
+  switch (statement.effect) {
+    case Effect::None:
+      break;
+    case Effect::Begin:
+      if (failure || inTransaction_) break;
+      inTransaction_ = true;
+      begunOn_ = link_.generation();
+      link_.beganTransaction();
+      break;
+    case Effect::Commit:
+    case Effect::Rollback:
+      // One that fails has ended it all the same, unless the server did not understand it.
+      inTransaction_ = inTransaction_ && misread;
+      break;
+    case Effect::Schema:
+      forgetTables();
   }
+}
+
+void Server::forgetNumber() {
+  if (dialect().forgetNumber.empty()) return;
+  Query& forget = kept(String(dialect().forgetNumber));
+  forget.open();
+  forget.close();
 }
 
 Query& Server::kept(const String& text) {

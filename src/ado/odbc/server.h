@@ -40,12 +40,17 @@ class Server {
   Translation translated(StringView statement);
 
   /// Before a statement that the caller has asked for. Error -2147467259 while the caller is inside a
-  /// transaction whose connection has dropped: only ROLLBACK (then false: there is nothing to run) and COMMIT
-  /// (an error once more) end it. So no half of a transaction is ever written.
+  /// transaction that is lost: its connection has dropped, or the server has given it up by itself. Only
+  /// ROLLBACK (false when there is nothing to run) and COMMIT (an error once more) end it; going back to a
+  /// savepoint does not. So no half of a transaction is ever written.
   bool mayRun(const Translation& statement);
-  /// The statement has run, or, `failed`, has not.
-  void ran(const Translation& statement, bool failed);
+  /// The statement has run, or has not, with this failure.
+  void ran(const Translation& statement, const RuntimeError* failure = nullptr);
   bool inTransaction() const noexcept { return inTransaction_; }
+
+  /// Before an INSERT, where the number that it counts is asked for behind it: an older one is never taken for
+  /// it.
+  void forgetNumber();
 
   /// A prepared statement of the provider's own, already in the server's words. Valid until the next call.
   Query& kept(const String& text);

@@ -10,12 +10,28 @@ OdbcStatement::OdbcStatement(std::shared_ptr<Server> server, StringView text, Pu
       text_(text),
       purpose_(purpose),
       translation_(server_->translated(text)),
-      query_(std::make_unique<Query>(*server_, server_->link(), translation_.text)) {}
+      query_(made()) {}
+
+std::unique_ptr<Query> OdbcStatement::made() const {
+  const Dialect& dialect = server_->dialect();
+  const auto query = [&](const String& text, Query::Rows rows = Query::Rows::OfStatement) {
+    return std::make_unique<Query>(*server_, server_->link(), text, rows);
+  };
+  if (purpose_ != Purpose::Insert) return query(translation_.text);
+  if (!dialect.numberInBatch.empty())
+    return query(translation_.text + String(dialect.numberInBatch), Query::Rows::BehindStatement);
+  const TableInfo* table = dialect.returns ? server_->tables().table(sql::insertedTable(text_)) : nullptr;
+  if (!table || table->key.empty()) return query(translation_.text);
+  String key;
+  for (const String& column : table->key) key += (key.empty() ? u"" : u", ") + sql::quoted(column);
+  return query(translation_.text + u"\nRETURNING " + key);
+}
 
 void OdbcStatement::open(std::span<const Value> parameters) {
   rowsAffected_ = 0;
   if (!server_->mayRun(translation_)) return;
   if (outdated_) renew();
+  if (purpose_ == Purpose::Insert) server_->forgetNumber();
   run(parameters);
   if (query_->descriptions() != description_) learnColumns(parameters);
   // A driver counts the rows of a SELECT, too.
@@ -26,18 +42,19 @@ void OdbcStatement::run(std::span<const Value> parameters) {
   try {
     query_->open(parameters);
   } catch (const RuntimeError& failure) {
-    server_->ran(translation_, true);
+    server_->ran(translation_, &failure);
     outdated_ = failure.number() == error::TableNotFound;
     if (outdated_) server_->forgetTables();
     throw;
   }
-  server_->ran(translation_, false);
+  server_->ran(translation_);
 }
 
 void OdbcStatement::renew() {
   translation_ = server_->translated(text_);
-  query_ = std::make_unique<Query>(*server_, server_->link(), translation_.text);
+  query_ = made();
   description_ = 0;
+  hidden_ = 0;
   outdated_ = false;
 }
 
@@ -48,12 +65,14 @@ void OdbcStatement::learnColumns(std::span<const Value> parameters) {
     const auto hidden = keyed ? keyed->missing(columns) : std::vector<String>();
     if (!hidden.empty()) {
       const Translation completed = server_->translated(keyed->withHidden(hidden));
+      auto query = std::make_unique<Query>(*server_, server_->link(), completed.text);
       query_->close();
-      query_ = std::make_unique<Query>(*server_, server_->link(), completed.text);
-      query_->open(parameters);
-      columns = query_->columns();
+      query->open(parameters);
+      columns = query->columns();
+      hidden_ = hidden.size();
+      query_ = std::move(query);
     }
-    if (keyed && !keyed->mark(columns, hidden.size())) {
+    if (keyed && !keyed->mark(columns, hidden_)) {
       for (Column& column : columns) column.key = false;
     }
   }

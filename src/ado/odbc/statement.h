@@ -19,6 +19,8 @@ class OdbcStatement : public Statement {
   std::int64_t rowsAffected() const override { return rowsAffected_; }
 
  private:
+  /// The statement as it is sent; an Insert with what makes it return its key.
+  std::unique_ptr<Query> made() const;
   void run(std::span<const Value> parameters);
   /// A table that was not there may be by now, under a name in another case, with a key.
   void renew();
@@ -30,8 +32,9 @@ class OdbcStatement : public Statement {
   Purpose purpose_;
   Translation translation_;
   std::unique_ptr<Query> query_;
-  bool outdated_ = false;  // translated while a table was missing
-  int description_ = 0;    // of the query, that `columns_` are made from
+  bool outdated_ = false;   // translated while a table was missing
+  std::size_t hidden_ = 0;  // columns of the query that its text did not have
+  int description_ = 0;     // of the query, that `columns_` are made from
   std::shared_ptr<const Columns> columns_ = std::make_shared<const Columns>();
   std::int64_t rowsAffected_ = 0;
 };

@@ -6,6 +6,7 @@
 
 #include "ado/odbc/wide.h"
 #include "runtime/collation.h"
+#include "runtime/convert.h"
 
 namespace zqn::ado::odbc {
 
@@ -19,6 +20,11 @@ class DriverRows {
   SQLHSTMT handle() const noexcept { return handle_.get(); }
   void require(SQLRETURN result) {
     if (!SQL_SUCCEEDED(result)) throw link_.failure(handle_);
+  }
+  void run(StringView statement) {
+    const SQLRETURN result =
+        SQLExecDirectW(handle_.get(), asWide(statement), static_cast<SQLINTEGER>(statement.size()));
+    if (result != SQL_NO_DATA) require(result);
   }
   bool next() {
     const SQLRETURN result = SQLFetch(handle_.get());
@@ -43,6 +49,11 @@ class DriverRows {
   Link& link_;
   Handle handle_;
 };
+
+/// The question about this table.
+String about(StringView question, StringView table) {
+  return Replace(question, u"?", u"'" + Replace(table, u"'", u"''") + u"'");
+}
 
 SQLSMALLINT length(StringView text) { return static_cast<SQLSMALLINT>(text.size()); }
 
@@ -70,10 +81,10 @@ const TableInfo* Tables::table(StringView asked) {
   auto found = std::ranges::find(all, asked, &Name::table);
   if (found == all.end())
     found = std::ranges::find_if(all, [&](const Name& one) { return sameName(one.table, asked); });
-  auto& place = known_[String(asked)];
-  if (found == all.end()) return nullptr;
-  place = read(*found);
-  return &*place;
+  // Only what has been read to its end is kept: a connection may drop on the way.
+  auto info = found == all.end() ? std::nullopt : std::optional(read(*found));
+  const auto& kept = known_[String(asked)] = std::move(info);
+  return kept ? &*kept : nullptr;
 }
 
 void Tables::forget() noexcept {
@@ -85,22 +96,33 @@ const std::vector<Tables::Name>& Tables::names() {
   if (names_) return *names_;
   DriverRows rows(link_);
   static constexpr StringView types = u"TABLE,VIEW";
-  rows.require(SQLTablesW(rows.handle(), nullptr, 0, nullptr, 0, nullptr, 0, asWide(types), length(types)));
+  const Dialect& dialect = link_.dialect();
+  if (!dialect.tables.empty()) {
+    rows.run(dialect.tables);
+  } else {
+    rows.require(SQLTablesW(rows.handle(), nullptr, 0, nullptr, 0, nullptr, 0, asWide(types), length(types)));
+  }
   std::vector<Name> names;
   while (rows.next()) {
     Name name{rows.text(2), rows.text(3)};
     if (name.schema != u"information_schema" && name.schema != u"INFORMATION_SCHEMA" && name.schema != u"sys")
       names.push_back(std::move(name));
   }
+  link_.requireAlive();
   return names_.emplace(std::move(names));
 }
 
 TableInfo Tables::read(const Name& name) {
+  const Dialect& dialect = link_.dialect();
   TableInfo table{name.table, {}, {}};
   {
     DriverRows rows(link_);
-    rows.require(SQLColumnsW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
-                             asWide(name.table), length(name.table), nullptr, 0));
+    if (!dialect.columns.empty()) {
+      rows.run(about(dialect.columns, name.table));
+    } else {
+      rows.require(SQLColumnsW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
+                               asWide(name.table), length(name.table), nullptr, 0));
+    }
     while (rows.next()) {
       // The name is taken for a pattern, in which an underscore stands for any character.
       if (rows.text(3) != name.table) continue;
@@ -109,14 +131,21 @@ TableInfo Tables::read(const Name& name) {
       table.columns.push_back({column, type == SQL_BIT, isNumber(type)});
     }
   }
+  link_.requireAlive();
   DriverRows rows(link_);
-  rows.require(SQLPrimaryKeysW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
-                               asWide(name.table), length(name.table)));
+  if (!dialect.primaryKey.empty()) {
+    rows.run(about(dialect.primaryKey, name.table));
+  } else {
+    rows.require(SQLPrimaryKeysW(rows.handle(), nullptr, 0, orAny(name.schema), length(name.schema),
+                                 asWide(name.table), length(name.table)));
+  }
   std::vector<std::pair<int, String>> key;
   while (rows.next()) {
+    if (rows.text(3) != name.table) continue;
     String column = rows.text(4);
     key.emplace_back(rows.number(5), std::move(column));
   }
+  link_.requireAlive();
   std::ranges::sort(key);
   for (auto& part : key) table.key.push_back(std::move(part.second));
   return table;

@@ -47,12 +47,30 @@ bool isOneOf(const Token& token, const std::array<StringView, N>& words) {
   return std::ranges::any_of(words, [&](StringView word) { return token.is(word); });
 }
 
-Effect effectOf(const Token& first) {
-  constexpr std::array<StringView, 2> begins = {u"BEGIN", u"START"};
+bool follow(const std::vector<Token>& tokens, StringView word, StringView next) {
+  for (std::size_t i = 0; i + 1 < tokens.size(); ++i)
+    if (tokens[i].is(word) && tokens[i + 1].is(next)) return true;
+  return false;
+}
+
+/// What a COMMIT or ROLLBACK does: one that goes back to a savepoint, or begins the next transaction at once,
+/// leaves the caller inside a transaction.
+Effect ending(const std::vector<Token>& tokens, Effect effect) {
+  const auto has = [&](StringView word) {
+    return std::ranges::any_of(tokens, [&](const Token& token) { return token.is(word); });
+  };
+  return has(u"TO") || has(u"PREPARED") || follow(tokens, u"AND", u"CHAIN") ? Effect::None : effect;
+}
+
+Effect effectOf(const std::vector<Token>& tokens) {
   constexpr std::array<StringView, 4> schema = {u"CREATE", u"ALTER", u"DROP", u"RENAME"};
-  if (isOneOf(first, begins)) return Effect::Begin;
-  if (first.is(u"COMMIT") || first.is(u"END")) return Effect::Commit;
-  if (first.is(u"ROLLBACK")) return Effect::Rollback;
+  const Token& first = tokens.front();
+  const Token second = tokens.size() > 1 ? tokens[1] : Token();
+  if (first.is(u"BEGIN") || (first.is(u"START") && second.is(u"TRANSACTION"))) return Effect::Begin;
+  if (first.is(u"COMMIT") || first.is(u"END")) return ending(tokens, Effect::Commit);
+  if (first.is(u"ROLLBACK") || first.is(u"ABORT")) return ending(tokens, Effect::Rollback);
+  // Its fate is settled elsewhere from here on.
+  if (first.is(u"PREPARE") && second.is(u"TRANSACTION")) return Effect::Commit;
   return isOneOf(first, schema) ? Effect::Schema : Effect::None;
 }
 
@@ -77,7 +95,7 @@ class Translator {
       : statement_(statement), dialect_(dialect), lookup_(lookup), tokens_(tokensOf(statement, dialect)) {}
 
   Translation run() {
-    const Effect effect = effectOf(tokens_.front());
+    const Effect effect = effectOf(tokens_);
     if (effect == Effect::Begin && tokens_.size() == 1) return {String(dialect_.begin), effect};
     findNames();
     conditions_ = !tokens_.front().is(u"UPDATE");
@@ -204,13 +222,15 @@ class Translator {
   /// A token by itself.
   void plain(std::size_t i) {
     const Token& token = tokens_[i];
+    // The name of a collation is no column, though one may be called the same.
+    if (i > 0 && tokens_[i - 1].is(u"COLLATE")) return;
     const bool table = isTable(i);
     const bool exactTable = table && (dialect_.exactTableNames || dialect_.lowerCaseNames);
     if (token.kind == Kind::Name) {
       replace(i, i, sql::quoted(stored(i, exactTable).value_or(token.unquoted())));
     } else if (exactTable && !dialect_.lowerCaseNames) {
       if (const auto name = stored(i, true)) replace(i, i, sql::quoted(*name));
-    } else if (token.kind == Kind::Literal && dialect_.nationalLiterals && isBeyondAscii(token.text)) {
+    } else if (token.isPlainLiteral() && dialect_.nationalLiterals && isBeyondAscii(token.text)) {
       replace(i, i, u"N" + String(token.text));
     } else if (token.is(u"LIKE") && !dialect_.like.empty()) {
       like(i);

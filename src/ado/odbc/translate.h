@@ -13,6 +13,8 @@ namespace zqn::ado::odbc {
 
 struct TableInfo;
 
+/// What a statement does besides: to the transaction that the caller has begun, or to the tables. Going back to
+/// a savepoint is None.
 enum class Effect { None, Begin, Commit, Rollback, Schema };
 
 /// A table by the name that a statement gives it, without quotes; nullptr when there is none.

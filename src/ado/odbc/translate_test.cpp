@@ -153,4 +153,38 @@ TEST(Translation, TellsWhatTheStatementDoes) {
   EXPECT_EQ(translation(u"DELETE FROM T", u"PostgreSQL").effect, Effect::None);
 }
 
+TEST(Translation, KnowsWhatEndsATransactionAndWhatDoesNot) {
+  for (const char16_t* statement : {u"ROLLBACK", u"rollback work", u"ABORT", u"ROLLBACK AND NO CHAIN"})
+    EXPECT_EQ(translation(statement, u"PostgreSQL").effect, Effect::Rollback) << toUtf8(statement);
+  for (const char16_t* statement : {u"COMMIT WORK", u"END", u"PREPARE TRANSACTION 'x'"})
+    EXPECT_EQ(translation(statement, u"PostgreSQL").effect, Effect::Commit) << toUtf8(statement);
+  for (const char16_t* statement : {u"ROLLBACK TO SAVEPOINT s", u"Rollback To s", u"ROLLBACK WORK TO s",
+                                    u"SAVEPOINT s", u"RELEASE SAVEPOINT s", u"COMMIT AND CHAIN",
+                                    u"COMMIT PREPARED 'x'", u"ROLLBACK PREPARED 'x'", u"START SLAVE"})
+    EXPECT_EQ(translation(statement, u"PostgreSQL").effect, Effect::None) << toUtf8(statement);
+}
+
+TEST(Translation, LeavesTheLiteralsOfPostgreSqlAlone) {
+  const StringView statement =
+      u"SELECT status FROM vertriebsstati WHERE status=E'\\'; x' OR status=$t$a'; b$t$";
+  EXPECT_EQ(postgres(statement), statement);
+  EXPECT_EQ(refusal(u"SELECT E'\\'"), error::CommandText);
+}
+
+TEST(Translation, TakesTheNameOfACollationForNoColumn) {
+  const StringView statement =
+      u"SELECT status FROM vertriebsstati WHERE CONCAT(\"status\") COLLATE \"Status\"='x'";
+  EXPECT_EQ(postgres(statement), statement);
+}
+
+TEST(Dialect, IsThatOfTheVersion) {
+  EXPECT_TRUE(dialectOf(u"MariaDB", Version::of(u"10.11.000019")).returns);
+  EXPECT_TRUE(dialectOf(u"MariaDB", Version::of(u"11.4.2-MariaDB")).returns);
+  EXPECT_FALSE(dialectOf(u"MariaDB", Version::of(u"10.04.000032")).returns);
+  EXPECT_FALSE(dialectOf(u"MySQL", Version::of(u"8.0.36")).returns);
+  EXPECT_TRUE(dialectOf(u"mariadb").exactTableNames);
+  EXPECT_EQ(Version::of(u"99999999999.1").major, 99999);
+  EXPECT_EQ(Version::of(u""), Version());
+}
+
 }  // namespace zqn::ado::odbc

@@ -34,7 +34,7 @@ class SqliteKeyset : public Keyset {
   std::shared_ptr<const Columns> columns() const override { return columns_; }
   bool fetchKeys(std::vector<RowHandle>& keys, std::size_t atMost) override;
   RowHandle handleOf(const RowView& row) override;
-  std::optional<RowHandle> inserted(const std::vector<Variant>&) override {
+  std::optional<RowHandle> inserted(const std::vector<Variant>&, const RowView&) override {
     return sqlite3_last_insert_rowid(file_->database->get());
   }
   void written(RowHandle, const std::vector<Variant>&) override {}

@@ -23,13 +23,14 @@ Dialect mariaDb(StringView product, Version since = {}) {
       .exactTableNames = true,
       .tinyIsBoolean = true,
       .utf8Texts = true,
+      .preparesAlways = true,
       .exactBefore = u"CONVERT(",
       .exactBehind = u" USING utf8mb4) COLLATE utf8mb4_nopad_bin",
       .defaultValues = u"() VALUES ()",
       .returns = returns,
       .lastNumber = returns ? u"" : u"SELECT LAST_INSERT_ID()",
       .forgetNumber = returns ? u"" : u"SELECT LAST_INSERT_ID(0)",
-      // The driver's own routines for them end the process when the connection drops inside.
+      // The driver's own routines for them run statements at once.
       .tables = u"SELECT '', '', TABLE_NAME FROM information_schema.TABLES WHERE TABLE_SCHEMA=DATABASE()",
       .columns =
           u"SELECT '', '', TABLE_NAME, COLUMN_NAME, CASE WHEN DATA_TYPE='bit' THEN -7 "

@@ -44,6 +44,9 @@ struct Dialect {
   bool untypedParameters = false;
   /// The driver is quicker with UTF-8 than with UTF-16.
   bool utf8Texts = false;
+  /// A statement with rows is prepared first, whatever it is: run at once, the driver ends the process when the
+  /// connection drops at that moment.
+  bool preparesAlways = false;
   /// A literal beyond ASCII needs N before it.
   bool nationalLiterals = false;
   /// LIKE distinguishes case, or is refused on the columns of this system; this stands in its place.

@@ -8,6 +8,7 @@
 #include "ado/enums.h"
 #include "ado/odbc/server.h"
 #include "ado/odbc/wide.h"
+#include "ado/sql_tokens.h"
 #include "runtime/digits.h"
 
 namespace zqn::ado::odbc {
@@ -77,6 +78,8 @@ void Query::makeHandle() {
   prepared_ = described_ = false;
 }
 
+bool Query::isSelect() const { return sql::Scanner(text_).next().is(u"SELECT"); }
+
 void Query::prepare() {
   if (prepared_) return;
   server_.tell(text_);
@@ -94,7 +97,7 @@ void Query::describe() {
 void Query::open(std::span<const Value> parameters) {
   close();
   makeHandle();
-  const bool prepared = prepared_ || !parameters.empty();
+  const bool prepared = prepared_ || !parameters.empty() || (link_.dialect().preparesAlways && isSelect());
   if (prepared) {
     prepare();
     SQLSMALLINT asked = 0;

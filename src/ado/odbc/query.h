@@ -54,6 +54,7 @@ class Query {
   };
 
   void makeHandle();
+  bool isSelect() const;
   void prepare();
   void bind(std::span<const Value> values);
   void execute(bool prepared);

@@ -22,9 +22,8 @@ class DriverRows {
     if (!SQL_SUCCEEDED(result)) throw link_.failure(handle_);
   }
   void run(StringView statement) {
-    const SQLRETURN result =
-        SQLExecDirectW(handle_.get(), asWide(statement), static_cast<SQLINTEGER>(statement.size()));
-    if (result != SQL_NO_DATA) require(result);
+    require(SQLPrepareW(handle_.get(), asWide(statement), static_cast<SQLINTEGER>(statement.size())));
+    require(SQLExecute(handle_.get()));
   }
   bool next() {
     const SQLRETURN result = SQLFetch(handle_.get());

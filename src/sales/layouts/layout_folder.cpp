@@ -32,7 +32,8 @@ LayoutFolder::LayoutFolder(StringView folder) {
   if (!named) return;
   std::map<String, String> byCapitals;
   std::error_code failure;
-  for (fs::directory_iterator entry(*named, failure), end; !failure && entry != end; entry.increment(failure)) {
+  for (fs::directory_iterator entry(*named, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
     std::error_code unknown;
     if (!entry->is_regular_file(unknown)) continue;
     const auto file = converted([&] { return entry->path().filename().u16string(); });

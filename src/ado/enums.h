@@ -8,18 +8,25 @@
 
 namespace zqn::ado {
 
+/// Where the rows are kept: by the database, or all of them here.
 enum CursorLocationEnum : int { adUseServer = 2, adUseClient = 3 };
 
+/// What a recordset sees of others' changes.
 enum CursorTypeEnum : int { adOpenForwardOnly = 0, adOpenKeyset = 1, adOpenDynamic = 2, adOpenStatic = 3 };
 
+/// How a change meets another one.
 enum LockTypeEnum : int { adLockReadOnly = 1, adLockPessimistic = 2, adLockOptimistic = 3 };
 
+/// What State reads.
 enum ObjectStateEnum : int { adStateClosed = 0, adStateOpen = 1 };
 
+/// What EditMode reads.
 enum EditModeEnum : int { adEditNone = 0, adEditInProgress = 1, adEditAdd = 2 };
 
+/// Where Find goes.
 enum SearchDirectionEnum : int { adSearchBackward = -1, adSearchForward = 1 };
 
+/// What a command's text is.
 enum CommandTypeEnum : int { adCmdUnspecified = -1, adCmdText = 1 };
 
 /// What a Field's Type reads.

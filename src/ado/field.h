@@ -18,7 +18,7 @@ class Recordset;
 
 /// How fields know that their recordset was closed or released.
 struct FieldAnchor {
-  Recordset* recordset = nullptr;
+  Recordset* recordset = nullptr;  ///< nullptr once it was closed.
 };
 
 /// One column; a small handle. All members raise 3420 once the recordset was closed. Requery keeps its fields.

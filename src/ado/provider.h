@@ -25,13 +25,14 @@ using RowHandle = std::int64_t;
 
 /// One column of a statement's result.
 struct Column {
-  String name;
+  String name;  ///< As the result names it.
   /// DataTypeEnum, from the declaration; adVariant for an expression.
   int type = 0;
   /// Longest text in UTF-16 units, 0 for no limit.
   int definedSize = 0;
   /// Where the value is stored; both empty for an expression, which cannot be assigned.
-  String baseTable, baseColumn;
+  String baseTable;
+  String baseColumn;
   /// Part of what identifies the row: its value when read goes into the WHERE of an Update.
   bool key = false;
   /// Added by the provider behind the statement's own columns (Purpose::Keyed); no Field shows it.
@@ -39,7 +40,7 @@ struct Column {
   /// The value is the row's RowHandle itself.
   bool rowHandle = false;
 };
-using Columns = std::vector<Column>;
+using Columns = std::vector<Column>;  ///< In the order of the statement.
 
 /// A prepared statement. It is kept and run again with other parameters; it is never left open while others
 /// run.
@@ -64,14 +65,14 @@ class Statement {
 
 /// A piece of a WHERE, with a `?` for each parameter.
 struct Condition {
-  String text;
-  std::vector<Value> parameters;
+  String text;                    ///< Without the word WHERE.
+  std::vector<Value> parameters;  ///< One for each `?`.
 };
 
 /// A comparison that the database is asked to answer by its index.
 struct ColumnEquals {
-  int column = 0;
-  Value value;
+  int column = 0;  ///< Its place in the columns, from 0.
+  Value value;     ///< What it is to be equal to.
 };
 
 /// The rows of a SELECT by their handles. Membership and order are those of the moment of the first

@@ -14,13 +14,15 @@ namespace zqn::ado {
 /// A value on its way to or from a database. The text is not owned: a parameter's lives until the call
 /// returns, a cell's until its RowStore changes.
 struct Value {
+  /// What a database stores.
   enum class Kind : std::uint8_t { Null, Integer, Real, Text };
 
-  Kind kind = Kind::Null;
-  std::int64_t integer = 0;
-  double real = 0;
-  StringView text;
+  Kind kind = Kind::Null;    ///< Which of the others counts.
+  std::int64_t integer = 0;  ///< Of Kind::Integer.
+  double real = 0;           ///< Of Kind::Real.
+  StringView text;           ///< Of Kind::Text; not owned.
 
+  /// The value of that kind.
   static Value of(std::int64_t value) { return {Kind::Integer, value, 0, {}}; }
   static Value of(double value) { return {Kind::Real, 0, value, {}}; }
   static Value of(StringView value) { return {Kind::Text, 0, 0, value}; }
@@ -38,8 +40,8 @@ class RowStore {
   /// Columns of a row; at least 1 before cells are added.
   explicit RowStore(int columns = 0) : columns_(columns) {}
 
-  int columns() const noexcept { return columns_; }
-  int rows() const noexcept {
+  int columns() const noexcept { return columns_; }  ///< Cells of a row.
+  int rows() const noexcept {                        ///< Whole rows.
     return columns_ == 0 ? 0 : static_cast<int>(cells_.size() / static_cast<std::size_t>(columns_));
   }
   /// Drops all rows, keeps the memory.
@@ -52,6 +54,7 @@ class RowStore {
   /// A text, copied.
   void addText(std::string_view utf8);
   void addText(StringView text);
+  /// The next cell, of any kind; a text is copied.
   void add(const Value& value);
   /// A copy of a row of another store with as many columns.
   void addRow(const RowView& row);
@@ -88,10 +91,11 @@ class RowStore {
 
 /// One row of a store.
 struct RowView {
-  const RowStore* store = nullptr;
-  int row = 0;
+  const RowStore* store = nullptr;  ///< nullptr for no row.
+  int row = 0;                      ///< From 0.
 
-  explicit operator bool() const noexcept { return store != nullptr; }
+  explicit operator bool() const noexcept { return store != nullptr; }  ///< There is a row.
+  /// Column from 0, inside the bounds.
   Value at(int column) const noexcept { return store->at(row, column); }
 };
 

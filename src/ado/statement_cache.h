@@ -26,7 +26,7 @@ class StatementCache {
   Statement& get(Provider& provider, StringView text, Purpose purpose);
   /// Finalizes all.
   void clear() noexcept;
-  std::size_t size() const noexcept { return entries_.size(); }
+  std::size_t size() const noexcept { return entries_.size(); }  ///< Statements that are kept.
 
  private:
   struct Entry {
@@ -49,7 +49,7 @@ class RunningStatement {
   ~RunningStatement() { statement_.close(); }
   RunningStatement(const RunningStatement&) = delete;
   RunningStatement& operator=(const RunningStatement&) = delete;
-  Statement* operator->() const noexcept { return &statement_; }
+  Statement* operator->() const noexcept { return &statement_; }  ///< The statement, open.
 
  private:
   Statement& statement_;

@@ -15,13 +15,15 @@ namespace zqn {
 /// What a person can do with the row that is shown; "Take" takes it over.
 struct AuskunftItem {
   /// The name of the action, "Take", and what the person reads, "&" before the letter to press.
-  String key, caption;
+  String key;      ///< How the component knows it: "Take".
+  String caption;  ///< What the person reads, with & in front of the key letter.
   /// They mean what the component makes of them.
-  std::int32_t number;
-  std::array<bool, 4> flags;
+  std::int32_t number;        ///< What the component makes of it.
+  std::array<bool, 4> flags;  ///< What the component makes of them.
 };
 
 /// The actions that the dialogs ask for, in the order of asking.
+/// The menu over a row of an information dialog.
 class AuskunftItems {
  public:
   /// One action more.
@@ -30,6 +32,7 @@ class AuskunftItems {
     items_.push_back({String(Key), String(Caption), Number, {First, Second, Third, Fourth}});
   }
   /// Those that were added.
+  /// In the order in which they were added.
   const std::vector<AuskunftItem>& items() const noexcept { return items_; }
 
  private:
@@ -46,7 +49,7 @@ class AuskunftItems {
 class AuskunftObject : public Object {
  public:
   /// What the person is to be able to do with a row.
-  AuskunftItems PopupItems;
+  AuskunftItems PopupItems;  ///< The items of the menu over a row.
 
   /// Runs the dialog of that name ("AUSK_Kundenauskunft", "AUSK_Angebotsauskunft") modally. May raise any
   /// run-time error.

@@ -31,7 +31,7 @@ class ZQSendKeys : public Object {
 class ObjectFactory {
  public:
   /// Makes one object; nullptr when it cannot be made.
-  using Maker = std::function<std::shared_ptr<Object>()>;
+  using Maker = std::function<std::shared_ptr<Object>()>;  ///< Makes a new object.
 
   /// The one factory of the process.
   static ObjectFactory& current();

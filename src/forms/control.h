@@ -24,9 +24,9 @@ class Control;
 
 /// One property that automation reaches by name. A read-only one has no setter.
 struct PropertyEntry {
-  const char16_t* name;
-  Variant (*get)(const Control&);
-  void (*set)(Control&, const Variant&);
+  const char16_t* name;                   ///< As automation writes it; case does not count.
+  Variant (*get)(const Control&);         ///< Reads it.
+  void (*set)(Control&, const Variant&);  ///< Assigns it, converted; nullptr for a read-only one.
 };
 
 /// How the focus came to a control.
@@ -43,7 +43,7 @@ constexpr std::uint32_t HighlightText = 0x8000000E;
 
 class Control : public EventOwner {
  public:
-  Control(Form& form, const ControlDesign& design, int tabIndex);
+  Control(Form& form, const ControlDesign& design, int tabIndex);  ///< Made by its form, from the roster.
   virtual ~Control();
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
@@ -53,14 +53,15 @@ class Control : public EventOwner {
   int Index() const noexcept { return index_; }
   /// "Label1(0)" for an element of an array, else the name.
   String fullName() const;
-  ControlKind kind() const noexcept { return kind_; }
-  Form& form() const noexcept { return form_; }
+  ControlKind kind() const noexcept { return kind_; }  ///< As the roster says.
+  Form& form() const noexcept { return form_; }        ///< Where it stands.
   /// The control it stands in; nullptr when it stands on the form.
   Control* container() const noexcept { return container_; }
-  const ControlDesign& design() const noexcept { return design_; }
+  const ControlDesign& design() const noexcept { return design_; }  ///< Its row of the roster.
 
   // ---- place, in twips, relative to the container
 
+  /// In twips, relative to the container.
   int Left() const noexcept { return left_; }
   int Top() const noexcept { return top_; }
   int Width() const noexcept { return width_; }
@@ -72,20 +73,23 @@ class Control : public EventOwner {
 
   // ---- whether it can be seen, used, reached
 
+  /// As assigned to itself; see isShown and isUsable.
   bool Visible() const noexcept { return visible_; }
   bool Enabled() const noexcept { return enabled_; }
   /// Hiding or disabling the control with the focus moves the focus to the next one in the tab order.
   void Visible(bool visible);
   void Enabled(bool enabled);
-  bool TabStop() const noexcept { return tabStop_; }
+  bool TabStop() const noexcept { return tabStop_; }  ///< Whether Tab stops here.
   void TabStop(bool tabStop);
   /// Tab comes by here.
   virtual bool isTabStop() const { return tabStop_; }
-  int TabIndex() const noexcept { return tabIndex_; }
+  int TabIndex() const noexcept { return tabIndex_; }  ///< Its place in the tab order.
+  /// Taking the focus validates the control that loses it.
   bool CausesValidation() const noexcept { return causesValidation_; }
   void CausesValidation(bool causes) { causesValidation_ = causes; }
-  const String& ToolTipText() const noexcept { return toolTipText_; }
+  const String& ToolTipText() const noexcept { return toolTipText_; }  ///< What the pointer over it shows.
   void ToolTipText(StringView text);
+  /// Behind the text and of the text: 32 bits, see namespace colour.
   std::uint32_t BackColor() const noexcept { return backColor_; }
   std::uint32_t ForeColor() const noexcept { return foreColor_; }
   void BackColor(std::uint32_t colour);
@@ -106,16 +110,17 @@ class Control : public EventOwner {
 
   // ---- events
 
-  Event<> GotFocus{*this, u"GotFocus"};
-  Event<> LostFocus{*this, u"LostFocus"};
+  Event<> GotFocus{*this, u"GotFocus"};    ///< The focus has come.
+  Event<> LostFocus{*this, u"LostFocus"};  ///< The focus has gone.
   /// Before the focus leaves by Tab or mouse; setting Cancel keeps it.
   Event<bool&> Validate{*this, u"Validate"};
   /// The key code, which the handler may set to 0, and the shift bits.
   Event<int&, int> KeyDown{*this, u"KeyDown"};
+  /// The character that is typed, which the handler may change; 0 takes it away.
   Event<int&> KeyPress{*this, u"KeyPress"};
-  Event<int, int> KeyUp{*this, u"KeyUp"};
-  Event<> Click{*this, u"Click"};
-  Event<> DblClick{*this, u"DblClick"};
+  Event<int, int> KeyUp{*this, u"KeyUp"};  ///< Key code and shift bits of a key that is let go.
+  Event<> Click{*this, u"Click"};          ///< Clicked, or chosen by a key, as the kind says.
+  Event<> DblClick{*this, u"DblClick"};    ///< Clicked twice.
 
   // ---- for toolkits
 

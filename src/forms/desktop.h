@@ -47,10 +47,10 @@ class FormView {
 class DesktopListener {
  public:
   virtual ~DesktopListener() = default;
-  virtual void formShown(Form&) {}
-  virtual void formClosed(Form&) {}
-  virtual void messageBoxOpened(const MessageBox&) {}
-  virtual void popupMenuOpened(const Menu&) {}
+  virtual void formShown(Form&) {}                     ///< A window has opened.
+  virtual void formClosed(Form&) {}                    ///< A form was unloaded; its window is closed.
+  virtual void messageBoxOpened(const MessageBox&) {}  ///< It waits for an answer.
+  virtual void popupMenuOpened(const Menu&) {}         ///< It waits for an item to be taken.
   /// A run-time error left an event procedure ("btnDelete_Click"). True: it is dealt with, no box tells the
   /// person.
   virtual bool runtimeErrorRaised(Form&, StringView /*procedure*/, const RuntimeError&) { return false; }
@@ -68,7 +68,7 @@ class Desktop {
   /// Makes a desktop the current one until the end of the scope.
   class Scope {
    public:
-    explicit Scope(Desktop& desktop) noexcept;
+    explicit Scope(Desktop& desktop) noexcept;  ///< Current from now on; the desktop outlives the scope.
     ~Scope();
     Scope(const Scope&) = delete;
     Scope& operator=(const Scope&) = delete;
@@ -100,14 +100,15 @@ class Desktop {
   virtual void doEvents() = 0;
   /// The mouse pointer over all windows: the hourglass while something takes long, else each window's own.
   void hourglass(bool shown);
-  bool isHourglass() const noexcept { return hourglass_; }
-  virtual void copyToClipboard(StringView text) = 0;
-  virtual String clipboardText() const = 0;
-  virtual double TwipsPerPixelX() const { return 15; }
-  virtual double TwipsPerPixelY() const { return 15; }
+  bool isHourglass() const noexcept { return hourglass_; }  ///< The hourglass is shown.
+  virtual void copyToClipboard(StringView text) = 0;        ///< Puts a text there.
+  virtual String clipboardText() const = 0;                 ///< The text that is there; "" for none.
+  virtual double TwipsPerPixelX() const { return 15; }      ///< Twips in one pixel across; 15 at 96 dpi.
+  virtual double TwipsPerPixelY() const { return 15; }      ///< Twips in one pixel down; 15 at 96 dpi.
 
   // ---- what hosts ask for
 
+  /// From now on, or no longer: `listener` hears what happens. It stays its owner's.
   void addListener(DesktopListener* listener) { listeners_.push_back(listener); }
   void removeListener(DesktopListener* listener) { std::erase(listeners_, listener); }
   /// Called whenever a modal loop, of a form or of a message box, has nothing left to do. Each call may do
@@ -147,7 +148,8 @@ class Desktop {
   bool tickTimer();
   /// How long until the next timer is due; nullopt when none runs.
   std::optional<std::chrono::milliseconds> timeToTick();
-  bool hasIdleStep() const noexcept { return static_cast<bool>(idle_); }
+  bool hasIdleStep() const noexcept { return static_cast<bool>(idle_); }  ///< whenIdle was given a step.
+  /// Runs the step once. For desktops, when their loop has nothing left to do.
   void idleStep() {
     if (idle_) idle_();
   }

@@ -39,14 +39,14 @@ enum class UnloadMode { CloseBox = 0, Code = 1 };
 
 class Form : public EventOwner {
  public:
-  explicit Form(const FormDesign& design);
+  explicit Form(const FormDesign& design);  ///< Not loaded yet; the design outlives the form.
   virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  const String& Name() const noexcept { return name_; }
-  const String& Caption() const noexcept { return caption_; }
-  void Caption(StringView caption);
+  const String& Name() const noexcept { return name_; }        ///< As the design says: "frmDialog".
+  const String& Caption() const noexcept { return caption_; }  ///< What stands in the title bar.
+  void Caption(StringView caption);                            ///< Writes the title bar.
   /// Client area in twips.
   int ScaleWidth() const noexcept { return scaleWidth_; }
   int ScaleHeight() const noexcept { return scaleHeight_; }
@@ -55,7 +55,7 @@ class Form : public EventOwner {
   int Height() const noexcept { return scaleHeight_ + 420; }
   void Width(int twips);
   void Height(int twips);
-  bool Visible() const noexcept { return visible_; }
+  bool Visible() const noexcept { return visible_; }  ///< Shown, and not unloaded since.
   /// The form's KeyDown, KeyPress and KeyUp run before the control's. True unless set.
   void KeyPreview(bool preview) { keyPreview_ = preview; }
 
@@ -93,6 +93,7 @@ class Form : public EventOwner {
   /// two that has refused may unload once more by itself, which asks again; otherwise UnloadMe inside of them
   /// does nothing.
   void UnloadMe();
+  /// Load has been raised, and no Unload let through since.
   bool isLoaded() const noexcept { return loaded_; }
   /// What went wrong unasked in the last thing that the person did: a window shows it as one quiet line, which
   /// takes no focus and goes with the next key. "" for nothing.
@@ -104,14 +105,16 @@ class Form : public EventOwner {
 
   // ---- events
 
-  Event<> Load{*this, u"Load"};
-  Event<> Activate{*this, u"Activate"};
+  Event<> Load{*this, u"Load"};          ///< Before the form is touched for the first time.
+  Event<> Activate{*this, u"Activate"};  ///< The window has come to the top.
+  /// The key code, which the handler may set to 0, and the shift bits.
   Event<int&, int> KeyDown{*this, u"KeyDown"};
+  /// The character that is typed, which the handler may change; 0 takes it away.
   Event<int&> KeyPress{*this, u"KeyPress"};
-  Event<int, int> KeyUp{*this, u"KeyUp"};
+  Event<int, int> KeyUp{*this, u"KeyUp"};  ///< Key code and shift bits of a key that is let go.
   /// Cancel other than 0 keeps the form open; the second argument is the UnloadMode.
   Event<int&, int> QueryUnload{*this, u"QueryUnload"};
-  Event<int&> Unload{*this, u"Unload"};
+  Event<int&> Unload{*this, u"Unload"};  ///< The form is about to go. Cancel other than 0 keeps it open.
 
   // ---- for desktops
 
@@ -123,7 +126,7 @@ class Form : public EventOwner {
   /// A key went down. Runs the whole order of key events and moves the focus for Tab; see KeyOutcome for what
   /// is left to do.
   KeyOutcome keyPressed(KeyStroke stroke);
-  void keyReleased(int code, int shift);
+  void keyReleased(int code, int shift);  ///< A key was let go: the form's KeyUp, then the control's.
   /// The left button went down on a control: validates, moves the focus if the control takes it. False when
   /// the click is over (the control cannot be used or stands behind another form or a message box, Validate
   /// refused, or a message box came up meanwhile): no release must follow.

@@ -7,6 +7,7 @@
 
 namespace zqn {
 
+/// The platform's key codes.
 namespace key {
 constexpr int Backspace = 8;
 constexpr int Tab = 9;
@@ -33,6 +34,7 @@ constexpr int F10 = 121;
 constexpr int F12 = 123;
 }  // namespace key
 
+/// The platform's bits for the keys that are held.
 namespace shift {
 constexpr int None = 0;
 constexpr int Shift = 1;

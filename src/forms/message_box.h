@@ -13,6 +13,7 @@
 
 namespace zqn {
 
+/// Buttons, icon and default button: the platform's numbers, one of each added up.
 namespace msgbox {
 constexpr int OKOnly = 0;
 constexpr int OKCancel = 1;
@@ -27,12 +28,13 @@ constexpr int DefaultButton2 = 256;
 constexpr int DefaultButton3 = 512;
 }  // namespace msgbox
 
+/// The button that was pressed: the platform's numbers.
 enum class MsgBoxResult { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
 
 /// A message box that is to open: the text breaks at CR, LF and CR LF.
 struct MessageBox {
-  String text;
-  String title;
+  String text;   ///< Lines break at CR, LF and CR LF.
+  String title;  ///< In the title bar.
   /// Sum of the numbers of namespace msgbox.
   int style = 0;
 

@@ -16,20 +16,22 @@ namespace zqn {
 
 /// Pixels at 96 dpi from the upper left corner.
 struct PicturePoint {
-  double x, y;
+  double x;  ///< To the right.
+  double y;  ///< Down.
 };
 
 /// A polygon, filled with a 32-bit colour (control.h).
 struct PictureShape {
-  std::uint32_t colour;
-  std::span<const PicturePoint> outline;
+  std::uint32_t colour;                   ///< 32 bits, as in control.h.
+  std::span<const PicturePoint> outline;  ///< Its corners in order.
 };
 
 /// Pictures are constants; whoever shows one keeps a pointer, nullptr for none.
 struct Picture {
   /// What scripts and assistive technology call it.
   const char16_t* name;
-  int width, height;
+  int width;   ///< Pixels at 96 dpi.
+  int height;  ///< Pixels at 96 dpi.
   /// Drawn in this order, the last on top.
   std::span<const PictureShape> shapes;
   /// A GIF file, drawn instead of shapes when there is one.

@@ -66,12 +66,12 @@ struct OtherDesign {
   /// The button that Esc, or Enter, presses from anywhere on the form. CommandButton.
   bool Cancel = false;
   bool Default = false;
-  bool Visible = true;
-  bool Enabled = true;
-  bool TabStop = true;
+  bool Visible = true;  ///< Can be seen at first.
+  bool Enabled = true;  ///< Can be used at first.
+  bool TabStop = true;  ///< Tab stops here at first.
   /// May stand over another visible control, or outside the client area, on purpose.
   bool Overlaps = false;
-  const char16_t* ToolTipText = u"";
+  const char16_t* ToolTipText = u"";  ///< What the pointer over it shows.
   /// Name of the control that it stands in; its place is then relative to that one. Empty: the form.
   const char16_t* Container = u"";
   /// Is chosen when the form comes up. OptionButton.
@@ -85,19 +85,23 @@ struct OtherDesign {
 struct ControlDesign {
   /// Name, with the index behind it for an element of a control array: "Label1(0)".
   const char16_t* name;
-  ControlKind kind;
+  ControlKind kind;  ///< What it is.
   /// Caption, or the text of a text box.
   const char16_t* text;
-  int left, top, width, height;
-  OtherDesign other{};
+  int left;             ///< Twips from the left edge of the container.
+  int top;              ///< Twips from its upper edge.
+  int width;            ///< Twips.
+  int height;           ///< Twips.
+  OtherDesign other{};  ///< What few controls state.
 };
 
+/// A form as it is made: its title, its size and its controls.
 struct FormDesign {
-  const char16_t* name;
-  const char16_t* caption;
-  /// Client area.
-  int width, height;
-  std::span<const ControlDesign> roster;
+  const char16_t* name;                   ///< "frmDialog".
+  const char16_t* caption;                ///< The title bar.
+  int width;                              ///< Of the client area, in twips.
+  int height;                             ///< Of the client area, in twips.
+  std::span<const ControlDesign> roster;  ///< In the order of the tab index.
 };
 
 }  // namespace zqn

@@ -55,34 +55,40 @@ enum zqnCommonDialogConstants : std::int32_t {
   zqnCommonDialogKontaktGruende = 37,
 };
 
+/// Views of the calendar.
 enum zqnCalendarConstants : std::int32_t {
   zqModeCalendar = 0,
   zqModePlaner = 1,
   zqModeRessources = 2,
 };
 
+/// How a form is shown.
 enum zqnFormShowConstants : std::int32_t {
   zqnFormShowModeless = 0,
   zqnFormShowModal = 1,
 };
 
+/// Forms of address.
 enum zqnAnredeConstants : std::int32_t {
   zqnFirma = 0,
   zqnHerr = 1,
   zqnFrau = 2,
 };
 
+/// Order of a column of an information dialog.
 enum zqnAuskunftSortConstants : std::int32_t {
   zqnAuskunftSortUnsorted = 0,
   zqnAuskunftSortAscending = 1,
   zqnAuskunftSortDescending = 2,
 };
 
+/// How an information dialog was closed.
 enum zqnAuskunftResultConstants : std::int32_t {
   zqnAuskunftResultNothingSelected = 0,
   zqnAuskunftResultSomethingSelected = 1,
 };
 
+/// Items of a popup menu.
 enum zqnPopupConstants : std::int32_t {
   zqnPopupItem = 0,
   zqnPopupItemWithSubitem = 1,
@@ -101,22 +107,26 @@ enum zqnErrorBoxConstants : std::int32_t {
   zqnErrorBoxDefaultButton2 = 256,
 };
 
+/// Answers to a message.
 enum zqnErrorBoxResultConstants : std::int32_t {
   zqnErrorBoxResultOK = 1,
   zqnErrorBoxResultCancel = 2,
 };
 
+/// Kinds of connection.
 enum zqnConnectionTypeConstants : std::int32_t {
   zqnConnectionTypeNotConnected = 0,
   zqnConnectionTypeMSAccess = 1,
   zqnConnectionTypeMSSQLServer = 2,
 };
 
+/// Kinds of database.
 enum zqnDataSourceTypeConstants : std::int32_t {
   zqnDataSourceTypeMSAccess = 1,
   zqnDataSourceTypeMSSQLServer = 2,
 };
 
+/// Charts of the statistics.
 enum zqnStatistikChartTypeConstants : std::int32_t {
   zqnStatistikChartTypeDefault = 0,
   zqnStatistikChartTypeTabelle = 1,
@@ -124,21 +134,25 @@ enum zqnStatistikChartTypeConstants : std::int32_t {
   zqnStatistikChartTypeKreisdiagramm = 3,
 };
 
+/// Periods of the statistics.
 enum zqnStatistikPeriodisierungConstants : std::int32_t {
   zqnStatistikPeriodisierungMonat = 1,
   zqnStatistikPeriodisierungWoche = 2,
 };
 
+/// Business years of the statistics.
 enum zqnStatistikWirtschaftsjahrConstants : std::int32_t {
   zqnStatistikAktuellesWirtschaftsjahr = 0,
 };
 
+/// Where a bill of materials is resolved.
 enum zqnStuecklistenaufösungConstants : std::int32_t {
   zqnKomplettAuflösen = 0,
   zqnInKundenauftragAuflösen = 1,
   zqnInBestellungAuflösen = 2,
 };
 
+/// What is done with a user.
 enum zqnUserConstants : std::int32_t {
   zqnUserAdd = 1,
   zqnUserUpdate = 2,
@@ -155,12 +169,14 @@ enum zqnAppAccessConstants : std::int32_t {
   zqnAppAccessAdmin = 536870912,
 };
 
+/// How a price is rounded.
 enum zqnRundungsartConstants : std::int32_t {
   zqnKaufmaennischRunden = 0,
   zqnImmerAufrunden = 1,
   zqnImmerAbrunden = 2,
 };
 
+/// What is handed to the accounts.
 enum zqnFibuUebergabeConstants : std::int32_t {
   zqnRechnungen = 1,
   zqnGutschriften = 2,
@@ -179,6 +195,7 @@ enum zqUmrechDialogConstants : std::int32_t {
   zqUmrechDialogDefaultSettings = 255,
 };
 
+/// How a conversion of units ended.
 enum zqUmrechResultConstants : std::int32_t {
   zqUmrechResultOK = 0,
   zqUmrechResultUserAbort = 10,
@@ -186,6 +203,7 @@ enum zqUmrechResultConstants : std::int32_t {
   zqUmrechResultError = 99,
 };
 
+/// Prices with or without tax.
 enum zqPLUPreistypConstants : std::int32_t {
   zqPLUDefault = 0,
   zqPLUNettopreis = 1,
@@ -206,22 +224,26 @@ enum zqPLUResultConstants : std::int32_t {
   zqPLUError = 1024,
 };
 
+/// Which of several prices counts.
 enum zqPLUPreisfindungsart : std::int32_t {
   zqPLUPreisfindungVorteilhaft = 0,
   zqPLUPreisfindungHierarchisch = 1,
 };
 
+/// Which of several discounts counts.
 enum zqPLURabattfindungsart : std::int32_t {
   zqPLURabattfindungVorteilhaft = 0,
   zqPLURabattfindungHierarchisch = 1,
 };
 
+/// How several discounts add up.
 enum zqPLURabattberechnung : std::int32_t {
   zqPLURabattberechnungDefault = -1,
   zqPLURabattberechnungAdditiv = 0,
   zqPLURabattberechnungKette = 1,
 };
 
+/// What stands in for a price.
 enum zqPLUErsetzePreis : std::int32_t {
   zqPLUErsetzePreisNicht = 0,
   zqPLUErsetzePreisDurchArtikelpreis = 1,
@@ -229,6 +251,7 @@ enum zqPLUErsetzePreis : std::int32_t {
   zqPLUErsetzePreisDurchListenArtikelpreis = 3,
 };
 
+/// Information dialogs.
 enum zqnDiAusConstants : std::int32_t {
   zqnDiAusArtikel = 10,
   zqnDiAusKunden = 20,
@@ -243,6 +266,7 @@ enum zqnDiAusConstants : std::int32_t {
   zqnDiAusGeneric = 999,
 };
 
+/// Types of a criterion.
 enum zqnSelectionDataTypes : std::int32_t {
   zqnSelectionDataTypeText = 0,
   zqnSelectionDataTypeNumeric = 1,
@@ -252,16 +276,19 @@ enum zqnSelectionDataTypes : std::int32_t {
   zqnSelectionDataTypeKeyword = 8,
 };
 
+/// What a selection gives back.
 enum zqnSelectionReturnTypes : std::int32_t {
   zqnSelectionReturnTypeSQL = 0,
   zqnSelectionReturnTypeText = 1,
 };
 
+/// Backgrounds.
 enum zqnBackStyleConstants : std::int32_t {
   zqnBackStyleTransparent = 0,
   zqnBackStyleOpaque = 1,
 };
 
+/// How a criterion offers its values.
 enum zqnSelectionAuskunftTypes : std::int32_t {
   zqnSelectionAuskunftNone = 0,
   zqnSelectionAuskunftCombo = 1,
@@ -269,6 +296,7 @@ enum zqnSelectionAuskunftTypes : std::int32_t {
   zqnSelectionAuskunftValueList = 3,
 };
 
+/// Where the day of the session comes from.
 enum zqnSetSessionDateTypes : std::int32_t {
   zqnSetSystemDate = 0,
   zqnSetByDate = 1,

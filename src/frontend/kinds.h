@@ -36,10 +36,10 @@ enum class KindSubject {
 
 /// One kind, as a host sees it. All texts live as long as the process.
 struct KindInfo {
-  std::int32_t number;
+  std::int32_t number;  ///< 1 to 37.
   /// "zqnCommonDialogVertriebsStati"
   const char16_t* constant;
-  KindServer server;
+  KindServer server;  ///< Which form shows it.
   /// "frmVertriebsstati"; "frmDialog" for the generic form.
   const char16_t* form;
   /// The definition class on the generic form; empty for a kind that has none.

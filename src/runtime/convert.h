@@ -70,8 +70,13 @@ zqn::Date CDate(const Variant& value);
 bool IsDate(const Variant& value);
 /// A point in time taken apart. The default is day 0.
 struct CivilDate {
-  int year = 1899, month = 12, day = 30, hour = 0, minute = 0, second = 0;
-  bool operator==(const CivilDate&) const = default;
+  int year = 1899;                                    ///< 100 to 9999.
+  int month = 12;                                     ///< 1 to 12.
+  int day = 30;                                       ///< 1 to 31.
+  int hour = 0;                                       ///< 0 to 23.
+  int minute = 0;                                     ///< 0 to 59.
+  int second = 0;                                     ///< 0 to 59.
+  bool operator==(const CivilDate&) const = default;  ///< The same second.
 };
 /// Day and time of the calendar, rounded to whole seconds. Error 6 far outside the years 100 to 9999.
 CivilDate civil(zqn::Date date);

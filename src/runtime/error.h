@@ -71,8 +71,8 @@ class RuntimeError : public std::exception {
   explicit RuntimeError(std::int32_t number);
   RuntimeError(std::int32_t number, String description, String source = {});
 
-  std::int32_t number() const noexcept { return number_; }
-  const String& description() const noexcept { return description_; }
+  std::int32_t number() const noexcept { return number_; }  ///< One of namespace error, or a provider's.
+  const String& description() const noexcept { return description_; }  ///< The words for the person.
   /// Who raised it: "ADODB", a provider's name, or empty for the language itself.
   const String& source() const noexcept { return source_; }
   /// "3021: BOF oder EOF ist True, ..." in UTF-8, for logs and test output.

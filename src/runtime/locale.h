@@ -26,17 +26,19 @@ struct Locale {
   /// In which order a date of three numbers is read.
   enum class DateOrder { DayMonthYear, MonthDayYear, YearMonthDay };
 
-  char16_t decimal = u',';
-  char16_t thousands = u'.';
-  String currency = u"€";
-  char16_t dateSeparator = u'.';
-  DateOrder dateOrder = DateOrder::DayMonthYear;
-  String shortDate = u"dd.mm.yyyy";
-  String trueText = u"Wahr";
-  String falseText = u"Falsch";
+  char16_t decimal = u',';                        ///< Between the units and the tenths.
+  char16_t thousands = u'.';                      ///< Between groups of three digits.
+  String currency = u"€";                         ///< Read with a number (CDbl), never written.
+  char16_t dateSeparator = u'.';                  ///< Between the numbers of a date.
+  DateOrder dateOrder = DateOrder::DayMonthYear;  ///< Of a date of three numbers.
+  String shortDate = u"dd.mm.yyyy";               ///< How CStr writes a Date; a pattern of Format.
+  String trueText = u"Wahr";                      ///< How CStr writes True.
+  String falseText = u"Falsch";                   ///< How CStr writes False.
+  /// January to December: what dates are read and written with.
   std::array<String, 12> monthNames = {u"Januar",    u"Februar", u"März",     u"April",
                                        u"Mai",       u"Juni",    u"Juli",     u"August",
                                        u"September", u"Oktober", u"November", u"Dezember"};
+  /// January to December: what dates are read and written with.
   std::array<String, 12> shortMonthNames = {u"Jan", u"Feb", u"Mrz", u"Apr", u"Mai", u"Jun",
                                             u"Jul", u"Aug", u"Sep", u"Okt", u"Nov", u"Dez"};
   /// Language-wide text comparison, as StrComp uses it.
@@ -52,7 +54,7 @@ struct Locale {
   /// Makes a locale the current one until the end of the scope. Scopes nest; one thread.
   class Scope {
    public:
-    explicit Scope(Locale locale);
+    explicit Scope(Locale locale);  ///< The copy is the current one until the end.
     ~Scope();
     Scope(const Scope&) = delete;
     Scope& operator=(const Scope&) = delete;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A reference that may be Nothing. The counting is our own because <memory> alone would double what a host
+// A reference that may be Nothing. The counting is our own because `<memory>` alone would double what a host
 // reads with every header.
 #pragma once
 
@@ -62,8 +62,8 @@ class Ref {
   }
   /// The same object as a base of its class, or itself.
   template <class U>
-  requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other) noexcept
-      : object_(other.object_), owner_(other.owner_) {
+  requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other)
+  noexcept : object_(other.object_), owner_(other.owner_) {
     if (owner_ != nullptr) owner_->keep();
   }
   Ref(const Ref& other) noexcept : object_(other.object_), owner_(other.owner_) {
@@ -90,7 +90,7 @@ class Ref {
     return ref;
   }
 
-  bool isNothing() const noexcept { return object_ == nullptr; }
+  bool isNothing() const noexcept { return object_ == nullptr; }  ///< Refers to no object.
   /// The object. Error 91 while it is Nothing.
   T* operator->() const { return &**this; }
   T& operator*() const {

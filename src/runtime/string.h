@@ -13,8 +13,8 @@
 
 namespace zqn {
 
-using String = std::u16string;
-using StringView = std::u16string_view;
+using String = std::u16string;           ///< A text, by UTF-16 units.
+using StringView = std::u16string_view;  ///< A text that somebody else holds.
 
 /// UTF-8 to UTF-16. Bytes that are no UTF-8 become U+FFFD, one for each byte that starts nothing valid.
 String fromUtf8(std::string_view utf8);

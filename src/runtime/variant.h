@@ -15,8 +15,8 @@ namespace zqn {
 
 /// A point in time as days since 30 December 1899; the fraction is the time of day.
 struct Date {
-  double days = 0;
-  bool operator==(const Date&) const = default;
+  double days = 0;                               ///< From 30 December 1899 on.
+  bool operator==(const Date&) const = default;  ///< The same moment.
 };
 
 /// What a Variant of kind Object refers to: a companion of the host that is called by name.
@@ -46,12 +46,13 @@ class Variant {
     Object,
     Missing
   };
-  /// The types of the literals `Null` and `Missing`.
+  /// The type of the literal `Null`.
   struct NullValue {
-    bool operator==(const NullValue&) const = default;
+    bool operator==(const NullValue&) const = default;  ///< There is one alone.
   };
+  /// The type of the literal `Missing`.
   struct MissingValue {
-    bool operator==(const MissingValue&) const = default;
+    bool operator==(const MissingValue&) const = default;  ///< There is one alone.
   };
 
   /// Empty; the others hold what they are given, as the kind of that type.
@@ -103,8 +104,8 @@ class Variant {
       value_;
 };
 
-inline constexpr Variant::NullValue Null{};
-inline constexpr Variant::MissingValue Missing{};
+inline constexpr Variant::NullValue Null{};        ///< The literal `Null`: a value that is not known.
+inline constexpr Variant::MissingValue Missing{};  ///< An argument that is left out.
 
 /// An array of Variants as a host hands it over. `Show` takes it by reference; what it reads and writes are
 /// single elements.
@@ -112,7 +113,8 @@ class VariantArray {
  public:
   /// Without elements.
   VariantArray() = default;
-  VariantArray(std::initializer_list<Variant> elements) : elements_(elements) {}
+  VariantArray(std::initializer_list<Variant> elements) : elements_(elements) {}  ///< In one dimension.
+  /// `elements` are those of all dimensions.
   explicit VariantArray(std::vector<Variant> elements, int dimensions = 1)
       : elements_(std::move(elements)), dimensions_(dimensions) {}
 
@@ -124,7 +126,7 @@ class VariantArray {
   std::size_t size() const noexcept { return elements_.size(); }
   /// 1 unless the host has handed over another array.
   int dimensions() const noexcept { return dimensions_; }
-  const std::vector<Variant>& elements() const noexcept { return elements_; }
+  const std::vector<Variant>& elements() const noexcept { return elements_; }  ///< In the order of `at`.
 
  private:
   std::vector<Variant> elements_;

@@ -18,13 +18,15 @@
 
 namespace zqn::ado {
 
+/// How a file is opened.
 struct SqliteOptions {
+  /// What is expected of the file.
   enum class Mode {
     Create,    // make the file when there is none; its folder must exist
     Existing,  // refuse when there is no file
     ReadOnly,  // as Existing; every write raises -2147217911
   };
-  Mode mode = Mode::Create;
+  Mode mode = Mode::Create;  ///< Create unless said.
   /// How long a statement waits for another one's lock.
   std::chrono::milliseconds busyTimeout{5000};
 };

@@ -16,6 +16,7 @@ class DialogStyle : public QProxyStyle {
  public:
   DialogStyle();
 
+  /// What differs from Fusion.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returned) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;

@@ -14,7 +14,7 @@ endif()
 
 add_library(zqn_flags INTERFACE)
 target_include_directories(zqn_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(zqn_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
+target_compile_options(zqn_flags INTERFACE -Wall -Wextra -Wpedantic)
 if(ZQN_SANITIZE)
   target_compile_options(zqn_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(zqn_flags INTERFACE -fsanitize=address,undefined)

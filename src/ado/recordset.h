@@ -135,7 +135,7 @@ class Recordset {
   /// that closes the recordset.
   class Watcher {
    public:
-    virtual void rowsReplaced() noexcept = 0;
+    virtual void rowsReplaced() noexcept = 0;  ///< The rows are others; it reads them anew when it wants.
 
    protected:
     ~Watcher() = default;

@@ -24,7 +24,8 @@ endfunction()
 
 # zqn_precompile(target product|test what it links): takes the precompiled headers that fit the target.
 function(zqn_precompile target kind)
-  if(NOT ZQN_PRECOMPILED)
+  # What is compiled like a test without being one finds none that was compiled alike.
+  if(NOT ZQN_PRECOMPILED OR "zqn_test_flags" IN_LIST ARGN)
     return()
   endif()
   if("${ARGN}" MATCHES "Qt6::|(^|;)(qt|desk|qt_testing|host_script_qt)(;|$)")

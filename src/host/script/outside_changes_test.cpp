@@ -54,14 +54,15 @@ TEST_F(OutsideChanges, SettingIsSavedInItsScope) {
 }
 
 TEST_F(OutsideChanges, ClipboardIsWhatAnotherProgramHasCopied) {
-  EXPECT_THAT(acts(R"({"clipboard":"L-1 ß"}
+  EXPECT_THAT(
+      acts(R"({"clipboard":"L-1 ß"}
                       {"focus":"txtName"}
                       {"key":"v","shift":2}
                       {"get":["txtName.Text"]}
                       {"clipboard":"zwei"}
                       {"key":"v","shift":2}
                       {"get":["txtName.Text"]})"),
-              ElementsAre(R"({"values":{"txtName.Text":"L-1 ß"}})", R"({"values":{"txtName.Text":"L-1 ßzwei"}})"));
+      ElementsAre(R"({"values":{"txtName.Text":"L-1 ß"}})", R"({"values":{"txtName.Text":"L-1 ßzwei"}})"));
 }
 
 TEST_F(OutsideChanges, AuskunftAnswersWhatTheLastLineSaid) {

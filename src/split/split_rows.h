@@ -18,7 +18,7 @@ namespace zqn {
 ///     VariantArray param{writeSplit(rows), 10.0, u"Stk", std::int32_t{1}, false};
 ///     for (const SplitRow& row : readSplit(CStr(dialog.Show(34, param)))) store(row.batch, row.quantity);
 struct SplitRow {
-  double quantity = 0;
+  double quantity = 0;  ///< In that unit; 1 for a piece.
   /// The dialog shows it as it is and gives new rows the unit of Param(2).
   String unit = {};
   String batch = {};
@@ -26,7 +26,7 @@ struct SplitRow {
   std::optional<std::chrono::year_month_day> expiry = {};
   String serial = {};
 
-  bool operator==(const SplitRow&) const = default;
+  bool operator==(const SplitRow&) const = default;  ///< Field by field.
 };
 
 /// The rows of a text, in its order. Never fails: lines of blanks are left out, a missing field is empty, a

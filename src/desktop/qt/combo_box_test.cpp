@@ -152,6 +152,52 @@ TEST_F(DropDowns, ChosenByAssistiveTechnologyTellTheModel) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(DropDowns, TakenByAClickOnTheEntryThatStandsTellSo) {
+  form.cbo.ListIndex(2);
+  clicks = 0;
+  person.at(form, {[&] { person.click(form.cbo); }, [&] { clickEntry(2); },
+                   [&] {
+                     EXPECT_EQ(form.cbo.ListIndex(), 2);
+                     EXPECT_FALSE(form.cbo.isOpen());
+                   }});
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(DropDowns, SelectedInByAScreenReaderMarkTheEntryOfTheForm) {
+  person.at(form, {[&] { person.click(form.cbo); },
+                   [&] { QAccessible::queryAccessibleInterface(&list())->tableInterface()->selectRow(1); },
+                   [&] {
+                     EXPECT_EQ(form.cbo.markedEntry(), 1);
+                     EXPECT_EQ(form.cbo.ListIndex(), -1);
+                     key(Qt::Key_Return);
+                   },
+                   [&] { EXPECT_EQ(form.cbo.ListIndex(), 1); }});
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(DropDowns, LeaveTheKeyboardToTheWindow) {
+  form.txtKey.Text(u"abc");
+  person.at(form,
+            {[&] { person.click(form.cbo); }, [&] { clickEntry(1); }, [&] { person.click(form.txtKey); },
+             [&] {
+               EXPECT_EQ(QApplication::focusWidget(), person.desktop.widgetOf(form.txtKey));
+               person.key(Qt::Key_End);
+               person.key(Qt::Key_Left);
+             },
+             [&] { EXPECT_EQ(form.txtKey.SelStart(), 2); }});
+}
+
+TEST_F(DropDowns, RefuseAssistiveTechnologyWhatTheyRefuseAClick) {
+  form.txtKey.Validate = [](bool& Cancel) { Cancel = true; };
+  person.at(form, {[&] { box().setCurrentIndex(2); },
+                   [&] {
+                     EXPECT_EQ(form.cbo.ListIndex(), -1);
+                     box().showPopup();
+                   },
+                   [&] { EXPECT_FALSE(form.cbo.isOpen()); }});
+  EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(DropDowns, AreOpenedByAssistiveTechnology) {
   person.at(form, {[&] { box().showPopup(); }, [&] { EXPECT_TRUE(form.cbo.isOpen()); },
                    [&] { box().hidePopup(); }, [&] { EXPECT_FALSE(form.cbo.isOpen()); }});

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/qt/accessible_names.h"
+#include "desktop/qt/text.h"
 #include "frontend/kinds.h"
 #include "testing/qt/windows.h"
 
@@ -98,6 +100,16 @@ TEST_P(FormsOfKind, LookWell) {
   const std::unique_ptr<Form> form = makeForm(GetParam());
   EXPECT_THAT(findingsIn(*form), IsEmpty());
   EXPECT_THAT(tabOrder(*form), ::testing::Not(IsEmpty()));
+}
+
+TEST_P(FormsOfKind, NameListsAndDropDownsByWhatAPersonReads) {
+  const std::unique_ptr<Form> form = makeForm(GetParam());
+  for (const auto& control : form->controls()) {
+    const ControlKind kind = control->kind();
+    if (!control->isShown()) continue;
+    if (kind != TDBList && kind != ListBox && kind != ComboBox && kind != zqCombo) continue;
+    EXPECT_NE(accessibleNameOf(*control), toQt(control->fullName())) << toUtf8(form->Name());
+  }
 }
 
 /// The generic form with the catalogues of all kinds that it knows.

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QSignalBlocker>
 #include <QTest>
 
 #include "ado/sqlite/sqlite.h"
@@ -206,6 +207,21 @@ TEST_F(KeyCombos, AreUsedWhileTheyMayBe) {
   typed.Enabled(false);
   person.at(form, {[&] { EXPECT_FALSE(widget(typed).isEnabled()); }, [&] { typed.EntryEnabled(true); },
                    [&] { EXPECT_TRUE(widget(typed).isEnabled()); }});
+}
+
+TEST_F(KeyCombos, ThatHaveNotPaintedWhatTheyHoldDifferFromTheForm) {
+  person.at(form,
+            {[&] { person.click(widget(typed).button()); },
+             [&] {
+               ASSERT_TRUE(typed.isOpen());
+               {
+                 const QSignalBlocker silently(widget(typed).list().selectionModel());
+                 widget(typed).list().setCurrentIndex(widget(typed).list().model()->index(1, 0));
+               }
+               EXPECT_TRUE(person.desktop.differences(form).contains(QLatin1String("Typed: marked entry")));
+               widget(typed).sync();
+             },
+             [&] { key(Qt::Key_Escape); }});
 }
 
 TEST_F(KeyCombos, AreNamedByTheirLabel) {

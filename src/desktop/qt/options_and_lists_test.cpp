@@ -5,6 +5,7 @@
 #include <QCalendarWidget>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QTest>
 
 #include "desktop/qt/day_entry.h"
@@ -82,6 +83,20 @@ TEST_F(OptionsAndLists, AScreenReaderSelectsByTheModelsRules) {
                      EXPECT_TRUE(second.Value());
                      EXPECT_FALSE(first.Value());
                    }});
+}
+
+TEST_F(OptionsAndLists, ASelectionThatTheFormDoesNotHaveIsADifference) {
+  person.at(form, {[&] {
+              {
+                const QSignalBlocker silently(list());
+                list().item(2)->setSelected(true);
+              }
+              const QString differences = person.desktop.differences(form);
+              EXPECT_TRUE(differences.contains(QLatin1String("Selected is \"1\", not \"0\"")));
+              EXPECT_TRUE(differences.contains(QLatin1String("cell 2,0 marked is \"1\", not \"0\"")));
+              const QSignalBlocker silently(list());
+              list().item(2)->setSelected(false);
+            }});
 }
 
 TEST_F(OptionsAndLists, OptionsFollowMouseArrowsAndAccessKeys) {

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTableView>
 #include <QToolTip>
 
@@ -83,6 +84,130 @@ TEST(Lists, OpenTheRowUnderADoubleClickEvenWhenTheFirstPressScrolls) {
               person.doubleClickRow(form.TDBList1, lowest);
             }});
   EXPECT_EQ(row, lowest);
+}
+
+TEST(Lists, OpenTheRowThatWasUnderThePointerBeforeTheFocusMovedAndTheRowsScrolled) {
+  Person person;
+  StatiForm form;
+  std::vector<std::string> taken;
+  form.TDBList1.DblClick = [&] { taken.push_back(toUtf8(form.TDBList1.Text())); };
+  form.Schluessel.LostFocus = [&] { form.TDBList1.Bookmark(form.rsListe->bookmarkOf(24)); };
+  person.at(form, {[&] { form.Schluessel.SetFocus(); }, [&] { person.doubleClickRow(form.TDBList1, 2); }});
+  EXPECT_THAT(taken, ::testing::ElementsAre("003"));
+}
+
+TEST(Lists, ShowARowThatIsGoneAsAnEmptyLineAndAChangedOneAsItIsNow) {
+  Person person;
+  StatiForm form;
+  const auto shown = [&](int row) {
+    return viewOf(person, form.TDBList1).model()->index(row, 1).data().toString().toStdString();
+  };
+  person.at(form, {[&] {
+                     form.connection->Execute(u"DELETE FROM Stati WHERE Status='003'");
+                     form.connection->Execute(u"UPDATE Stati SET Bezeichnung='neu' WHERE Status='005'");
+                     person.clickRow(form.TDBList1, 2);
+                   },
+                   [&] {
+                     EXPECT_EQ(form.TDBList1.Text(), u"");
+                     EXPECT_EQ(shown(2), "");
+                     EXPECT_EQ(shown(4), "Stufe 5") << "drawn before";
+                     person.clickRow(form.TDBList1, 4);
+                   },
+                   [&] {
+                     EXPECT_EQ(form.TDBList1.Columns(1).Value(), Variant(u"neu"));
+                     EXPECT_EQ(shown(4), "neu");
+                   }});
+}
+
+TEST(Lists, AreEmptyAtOnceWhenTheirRecordsetCloses) {
+  Person person;
+  StatiForm form;
+  person.at(form, {[&] {
+                     form.connection->Execute(u"ALTER TABLE Stati RENAME TO Fort");
+                     EXPECT_THROW(form.rsListe->Requery(), RuntimeError);
+                     EXPECT_EQ(viewOf(person, form.TDBList1).model()->rowCount(), 0);
+                     EXPECT_FALSE(viewOf(person, form.TDBList1).currentIndex().isValid());
+                   },
+                   [&] { EXPECT_EQ(form.TDBList1.Row(), -1); }});
+}
+
+// ---- assistive technology
+
+QAccessibleTableInterface& tableOf(const Person& person, TDBList& list) {
+  return *QAccessible::queryAccessibleInterface(&viewOf(person, list))->tableInterface();
+}
+
+TEST(Lists, AreSelectedInByAScreenReaderAsByAClick) {
+  Person person;
+  StatiForm form;
+  std::vector<std::string> events;
+  form.TDBList1.RowColChange = [&] { events.push_back(toUtf8(form.TDBList1.Text())); };
+  form.Schluessel.LostFocus = [&] { events.emplace_back("LostFocus"); };
+  person.at(
+      form,
+      {[&] { form.Schluessel.SetFocus(); }, [&] { tableOf(person, form.TDBList1).selectRow(5); },
+       [&] {
+         EXPECT_THAT(events, ::testing::ElementsAre("LostFocus", "006"));
+         EXPECT_EQ(form.TDBList1.Row(), 5);
+         EXPECT_EQ(form.rsListe->currentRow(), 5);
+         EXPECT_EQ(form.ActiveControl(), &form.TDBList1);
+         EXPECT_TRUE(tableOf(person, form.TDBList1).isRowSelected(5));
+         EXPECT_FALSE(tableOf(person, form.TDBList1).isRowSelected(0));
+         viewOf(person, form.TDBList1).setCurrentIndex(viewOf(person, form.TDBList1).model()->index(8, 1));
+       },
+       [&] { EXPECT_EQ(form.TDBList1.Row(), 8); }});
+}
+
+TEST(Lists, RefuseAScreenReaderWhatTheyRefuseAClick) {
+  Person person;
+  StatiForm form;
+  form.Schluessel.Validate = [](bool& cancel) { cancel = true; };
+  const auto stays = [&] {
+    EXPECT_EQ(form.TDBList1.Row(), 0);
+    EXPECT_TRUE(tableOf(person, form.TDBList1).isRowSelected(0));
+    EXPECT_FALSE(tableOf(person, form.TDBList1).isRowSelected(5));
+    EXPECT_EQ(viewOf(person, form.TDBList1).currentIndex().row(), 0);
+  };
+  person.at(form, {[&] { form.Schluessel.SetFocus(); }, [&] { tableOf(person, form.TDBList1).selectRow(5); },
+                   stays, [&] { tableOf(person, form.TDBList1).unselectRow(0); }, stays,
+                   [&] { viewOf(person, form.TDBList1).clearSelection(); }, stays,
+                   [&] {
+                     const QModelIndex other = viewOf(person, form.TDBList1).model()->index(5, 0);
+                     viewOf(person, form.TDBList1)
+                         .selectionModel()
+                         ->setCurrentIndex(other, QItemSelectionModel::NoUpdate);
+                   },
+                   stays});
+}
+
+// ---- what the window shows, held against the form
+
+TEST(Lists, ThatShowAnotherMarkDifferFromTheForm) {
+  Person person;
+  StatiForm form;
+  person.at(form, {[&] {
+              QItemSelectionModel& selection = *viewOf(person, form.TDBList1).selectionModel();
+              const auto marks = selection.selection();
+              {
+                const QSignalBlocker silently(selection);
+                selection.select(selection.model()->index(3, 0),
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+              }
+              EXPECT_TRUE(person.desktop.differences(form).contains(QLatin1String("selection")));
+              selection.select(marks, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+            }});
+}
+
+TEST(Lists, ThatHaveNotPaintedWhatTheyHoldDifferFromTheForm) {
+  Person person;
+  StatiForm form;
+  person.at(form, {[&] {
+              form.connection->Execute(u"UPDATE Stati SET Bezeichnung='neu' WHERE Status='003'");
+              form.rsListe->refreshRow(2);
+              EXPECT_EQ(person.desktop.differences(form),
+                        QStringLiteral("TDBList1: cell 2,1 is \"Stufe 3\", not \"neu\""));
+              viewOf(person, form.TDBList1).viewport()->update();
+            }});
 }
 
 TEST(Lists, IgnoreAClickBelowTheRows) {
@@ -297,6 +422,28 @@ TEST(Lists, ReadTheKeysOfALargeTableOnWhileNothingElseHappens) {
               for (; rows() < 50'000 && waited < 200; ++waited) person.wait(10);
               EXPECT_EQ(rows(), 50'000);
             }});
+}
+
+TEST(Lists, DescribeACellByTheRestOfItsRow) {
+  Person person;
+  StatiForm form;
+  person.at(form, {[&] {
+                     EXPECT_EQ(tableOf(person, form.TDBList1).cellAt(1, 0)->text(QAccessible::Description),
+                               QStringLiteral("Stufe 2"));
+                     form.TDBList1.Columns(0).Visible(false);
+                   },
+                   [&] {
+                     person.key(Qt::Key_Down);
+                     EXPECT_EQ(viewOf(person, form.TDBList1).currentIndex().column(), 1)
+                         << "what is read out can be seen";
+                   }});
+}
+
+TEST(Lists, AreNamedByTheirFormWhereNoLabelStandsBesideThem) {
+  Person person;
+  StatiForm form;
+  person.at(form,
+            {[&] { EXPECT_EQ(viewOf(person, form.TDBList1).accessibleName(), QStringLiteral("Stati")); }});
 }
 
 TEST(Lists, ReadOutTheirCells) {

@@ -40,10 +40,13 @@ GenericModel::GenericModel(CatalogueSetting setting, std::vector<Row> rows, std:
       key_(std::move(key)),
       textField_{.text = {}, .limit = setting_.textLength} {
   say({{"exec", "DELETE FROM " + setting_.table}});
-  for (const Row& row : rows_)
-    say({{"exec", "INSERT INTO " + setting_.table + " (" + setting_.keyColumn + ", " + setting_.textColumn +
-                      ") VALUES (" + literal(row.key) + ", " + (row.text ? literal(*row.text) : "NULL") +
-                      ")"}});
+  for (const Row& row : rows_) sayInsert(row);
+}
+
+void GenericModel::sayInsert(const Row& row) {
+  say({{"exec", "INSERT INTO " + setting_.table + " (" + setting_.keyColumn + ", " + setting_.textColumn +
+                    ") VALUES (" + literal(row.key) + ", " + (row.text ? literal(*row.text) : "NULL") +
+                    ")"}});
 }
 
 // ---- rows
@@ -53,21 +56,20 @@ GenericModel::Row* GenericModel::find(const std::string& key) {
   return found != rows_.end() ? &*found : nullptr;
 }
 
+bool GenericModel::isStored(const std::string& key) const {
+  return std::ranges::any_of(rows_, [&](const Row& row) { return same(row.key, key); });
+}
+
 int GenericModel::listedRow(const std::string& key) const {
-  for (std::size_t row = 0; row < list_.size(); ++row) {
-    const bool there =
-        std::ranges::any_of(rows_, [&](const Row& each) { return same(each.key, list_[row]); });
-    if (there && same(list_[row], key)) return static_cast<int>(row);
-  }
-  return -1;
+  const auto found = std::ranges::find_if(list_, [&](const std::string& each) { return same(each, key); });
+  return found != list_.end() && isStored(key) ? static_cast<int>(found - list_.begin()) : -1;
 }
 
 /// The list's text: the key of the marked row, nothing for one that is gone.
 std::string GenericModel::listText() const {
   if (marked_ < 0) return "";
   const std::string& key = list_[static_cast<std::size_t>(marked_)];
-  const auto row = std::ranges::find_if(rows_, [&](const Row& each) { return same(each.key, key); });
-  return row != rows_.end() ? row->key : "";
+  return isStored(key) ? key : "";
 }
 
 bool GenericModel::isMarked(const std::string& key) const {
@@ -75,9 +77,7 @@ bool GenericModel::isMarked(const std::string& key) const {
 }
 
 bool GenericModel::hasGoneRows() const {
-  return std::ranges::any_of(list_, [&](const std::string& key) {
-    return std::ranges::none_of(rows_, [&](const Row& row) { return same(row.key, key); });
-  });
+  return !std::ranges::all_of(list_, [&](const std::string& key) { return isStored(key); });
 }
 
 void GenericModel::requery() {
@@ -331,23 +331,23 @@ void GenericModel::clickButton(Focus button) {
   press(button);
 }
 
-void GenericModel::selectRow(int row) {
-  const Json action{{"select", "tdblShow"}, {"row", row}};
+bool GenericModel::pressRow(const char* gesture, int row) {
+  const Json action{{gesture, "tdblShow"}, {"row", row}};
   say(action);
-  if (!listEnabled_) return refuse(action, "tdblShow is disabled");
+  if (!listEnabled_) {
+    refuse(action, "tdblShow is disabled");
+    return false;
+  }
   leaveByHand();
   moveFocus(Focus::List);
   bookmark(row);
+  return true;
 }
 
+void GenericModel::selectRow(int row) { pressRow("select", row); }
+
 void GenericModel::doubleClickRow(int row) {
-  const Json action{{"dblclick", "tdblShow"}, {"row", row}};
-  say(action);
-  if (!listEnabled_) return refuse(action, "tdblShow is disabled");
-  leaveByHand();
-  moveFocus(Focus::List);
-  bookmark(row);
-  pick();
+  if (pressRow("dblclick", row)) pick();
 }
 
 void GenericModel::type(const std::string& text) {
@@ -416,11 +416,7 @@ void GenericModel::pressNewKey() {
 
 void GenericModel::pressSaveKey() {
   say({{"key", "F9"}});
-  if (focus_ == Focus::List) {
-    pick();
-  } else {
-    save();
-  }
+  return focus_ == Focus::List ? pick() : save();
 }
 
 void GenericModel::pressCloseKey(const std::string& key) {
@@ -437,9 +433,8 @@ void GenericModel::closeBox() {
 
 void GenericModel::othersInsert(const Row& row) {
   if (find(row.key) != nullptr) return;
-  say({{"exec", "INSERT INTO " + setting_.table + " (" + setting_.keyColumn + ", " + setting_.textColumn +
-                    ") VALUES (" + literal(row.key) + ", " + literal(row.text.value_or("")) + ")"}});
-  rows_.push_back({row.key, row.text.value_or("")});
+  sayInsert(row);
+  rows_.push_back(row);
 }
 
 void GenericModel::othersDelete(const std::string& key) {

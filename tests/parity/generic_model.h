@@ -106,13 +106,17 @@ class GenericModel {
 
   void say(Json action) { script_.push_back(action.dump()); }
   void expect(Json line) { transcript_.push_back(std::move(line)); }
+  void sayInsert(const Row& row);
   void refuse(const Json& action, const std::string& reason);
   Row* find(const std::string& key);
+  bool isStored(const std::string& key) const;
   Field* field();
   bool enabled(Focus control) const;
   void assign(Field& field, const std::string& text);
   void moveFocus(Focus to);
   void leaveByHand();
+  /// False when the list is disabled.
+  bool pressRow(const char* gesture, int row);
   void initData();
   void loadRecord();
   void findKey();

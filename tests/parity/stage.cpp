@@ -6,8 +6,8 @@
 #include <cstdlib>
 
 #include "host/database/database.h"
+#include "host/database/layout_files.h"
 #include "host/database/schema/sample.h"
-#include "host/database/schema/sample_layouts.h"
 
 namespace zqn::parity {
 

@@ -159,7 +159,8 @@ TEST_F(ScriptErrors, NameTheLineAndWhatWouldBeRight) {
   EXPECT_EQ(
       errorOf("{}"),
       "line 2: unknown action; there is click, focus, type, key, select, dblclick, mouse, drag, menu, close, "
-      "answer, wait, get, list, dump, sql, settings, statements, screenshot, exec, setting, auskunft, fail");
+      "answer, wait, get, list, dump, sql, settings, statements, passedOver, screenshot, exec, setting, "
+      "auskunft, fail, clipboard");
   EXPECT_EQ(errorOf(R"({"click":"btnOk2"})"), "line 2: frmSample has no control \"btnOk2\"; it has " + names);
   EXPECT_EQ(errorOf(R"({"list":"Label1"})"), "line 2: frmSample has no control \"Label1\"; it has " + names);
   EXPECT_EQ(errorOf(R"({"mouse":"MSHFlexGrid1","row":1,"col":1})"),

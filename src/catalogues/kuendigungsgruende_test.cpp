@@ -94,6 +94,7 @@ TEST_F(Kuendigungsgruende, TheKeyIsShownAsItIsStoredAndItsTextSelectedByAClick) 
   show(ofContracts, {u"PREIS"}, [&] {
     enter(u"gerät");
     EXPECT_EQ(text(u"Schluessel"), u"GERÄT");
+    click(u"Schluessel");
     click(u"Text");
     EXPECT_EQ(number(u"Text", u"SelLength"), 14);
   });

@@ -172,7 +172,7 @@ TEST_F(Vertriebsstati, TypingAKnownKeyLoadsItsRowAndSavingUpdatesIt) {
     enter(u"20");
     EXPECT_THAT(fields(), ElementsAre(u"20", u"Angebot abgegeben", u"40", u"1"));
     EXPECT_EQ(get(u"TDBList1", u"Row"), Variant(std::int32_t{1}));
-    click(u"Kurztext");
+    EXPECT_EQ(focus(), u"Kurztext");
     type(u"verhandelt");
     click(u"btnOK");
     EXPECT_THAT(listRows(), ElementsAre(u"10|Interesse geweckt", u"20|verhandelt", u"90|"));

@@ -8,6 +8,7 @@
 #include "desktop/headless/headless_desktop.h"
 #include "forms/command_button.h"
 #include "forms/date_input.h"
+#include "forms/form.h"
 #include "forms/menu.h"
 #include "forms/picture_box.h"
 #include "forms/timer.h"

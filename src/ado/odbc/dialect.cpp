@@ -10,11 +10,9 @@ namespace zqn::ado::odbc {
 
 namespace {
 
-Dialect mariaDb(StringView product, Version since = {}) {
-  const bool returns = since > Version{};
+Dialect mariaDb(StringView product) {
   return {
       .product = product,
-      .since = since,
       // Rows found, not rows changed, as the count of an UPDATE.
       .connection = {{u"OPTION", u"2"}, {u"CHARSET", u"utf8mb4"}},
       .start = {u"SET SESSION sql_mode='ANSI_QUOTES,NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT,STRICT_ALL_TABLES,"
@@ -27,9 +25,10 @@ Dialect mariaDb(StringView product, Version since = {}) {
       .exactBefore = u"CONVERT(",
       .exactBehind = u" USING utf8mb4) COLLATE utf8mb4_nopad_bin",
       .defaultValues = u"() VALUES ()",
-      .returns = returns,
-      .lastNumber = returns ? u"" : u"SELECT LAST_INSERT_ID()",
-      .forgetNumber = returns ? u"" : u"SELECT LAST_INSERT_ID(0)",
+      // Not RETURNING: when such an INSERT has failed, the driver waits for ever at its next run. A trigger's
+      // own numbers do not count here.
+      .lastNumber = u"SELECT LAST_INSERT_ID()",
+      .forgetNumber = u"SELECT LAST_INSERT_ID(0)",
       // The driver's own routines for them run statements at once.
       .tables = u"SELECT '', '', TABLE_NAME FROM information_schema.TABLES WHERE TABLE_SCHEMA=DATABASE()",
       .columns =
@@ -44,8 +43,8 @@ Dialect mariaDb(StringView product, Version since = {}) {
                    u"START TRANSACTION WITH CONSISTENT SNAPSHOT, READ ONLY"}};
 }
 
-const std::array<Dialect, 6>& dialects() {
-  static const std::array<Dialect, 6> rows = {
+const std::array<Dialect, 5>& dialects() {
+  static const std::array<Dialect, 5> rows = {
       Dialect{.product = u""},
       Dialect{
           .product = u"PostgreSQL",
@@ -69,9 +68,7 @@ const std::array<Dialect, 6>& dialects() {
           .madeUpSize = u"MaxVarcharSize",
           .readsOnInBlocks = true,
           .snapshot = {u"BEGIN ISOLATION LEVEL REPEATABLE READ, READ ONLY"}},
-      mariaDb(u"MariaDB", {10, 5}),
-      mariaDb(u"MariaDB"),
-      mariaDb(u"MySQL"),
+      mariaDb(u"MariaDB"), mariaDb(u"MySQL"),
       Dialect{.product = u"Microsoft SQL Server",
               .start = {u"SET QUOTED_IDENTIFIER ON", u"SET LOCK_TIMEOUT 5000"},
               .noTruthWords = true,
@@ -85,26 +82,10 @@ const std::array<Dialect, 6>& dialects() {
 
 }  // namespace
 
-Version Version::of(StringView text) {
-  Version version;
-  int* part = &version.major;
-  for (const char16_t unit : text) {
-    if (ascii::isDigit(unit)) {
-      *part = std::min(*part * 10 + (unit - u'0'), 99999);
-    } else if (unit == u'.' && part == &version.major) {
-      part = &version.minor;
-    } else {
-      break;
-    }
-  }
-  return version;
-}
-
-const Dialect& dialectOf(StringView product, Version version) {
+const Dialect& dialectOf(StringView product) {
   const auto& rows = dialects();
-  const auto row = std::ranges::find_if(rows, [&](const Dialect& dialect) {
-    return ascii::same(dialect.product, product) && dialect.since <= version;
-  });
+  const auto row = std::ranges::find_if(
+      rows, [&](const Dialect& dialect) { return ascii::same(dialect.product, product); });
   return row == rows.end() ? rows.front() : *row;
 }
 

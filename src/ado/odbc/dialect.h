@@ -4,26 +4,15 @@
 // is not there is taken at its word (standard SQL).
 #pragma once
 
-#include <climits>
-#include <compare>
 #include <vector>
 
 #include "runtime/string.h"
 
 namespace zqn::ado::odbc {
 
-struct Version {
-  int major = 0, minor = 0;
-  auto operator<=>(const Version&) const = default;
-  /// As drivers write it: "10.11.000019" is 10.11.
-  static Version of(StringView text);
-};
-
 struct Dialect {
   /// As the driver reports it.
   StringView product;
-  /// Holds from this version on; a product has its rows from the newest to the oldest.
-  Version since = {};
   /// Keys that the driver must be given, appended to a connection string that does not have them.
   std::vector<std::pair<StringView, StringView>> connection = {};
   /// Run on each new connection.
@@ -79,6 +68,6 @@ struct Dialect {
 };
 
 /// The row for a product; never fails.
-const Dialect& dialectOf(StringView product, Version version = {INT_MAX, 0});
+const Dialect& dialectOf(StringView product);
 
 }  // namespace zqn::ado::odbc

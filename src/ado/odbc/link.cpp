@@ -62,7 +62,7 @@ Link::Link(String connectionString, std::chrono::seconds loginTimeout)
     : connectionString_(std::move(connectionString)), loginTimeout_(loginTimeout) {
   connectOnce(connectionString_);
   product_ = told(SQL_DBMS_NAME);
-  dialect_ = &dialectOf(product_, Version::of(told(SQL_DBMS_VER)));
+  dialect_ = &dialectOf(product_);
   connectionString_ = completed(connectionString_, *dialect_);
   if (!dialect_->madeUpSize.empty())
     madeUpSize_ = static_cast<SQLULEN>(

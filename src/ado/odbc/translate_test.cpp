@@ -177,14 +177,4 @@ TEST(Translation, TakesTheNameOfACollationForNoColumn) {
   EXPECT_EQ(postgres(statement), statement);
 }
 
-TEST(Dialect, IsThatOfTheVersion) {
-  EXPECT_TRUE(dialectOf(u"MariaDB", Version::of(u"10.11.000019")).returns);
-  EXPECT_TRUE(dialectOf(u"MariaDB", Version::of(u"11.4.2-MariaDB")).returns);
-  EXPECT_FALSE(dialectOf(u"MariaDB", Version::of(u"10.04.000032")).returns);
-  EXPECT_FALSE(dialectOf(u"MySQL", Version::of(u"8.0.36")).returns);
-  EXPECT_TRUE(dialectOf(u"mariadb").exactTableNames);
-  EXPECT_EQ(Version::of(u"99999999999.1").major, 99999);
-  EXPECT_EQ(Version::of(u""), Version());
-}
-
 }  // namespace zqn::ado::odbc

@@ -231,7 +231,11 @@ class Translator {
     } else if (exactTable && !dialect_.lowerCaseNames) {
       if (const auto name = stored(i, true)) replace(i, i, sql::quoted(*name));
     } else if (token.isPlainLiteral() && dialect_.nationalLiterals && isBeyondAscii(token.text)) {
-      replace(i, i, u"N" + String(token.text));
+      // Behind a word, or the sign of a parameter, it would become part of that.
+      const std::size_t begin = beginOf(token);
+      const bool touches = begin > 0 && !ascii::isBlank(statement_[begin - 1]) &&
+                           StringView(u"(,=<>+").find(statement_[begin - 1]) == StringView::npos;
+      replace(i, i, (touches ? u" N" : u"N") + String(token.text));
     } else if (token.is(u"LIKE") && !dialect_.like.empty()) {
       like(i);
     } else if (token.is(u"DEFAULT") && at(i + 1).is(u"VALUES")) {

@@ -171,6 +171,10 @@ TEST(Translation, LeavesTheLiteralsOfPostgreSqlAlone) {
   EXPECT_EQ(refusal(u"SELECT E'\\'"), error::CommandText);
 }
 
+TEST(Translation, KeepsANationalLiteralApartFromWhatStandsBeforeIt) {
+  EXPECT_EQ(sqlServer(u"SELECT 1 FROM T WHERE a='ä' OR b=:'ä'"), u"SELECT 1 FROM T WHERE a=N'ä' OR b=: N'ä'");
+}
+
 TEST(Translation, TakesTheNameOfACollationForNoColumn) {
   const StringView statement =
       u"SELECT status FROM vertriebsstati WHERE CONCAT(\"status\") COLLATE \"Status\"='x'";

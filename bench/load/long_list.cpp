@@ -10,6 +10,7 @@
 
 #include "ado/odbc/odbc.h"
 #include "ado/recordset.h"
+#include "ado/transaction.h"
 #include "bare.h"
 #include "ground.h"
 #include "host/database/database.h"
@@ -49,7 +50,7 @@ void makeLongTable(const String& connectionString, std::int64_t rows) {
   const host::Table& stages = host::table(u"Vertriebsstati");
   const auto insert =
       connection->provider().prepare(host::insertStatement(stages, *product), ado::Purpose::Plain);
-  host::Transaction transaction(*connection, u"BEGIN");
+  ado::Transaction transaction(*connection);
   host::generateRows(stages, rows,
                      [&](const host::Table&, const host::Row& row) { insert->open(host::parameters(row)); });
   transaction.commit();

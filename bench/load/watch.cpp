@@ -53,8 +53,9 @@ class WatchedKeyset : public ado::Keyset {
     return noticing(watch_, [&] { return keyset_->fetchKeys(keys, atMost); });
   }
   ado::RowHandle handleOf(const ado::RowView& row) override { return keyset_->handleOf(row); }
-  std::optional<ado::RowHandle> inserted(const std::vector<Variant>& values) override {
-    return keyset_->inserted(values);
+  std::optional<ado::RowHandle> inserted(const std::vector<Variant>& values,
+                                         const ado::RowView& returned) override {
+    return keyset_->inserted(values, returned);
   }
   void written(ado::RowHandle row, const std::vector<Variant>& values) override {
     keyset_->written(row, values);

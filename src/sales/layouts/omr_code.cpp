@@ -85,7 +85,7 @@ void frmOMRCode::ShowData() {
   int chosen = -1;
   for (int kind = 0; kind < documentKinds; ++kind) {
     const auto& [code, name] = kinds[static_cast<std::size_t>(kind)];
-    step([&] { lstBelegarten.AddItem(name); });
+    step([&, text = name] { lstBelegarten.AddItem(text); });
     readAssignment(kind);
     if (same(wanted, code)) chosen = kind;
   }

@@ -205,16 +205,21 @@ void TDBList::place(int row) noexcept {
 }
 
 void TDBList::mark(int row, bool raise) {
+  std::optional<RuntimeError> failure;
   try {
     source_->refreshRow(row);
-  } catch (const RuntimeError&) {
-    // A row that cannot be read shows nothing, and gives its error to whoever asks for a value.
+  } catch (const RuntimeError& each) {
+    failure = each;
   }
   place(row);
   changed();
   if (!raise) return;
   unannounced_ = false;
-  RowColChange.raise();
+  // A row that cannot be read, also when asked again, shows nothing and loads nothing; the person is told why.
+  if (failure && !marked_)
+    eventFailed(u"RowColChange", *failure);
+  else
+    RowColChange.raise();
 }
 
 bool TDBList::userPressed(int row) {

@@ -16,6 +16,8 @@ namespace {
 /// A label further away than this many twips says nothing about a field.
 constexpr int reachLeft = 600;
 constexpr int reachAbove = 300;
+/// A box to tick belongs to the drop-down right below it.
+constexpr int reachAboveOfBox = 60;
 constexpr int farAway = std::numeric_limits<int>::max();
 
 bool meet(int start, int length, int otherStart, int otherLength) {
@@ -42,7 +44,8 @@ int distance(const Control& words, const Control& control) {
       meet(words.Top(), words.Height(), control.Top() + control.Height() / 4, control.Height() / 2))
     return std::max(left, 0);
   const int above = control.Top() - (words.Top() + words.Height());
-  if (words.kind() == ControlKind::Label && words.Top() < control.Top() && above <= reachAbove &&
+  const int reach = words.kind() == ControlKind::Label ? reachAbove : reachAboveOfBox;
+  if (words.Top() < control.Top() && above <= reach &&
       meet(words.Left(), words.Width(), control.Left(), control.Width()))
     return reachLeft + std::max(above, 0) + std::abs(control.Left() - words.Left());
   return farAway;

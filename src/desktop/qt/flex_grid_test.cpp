@@ -308,7 +308,8 @@ TEST_F(Grids, AreReadOutCellByCell) {
               EXPECT_EQ(table->rowCount(), 5);
               EXPECT_EQ(table->cellAt(3, 2)->text(QAccessible::Name), QStringLiteral("Zelle 32"));
               EXPECT_EQ(table->cellAt(3, 0)->text(QAccessible::Name), QStringLiteral("neue Zeile"));
-              EXPECT_EQ(table->cellAt(3, 2)->text(QAccessible::Description), QStringLiteral("Zeile 3"));
+              EXPECT_EQ(table->cellAt(3, 2)->text(QAccessible::Description),
+                        QStringLiteral("Zelle 2, Zeile 3"));
               EXPECT_TRUE(table->cellAt(3, 2)->state().selected);
             }});
 }

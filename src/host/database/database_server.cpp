@@ -120,6 +120,7 @@ void lockForInit(ado::Connection& connection, const DatabaseAddress& address) {
 /// tables of the system beside it are an init's that has not come to its end: the next one removes them.
 Created createOneByOne(ado::Connection& connection, const DatabaseAddress& address, DatabaseProduct product,
                        const Content& content) {
+  schemaOf(connection, product, address);  // an address without a database is none to wait for
   lockForInit(connection, address);
   const ServerSchema schema = schemaOf(connection, product, address);
   const String marker(InitMarker);
